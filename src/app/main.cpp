@@ -1,0 +1,28 @@
+#include <QApplication>
+#include <QStandardPaths>
+
+#include "app/program.h"
+
+namespace {
+
+ProgramFolderPlaces program_folder_places() {
+    return {qEnvironmentVariable("ZIMBORA_PROGRAM"),
+            QCoreApplication::applicationDirPath(),
+            QStringLiteral(ZIMBORA_BUILD_BIN),
+            QStringLiteral(ZIMBORA_STAGED_PROGRAM),
+            QStringLiteral(ZIMBORA_INSTALLED_DICTIONARIES),
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)};
+}
+
+}  // namespace
+
+int main(int argc, char *argv[]) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Zimbora"));
+    QApplication::setApplicationVersion(QStringLiteral(ZIMBORA_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("zimbora"));
+    set_up_toolkit();
+    Program program(program_folder_places());
+    program.start(application.arguments().mid(1).join(u' '));
+    return QApplication::exec();
+}

@@ -1,0 +1,168 @@
+#include "app/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <algorithm>
+#include <utility>
+
+#include "lookup/mini_window_file.h"
+#include "platform/files.h"
+#include "ui/colour_copy.h"
+#include "ui/fonts.h"
+
+namespace {
+
+// Resting heights, in twips, and the steps of the way between them.
+constexpr double üres_magasság = 4710;
+constexpr double teli_magasság = 8220;
+constexpr int lépések = 25;
+/// From the bottom of the lowest control that is seen to the window's outer bottom.
+constexpr double alatta = 850;
+
+constexpr double tervezett_pont = 9;
+/// The menus grow with the screen too, but less: they are read one word at a time.
+constexpr double menü_aránya = 0.8;
+
+const QString kisablakfájl_helye = QStringLiteral("c:\\zbrmk\\angol\\kisablak.ini");
+
+void betűméretez(ablak &mit, double szorzó) {
+    for (QWidget *vezérlő : mit.vezérlők()) {
+        QFont betű = vezérlő->font();
+        fonts::set_points(betű, tervezett_pont * szorzó);
+        vezérlő->setFont(betű);
+    }
+    QFont menübetű = mit.menüsor()->font();
+    fonts::set_points(menübetű, tervezett_pont * std::max(1.0, szorzó * menü_aránya));
+    mit.menüsor()->setFont(menübetű);
+    for (QMenu *menü : mit.menüsor()->findChildren<QMenu *>())
+        menü->setFont(menübetű);
+}
+
+}  // namespace
+
+szótár::szótár(szótárkörnyezet környezet)
+    : ablak(QStringLiteral("szótár"), menü::van),
+      k_(std::move(környezet)),
+      v_(*this, lista_),
+      m_(*menüsor()),
+      fájlok_(k_.állapot, lista_, *this, k_.üzenetek, k_.fájlablakok,
+              k_.meghajtó.path(QStringLiteral("c:\\zbrmkfnh.ini"))),
+      üzenet_([this] { return std::make_unique<üzenet>(k_.hasznos, *this, k_.állapot.aktuálisfájl); }) {
+    setWindowTitle(QStringLiteral("névtelen szószedet"));
+    setFont(QFont(QStringList{fonts::times_new_roman}));
+    méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
+    háttérszínbeállít(k_.referencia.háttérszín());
+    eseményeket_köt();
+}
+
+void szótár::eseményeket_köt() {
+    lookup_eseményeket_köt();
+    lista_eseményeket_köt();
+    menü_eseményeket_köt();
+    connect(v_.kilép, &QPushButton::clicked, this, [this] { kilép_Click(); });
+}
+
+void szótár::Form_Load(const QString &parancssor) {
+    k_.referencia.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+    global::színmásol(*this, *this);
+    k_.állapot.változott = 0;
+    fájlok_.fájlistolvas();
+    kisablakfájlolvas();
+    mentbeállít();
+    középre(k_.hasznos.képernyő());
+    ablakigazít();
+    betűméretez(*this, k_.hasznos.ablakméretez(*this, 0.85));
+    k_.hasznos.ablakstílus(*this);
+    magasságbeállít(hely(v_.Ok).bottom() + 120 + keretmagasság());
+    v_.angolszó->setFocus();
+    fájlok_.parancssorból(parancssor);
+}
+
+void szótár::kisablakfájlolvas() {
+    const FileContent tartalom = files::read_whole(k_.meghajtó.path(kisablakfájl_helye));
+    const auto *bytes = std::get_if<QByteArray>(&tartalom);
+    const QSizeF képernyő = k_.hasznos.képernyő();
+    const kisablakfájl::értékek alap{qRound(képernyő.width() / 2), qRound(képernyő.height() / 2), 0};
+    const auto olvasott = bytes ? kisablakfájl::olvas(*bytes) : std::nullopt;
+    const kisablakfájl::értékek értékek = olvasott.value_or(alap);
+    k_.állapot.kisablakbal = értékek.bal;
+    k_.állapot.kisablakfent = értékek.fent;
+    k_.állapot.kisablakmód = értékek.mód;
+}
+
+void szótár::kisablakfájlír() {
+    const QString fájl = k_.meghajtó.path(kisablakfájl_helye);
+    if (QFileInfo(fájl).dir().entryList(QDir::Files).isEmpty())
+        return;
+    const auto hiba = files::replace_whole(
+        fájl, kisablakfájl::ír({k_.állapot.kisablakbal, k_.állapot.kisablakfent, k_.állapot.kisablakmód}));
+    if (hiba)
+        k_.üzenetek.tell(hiba->sentence);
+}
+
+void szótár::kilép_Click() {
+    if (kilép_)
+        return;
+    kilép_ = true;
+    kisablakfájlír();
+    const bool véget_ér = fájlok_.kilépéskérdés();
+    kilépésmégse_ = !véget_ér;
+    kilép_ = false;
+    if (!véget_ér)
+        return;
+    vége_ = true;
+    hide();
+    k_.vége();
+}
+
+void szótár::Form_QueryUnload(bool &mégse) {
+    kilép_Click();
+    mégse = !vége_;
+}
+
+void szótár::closeEvent(QCloseEvent *event) {
+    bool mégse = false;
+    Form_QueryUnload(mégse);
+    event->setAccepted(!mégse);
+}
+
+void szótár::címbeállít(const QString &cím) {
+    setWindowTitle(cím);
+}
+
+void szótár::mentbeállít() {
+    const bool van = !lista_.üres();
+    m_.mnufájlment->setEnabled(van);
+    m_.mnufájlmentmásként->setEnabled(van);
+    m_.mnufeladat->setEnabled(van);
+    // Until its window exists, only the warning about too few pairs can be had.
+    m_.mnufeladatválaszt->setEnabled(lista_.darab() < 2);
+    // Exact on purpose: a window that was scaled to another height is not animated.
+    if (!van && magasság() == teli_magasság)
+        magasságot_csúsztat(teli_magasság, üres_magasság);
+    else if (van && magasság() == üres_magasság)
+        magasságot_csúsztat(üres_magasság, teli_magasság);
+}
+
+void szótár::magasságot_csúsztat(double honnan, double hová) {
+    for (int i = 1; i < lépések; ++i) {
+        magasságbeállít(honnan + i * (hová - honnan) / lépések);
+        k_.lépésköz();
+    }
+    magasságbeállít(hová);
+}
+
+void szótár::ablakigazít() {
+    m_.mnufájl->menuAction()->setVisible(true);
+    m_.mnufeladat->menuAction()->setVisible(true);
+    if (lista_.üres()) {
+        magasságbeállít(hely(v_.Ok).bottom() + alatta);
+        return;
+    }
+    magasságbeállít(hely(v_.módosít).bottom() + alatta);
+    if (v_.szószedet->selected() < 0)
+        v_.szószedet->select(0);
+}

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <array>
+#include <functional>
+
+#include "app/global.h"
+#include "app/main_window_controls.h"
+#include "platform/dialogs.h"
+#include "platform/drive_c.h"
+#include "ui/reference_window.h"
+#include "ui/result_message_window.h"
+#include "ui/window.h"
+#include "ui/window_fitting.h"
+#include "ui/window_reference.h"
+#include "wordlist/word_list_files.h"
+#include "wordlist/word_pair_list.h"
+
+/// What the main window is given. Everything referred to must outlive it.
+struct szótárkörnyezet {
+    global::programállapot &állapot;
+    frm_referencia &referencia;
+    const Module_hasznos &hasznos;
+    MessageBoxes &üzenetek;
+    FileDialogs &fájlablakok;
+    DriveC meghajtó;
+    /// Lets a moment pass between two steps of an animation.
+    std::function<void()> lépésköz;
+    /// Ends the program.
+    std::function<void()> vége;
+};
+
+/// The main window: looks words up, keeps the word list, opens and saves it, and leads to the other windows. Its lists
+/// `szószedet` and `szómagylist` are the word list; its handlers carry the names of their controls and events.
+///
+/// Sources: main_window.cpp its life, size and exit; main_window_lookup.cpp the dictionary; main_window_list.cpp the
+/// word list; main_window_files.cpp the menus.
+class szótár final : public ablak, private szószedetablak {
+  public:
+    explicit szótár(szótárkörnyezet környezet);
+
+    /// Makes the window ready to be shown and opens the list that the command line names, if it names one.
+    void Form_Load(const QString &parancssor);
+
+    // What other windows call.
+    /// Adds the selected hit and meaning to the word list; with nothing selected, or a word that no file could hold,
+    /// nothing but a beep or a message.
+    void hozzáad_Click();
+    /// Looks the text of `angolszó` up in the dictionary of the current direction.
+    void Ok_Click();
+    /// Asks about unsaved changes and ends the program unless the user wants to stay.
+    void kilép_Click();
+    void magyarlist_DblClick();
+
+    [[nodiscard]] const szópárlista &szavak() const { return lista_; }
+
+  protected:
+    void closeEvent(QCloseEvent *event) override;
+
+  private:
+    // Life and size (main_window.cpp)
+    void eseményeket_köt();
+    void kisablakfájlolvas();
+    void kisablakfájlír();
+    void Form_QueryUnload(bool &mégse);
+    void címbeállít(const QString &cím) override;
+    void mentbeállít() override;
+    void ablakigazít() override;
+    void magasságot_csúsztat(double honnan, double hová);
+
+    // The dictionary (main_window_lookup.cpp)
+    void lookup_eseményeket_köt();
+    void angolszó_Change();
+    void szólist_Click();
+    void magyarlist_Click();
+    void nyelv_Click();
+    void Command2_Click();
+    void keresőlisták_ürít();
+    void nincs_szótár(const QString &fájl);
+    [[nodiscard]] bool angolról() const { return v_.nyelv[0]->isChecked(); }
+
+    // The word list (main_window_list.cpp)
+    void lista_eseményeket_köt();
+    void szószedet_Click();
+    void szövegmező_Change();
+    void módosít_Click();
+    void sztöröl_Click();
+    void fókusz_változott(const QWidget *honnan, const QWidget *hová);
+    /// False, after telling why, when no file could hold the pair.
+    [[nodiscard]] bool felvehető(const szópár &pár);
+    void szövegmezőketürít() override;
+
+    // The menus (main_window_files.cpp)
+    void menü_eseményeket_köt();
+    void mnufeladatválaszt_Click();
+    void fájllistmutat(const QStringList &fájlok) override;
+    [[nodiscard]] QStringList fájllist() const override;
+
+    szótárkörnyezet k_;
+    szópárlista lista_;
+    szótárvezérlők v_;
+    szótármenü m_;
+    szószedetfájlok fájlok_;
+    WindowReference<üzenet> üzenet_;
+
+    /// True while a search runs.
+    bool keres_ = false;
+    /// Set when the user answers Cancel to the question at the exit.
+    bool kilépésmégse_ = false;
+    /// True while the exit procedure asks, so that a second request does not ask again.
+    bool kilép_ = false;
+    /// Set when the program ends; a search that runs stops then.
+    bool vége_ = false;
+    /// Whether the missing dictionary of a direction (0 from English, 1 from Hungarian) has been told.
+    std::array<bool, 2> hiány_szólt_{};
+};

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <array>
+
+#include "ui/list_box.h"
+#include "ui/window.h"
+#include "wordlist/recent_files.h"
+#include "wordlist/word_pair_list.h"
+
+/// The controls of the main window: what they are called, what they say, where they stand before the window is scaled.
+/// They belong to the window.
+struct szótárvezérlők {
+    /// Places the controls on `mire`; the two lists of the word list show the columns of `lista`.
+    szótárvezérlők(ablak &mire, szópárlista &lista);
+
+    // Looking a word up.
+    QLabel *Label1;
+    QLineEdit *angolszó;
+    QPushButton *Ok;
+    ListBox *szólist;
+    QLabel *Label2;
+    ListBox *magyarlist;
+    QLabel *Label3;
+    QPushButton *hozzáad;
+    /// 0 "Angolról magyarra", 1 "Magyarról angolra".
+    std::array<QRadioButton *, 2> nyelv;
+    QPushButton *kilép;
+
+    // Never shown: the meanings field of each hit, and the conversion tool.
+    ListBox *megoldlist;
+    QPushButton *Command2;
+
+    // The word list.
+    ListBox *szószedet;
+    ListBox *szómagylist;
+    QPushButton *sztöröl;
+    QLineEdit *szóangtext;
+    QLineEdit *szómagytext;
+    QPushButton *módosít;
+};
+
+/// The menus of the main window.
+struct szótármenü {
+    explicit szótármenü(QMenuBar &sor);
+
+    QMenu *mnufájl;
+    QAction *mnufájlúj;
+    QAction *mnufájlmegnyit;
+    QAction *mnufájlhozzáfűz;
+    QAction *elv1;
+    QAction *mnufájlment;
+    QAction *mnufájlmentmásként;
+    QAction *elv3;
+    /// The recent files, numbered from 1 on the screen and from 0 here; hidden unless filled.
+    std::array<QAction *, legutóbbifájlok::legfeljebb> mnufájlfájl;
+
+    QMenu *mnufeladat;
+    QAction *mnufeladatválaszt;
+};

@@ -1,0 +1,66 @@
+#include "app/program.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QScreen>
+#include <QSessionManager>
+#include <QTimer>
+#include <QTranslator>
+
+#include "ui/fonts.h"
+#include "ui/twips.h"
+
+namespace {
+
+/// 25 steps of this length make an animation of a quarter of a second.
+constexpr int animation_step = 10;
+
+QSizeF screen_in_twips() {
+    const QSizeF pixels = QGuiApplication::primaryScreen()->size();
+    return pixels * twips::per_pixel;
+}
+
+void wait_an_animation_step() {
+    QEventLoop loop;
+    QTimer::singleShot(animation_step, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+}  // namespace
+
+void set_up_toolkit() {
+    QLocale::setDefault(QLocale(QLocale::Hungarian, QLocale::Hungary));
+    auto *translator = new QTranslator(qApp);
+    if (translator->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(translator);
+    fonts::substitute_missing_faces();
+    // The main window hides while another one is used; only the exit procedure ends the program.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+Program::Program(const ProgramFolderPlaces &places)
+    : fitting_(reference_, screen_in_twips),
+      main_window_({state_, reference_, fitting_, message_boxes_, file_dialogs_, DriveC::of_this_user(),
+                    wait_an_animation_step, [] { QCoreApplication::quit(); }}),
+      termination_([this] { main_window_.kilép_Click(); }) {
+    state_.programkönyvtár = find_program_folder(places);
+    message_boxes_.set_window(&main_window_);
+    file_dialogs_.set_window(&main_window_);
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &main_window_, [this](QSessionManager &session) {
+        if (!session.allowsInteraction())
+            return;
+        if (!main_window_.close())
+            session.cancel();
+        session.release();
+    });
+}
+
+void Program::start(const QString &command_line) {
+    // Its files lie there; one that cannot be written is told when it is.
+    static_cast<void>(DriveC::of_this_user().make_root());
+    main_window_.Form_Load(command_line);
+    main_window_.show();
+}

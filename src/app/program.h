@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include "app/global.h"
+#include "app/main_window.h"
+#include "app/program_folder.h"
+#include "platform/drive_c.h"
+#include "platform/termination_signal.h"
+#include "ui/qt_dialogs.h"
+#include "ui/reference_window.h"
+#include "ui/window_fitting.h"
+
+/// The program's parts, made and wired. One object a process, made after the QApplication.
+class Program final {
+  public:
+    explicit Program(const ProgramFolderPlaces &places);
+
+    /// Shows the main window, with the word list that `command_line` names if it names one.
+    void start(const QString &command_line);
+
+    [[nodiscard]] szótár &main_window() { return main_window_; }
+
+  private:
+    global::programállapot state_;
+    QtMessageBoxes message_boxes_;
+    QtFileDialogs file_dialogs_;
+    frm_referencia reference_;
+    Module_hasznos fitting_;
+    szótár main_window_;
+    TerminationSignal termination_;
+};
+
+/// Gives the toolkit's own texts in Hungarian and the program's type face. Call before the first window is made.
+void set_up_toolkit();

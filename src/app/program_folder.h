@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+/// Where the program may find its program folder; each is a path or empty.
+struct ProgramFolderPlaces {
+    /// What the environment's ZIMBORA_PROGRAM names.
+    QString environment;
+    /// Folder of the executable.
+    QString executable;
+    /// Folder of the executables of the build that this program was made by.
+    QString build_bin;
+    /// What is used instead of the folder of the executable when that is `build_bin`.
+    QString staged;
+    /// Folder in which a system-wide installation keeps the dictionaries.
+    QString installed_dictionaries;
+    /// The user's documents.
+    QString documents;
+};
+
+/// The program folder: the first that applies of the environment's; the executable's when a dictionary lies in it; the
+/// staged one when the program runs from its build folder; else the folder "Zimbora" in the user's documents, which is
+/// made and linked to the installed dictionaries. No separator at its end. A folder that cannot be made is returned all
+/// the same: the missing dictionary is then told at the first search.
+[[nodiscard]] QString find_program_folder(const ProgramFolderPlaces &places);
+
+/// Names of the two dictionaries in the program folder.
+inline const QString english_hungarian_file = QStringLiteral("am.txt");
+inline const QString hungarian_english_file = QStringLiteral("ma.txt");

@@ -1,0 +1,42 @@
+#include "lookup/mini_window_file.h"
+
+#include <QByteArrayList>
+#include <limits>
+
+namespace kisablakfájl {
+namespace {
+
+/// The number of `word` if it is whole and fits into Number.
+template <typename Number>
+std::optional<Number> number(const QByteArray &word) {
+    bool whole = false;
+    const qlonglong value = word.toLongLong(&whole);
+    if (!whole || value < std::numeric_limits<Number>::min() || value > std::numeric_limits<Number>::max())
+        return std::nullopt;
+    return static_cast<Number>(value);
+}
+
+/// How a number is written into text files: with a blank in the place of its sign and one behind it.
+QByteArray line(qint64 value) {
+    return (value < 0 ? QByteArray() : QByteArray(" ")) + QByteArray::number(value) + " \r\n";
+}
+
+}  // namespace
+
+std::optional<értékek> olvas(QByteArrayView bytes) {
+    const QByteArrayList words = bytes.toByteArray().replace(',', ' ').simplified().split(' ');
+    if (words.size() < 3)
+        return std::nullopt;
+    const auto bal = number<qint32>(words[0]);
+    const auto fent = number<qint32>(words[1]);
+    const auto mód = number<qint16>(words[2]);
+    if (!bal || !fent || !mód)
+        return std::nullopt;
+    return értékek{*bal, *fent, *mód};
+}
+
+QByteArray ír(const értékek &mit) {
+    return line(mit.bal) + line(mit.fent) + line(mit.mód);
+}
+
+}  // namespace kisablakfájl

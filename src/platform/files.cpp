@@ -1,0 +1,69 @@
+#include "platform/files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace files {
+namespace {
+
+QString reason_not_writable(const QSaveFile &file, const QString &path) {
+    const QFileInfo place(path);
+    if (place.isDir())
+        return QStringLiteral("ez egy mappa neve.");
+    if (!place.dir().exists())
+        return QStringLiteral("a mappa nem létezik.");
+    switch (file.error()) {
+        case QFileDevice::PermissionsError:
+            return QStringLiteral("nincs jogosultság az írásához.");
+        case QFileDevice::ResourceError:
+            return QStringLiteral("nincs elég hely a lemezen.");
+        case QFileDevice::OpenError:
+            return QStringLiteral("ide nem hozható létre fájl.");
+        default:
+            return QStringLiteral("írási hiba történt.");
+    }
+}
+
+}  // namespace
+
+FileContent read_whole(const QString &path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return cannot_read(path, reason_not_readable(path));
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return cannot_read(path, QStringLiteral("olvasási hiba történt."));
+    return bytes;
+}
+
+std::optional<Failure> replace_whole(const QString &path, const QByteArray &bytes) {
+    QSaveFile file(path);
+    // Without the flush, commit() of Qt 6.4 would not see that the last buffer did not fit onto the disk.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit())
+        return std::nullopt;
+    return Failure{QStringLiteral("A(z) „%1” fájl nem írható: %2")
+                       .arg(QDir::toNativeSeparators(path), reason_not_writable(file, path))};
+}
+
+bool exists(const QString &path) {
+    return QFileInfo(path).isFile();
+}
+
+Failure cannot_read(const QString &path, const QString &reason) {
+    return {QStringLiteral("A(z) „%1” fájl nem olvasható: %2").arg(QDir::toNativeSeparators(path), reason)};
+}
+
+QString reason_not_readable(const QString &path) {
+    const QFileInfo place(path);
+    if (!place.exists())
+        return QStringLiteral("a fájl nem létezik.");
+    if (place.isDir())
+        return QStringLiteral("ez egy mappa.");
+    if (!place.isReadable())
+        return QStringLiteral("nincs jogosultság az olvasásához.");
+    return QStringLiteral("a fájl nem nyitható meg.");
+}
+
+}  // namespace files

@@ -1,0 +1,24 @@
+#include "ui/colour_copy.h"
+
+#include <QLabel>
+#include <QRadioButton>
+
+#include "ui/picture_box.h"
+
+namespace global {
+
+void színmásol(ablak &mire, const ablak &főablak) {
+    const QColor szín = főablak.háttérszín();
+    mire.háttérszínbeállít(szín);
+    for (QWidget *vezérlő : mire.vezérlők()) {
+        if (auto *kép = dynamic_cast<PictureBox *>(vezérlő)) {
+            kép->set_background(szín);
+        } else if (auto *címke = qobject_cast<QLabel *>(vezérlő)) {
+            címke->setAutoFillBackground(false);
+        } else if (qobject_cast<QRadioButton *>(vezérlő)) {
+            vezérlő->setPalette(mire.palette());
+        }
+    }
+}
+
+}  // namespace global

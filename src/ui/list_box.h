@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QListView>
+#include <QStringList>
+
+/// A list of texts of which one may be selected. Selecting an item is an event wherever it comes from: a click, a key,
+/// or a call of select(), even of the item that is selected already.
+class ListBox : public QListView {
+    Q_OBJECT
+
+  public:
+    /// A list with items of its own.
+    explicit ListBox(QWidget *parent = nullptr);
+    /// A list that shows a column of `model`, which must outlive it and is changed by its owner, not by add() and
+    /// clear().
+    ListBox(QAbstractItemModel *model, int column, QWidget *parent = nullptr);
+
+    void add(const QString &text);
+    void clear();
+
+    [[nodiscard]] int count() const;
+    [[nodiscard]] QString item(int index) const;
+    /// Index of the selected item; −1 when there is none.
+    [[nodiscard]] int selected() const;
+    /// Selects an item; no item when `index` is −1.
+    void select(int index);
+
+  Q_SIGNALS:
+    /// An item was selected; selected() is its index.
+    void itemSelected();
+    void itemDoubleClicked();
+
+  protected:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+
+  private:
+    class Texts;
+
+    void set_up();
+    void announce();
+
+    Texts *texts_ = nullptr;
+    /// True while select() moves the selection, which announces itself.
+    bool selecting_ = false;
+};

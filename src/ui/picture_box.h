@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QWidget>
+#include <vector>
+
+/// A picture box: a surface on which texts are printed in its current font and stay until it is cleared. Lengths are
+/// twips of its own; nothing printed depends on the resolution it is shown in.
+class PictureBox : public QWidget {
+  public:
+    explicit PictureBox(QWidget *parent = nullptr);
+
+    /// Takes everything printed off.
+    void clear();
+    /// Prints `text` in the widget's font, its top left corner at `position`.
+    void print(const QPointF &position, const QString &text);
+
+    [[nodiscard]] QSizeF inner_size() const;
+    /// Width and height of a line of `text` in the widget's font.
+    [[nodiscard]] QSizeF text_size(const QString &text) const;
+    /// Where the printed texts stand.
+    [[nodiscard]] QRectF printed_area() const;
+
+    void set_background(const QColor &colour);
+
+  protected:
+    void paintEvent(QPaintEvent *event) override;
+
+  private:
+    struct Printed {
+        QRectF place;
+        QString text;
+        QFont font;
+    };
+    std::vector<Printed> printed_;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/dialogs.h"
+
+/// Message boxes of the toolkit, in front of a window of the program.
+class QtMessageBoxes final : public MessageBoxes {
+  public:
+    /// The boxes stand in front of `window`, or by themselves while it does not exist.
+    void set_window(QWidget *window) { window_ = window; }
+
+    void tell(const QString &text) override;
+    [[nodiscard]] Answer ask_yes_no(const QString &title, const QString &text) override;
+    [[nodiscard]] Answer ask_yes_no_cancel(const QString &title, const QString &text) override;
+    void beep() override;
+
+  private:
+    QPointer<QWidget> window_;
+};
+
+/// The system's file dialogs for word lists.
+class QtFileDialogs final : public FileDialogs {
+  public:
+    /// The dialogs stand in front of `window`, or by themselves while it does not exist.
+    void set_window(QWidget *window) { window_ = window; }
+
+    [[nodiscard]] std::optional<QString> open(const QString &proposal) override;
+    [[nodiscard]] std::optional<QString> save(const QString &proposal) override;
+
+  private:
+    QPointer<QWidget> window_;
+};

@@ -1,0 +1,17 @@
+#include "ui/reference_window.h"
+
+#include <QIcon>
+
+namespace {
+
+constexpr QColor papírszín(0xe9, 0xef, 0xf4);
+
+}  // namespace
+
+frm_referencia::frm_referencia() : ablak(QStringLiteral("frm_referencia")) {
+    QIcon ikon;
+    for (const int size : {16, 32, 48, 256})
+        ikon.addFile(QStringLiteral(":/icon/zimbora-%1.png").arg(size), QSize(size, size));
+    setWindowIcon(ikon);
+    háttérszínbeállít(papírszín);
+}

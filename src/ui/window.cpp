@@ -1,0 +1,116 @@
+#include "ui/window.h"
+
+#include <QEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPalette>
+#include <QPushButton>
+#include <functional>
+#include <utility>
+
+#include "ui/twips.h"
+
+namespace {
+
+constexpr double title_and_borders = 405;
+constexpr double menu_bar = 325;
+constexpr double side_borders = 120;
+
+/// Calls back when the watched window is hidden, by whatever way.
+class HideWatch final : public QObject {
+  public:
+    HideWatch(QWidget &window, std::function<void()> hidden) : window_(window), hidden_(std::move(hidden)) {
+        window_.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::Hide && !event->spontaneous())
+            hidden_();
+        return false;
+    }
+
+  private:
+    QWidget &window_;
+    std::function<void()> hidden_;
+};
+
+}  // namespace
+
+ablak::ablak(const QString &név, menü van_menü) : QWidget(nullptr, Qt::Window), felület_(new QWidget(this)) {
+    setObjectName(név);
+    if (van_menü == menü::van)
+        menüsor_ = new QMenuBar(this);
+}
+
+double ablak::keretmagasság() const {
+    return menüsor_ ? title_and_borders + menu_bar : title_and_borders;
+}
+
+double ablak::keretszélesség() const {
+    return side_borders;
+}
+
+void ablak::méretez(double szélesség, double magasság) {
+    szélesség_ = szélesség;
+    magasság_ = magasság;
+    igazít();
+}
+
+void ablak::igazít() {
+    const int width = twips::to_pixels(belsőszélesség());
+    const int height = twips::to_pixels(belsőmagasság());
+    const int menu = menüsor_ ? menüsor_->sizeHint().height() : 0;
+    if (menüsor_)
+        menüsor_->setGeometry(0, 0, width, menu);
+    felület_->setGeometry(0, menu, width, height);
+    setFixedSize(width, menu + height);
+}
+
+void ablak::középre(QSizeF képernyő) {
+    move(twips::to_pixels((képernyő.width() - szélesség_) / 2), twips::to_pixels((képernyő.height() - magasság_) / 2));
+}
+
+void ablak::elhelyez(QWidget *vezérlő, const QRectF &hely) {
+    if (!helyek_.contains(vezérlő)) {
+        const bool látszik = !vezérlő->testAttribute(Qt::WA_WState_ExplicitShowHide) || !vezérlő->isHidden();
+        vezérlő->setParent(felület_);
+        vezérlő->setVisible(látszik);
+        vezérlők_.append(vezérlő);
+    }
+    helyek_.insert(vezérlő, hely);
+    vezérlő->setGeometry(twips::to_pixels(hely));
+}
+
+void ablak::háttérszínbeállít(const QColor &szín) {
+    háttérszín_ = szín;
+    // The colours follow from the background, so that a dark desktop's white text never stands on a light window.
+    setPalette(QPalette(szín, szín));
+}
+
+void ablak::alapgombbeállít(QPushButton *gomb) {
+    if (alapgomb_)
+        alapgomb_->setDefault(false);
+    alapgomb_ = gomb;
+    if (alapgomb_)
+        alapgomb_->setDefault(true);
+}
+
+void ablak::keyPressEvent(QKeyEvent *event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    auto *focused = qobject_cast<QPushButton *>(focusWidget());
+    QPushButton *pressed = focused ? focused : alapgomb_;
+    if (pressed)
+        pressed->click();
+}
+
+void ablak::mutatmodálisan() {
+    QEventLoop loop;
+    const HideWatch watch(*this, [&loop] { loop.quit(); });
+    setWindowModality(Qt::ApplicationModal);
+    show();
+    loop.exec();
+}

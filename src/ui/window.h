@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QColor>
+#include <QHash>
+#include <QList>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QWidget>
+
+class QMenuBar;
+class QPushButton;
+
+/// A window as every window of the program is one: it keeps its own place and size and those of its controls in twips,
+/// has a background colour and a caption, can be shown modally, and has a default button that Enter presses.
+///
+/// Its outer height is the inner height plus a nominal frame (title bar and borders, and the menu bar where there is
+/// one), the same on every system: what the system's own frame takes in pixels never shifts a control.
+class ablak : public QWidget {
+  public:
+    enum class menü { nincs, van };
+
+    explicit ablak(const QString &név, menü van_menü = menü::nincs);
+
+    /// The menu bar; null for a window without one.
+    [[nodiscard]] QMenuBar *menüsor() const { return menüsor_; }
+
+    // Place and size, in twips. The outer sizes include the nominal frame.
+    [[nodiscard]] double magasság() const { return magasság_; }
+    [[nodiscard]] double szélesség() const { return szélesség_; }
+    [[nodiscard]] double keretmagasság() const;
+    [[nodiscard]] double keretszélesség() const;
+    [[nodiscard]] double belsőmagasság() const { return magasság_ - keretmagasság(); }
+    [[nodiscard]] double belsőszélesség() const { return szélesség_ - keretszélesség(); }
+    void méretez(double szélesség, double magasság);
+    void magasságbeállít(double magasság) { méretez(szélesség_, magasság); }
+    /// Centres the window on a screen of this size.
+    void középre(QSizeF képernyő);
+
+    /// Puts a control of the window, its child from now on, to a place on the inner surface, in twips.
+    void elhelyez(QWidget *vezérlő, const QRectF &hely);
+    [[nodiscard]] QRectF hely(const QWidget *vezérlő) const { return helyek_.value(vezérlő); }
+    /// The controls in the order they were placed; menus are none.
+    [[nodiscard]] const QList<QWidget *> &vezérlők() const { return vezérlők_; }
+
+    [[nodiscard]] QColor háttérszín() const { return háttérszín_; }
+    void háttérszínbeállít(const QColor &szín);
+
+    /// The button that Enter presses while no button has the focus; null for none.
+    void alapgombbeállít(QPushButton *gomb);
+    [[nodiscard]] QPushButton *alapgomb() const { return alapgomb_; }
+
+    /// Shows the window and returns when it is hidden or closed; the program's other windows take no input meanwhile.
+    void mutatmodálisan();
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+  private:
+    void igazít();
+
+    QMenuBar *menüsor_ = nullptr;
+    QWidget *felület_ = nullptr;
+    QPushButton *alapgomb_ = nullptr;
+    QList<QWidget *> vezérlők_;
+    QHash<const QWidget *, QRectF> helyek_;
+    QColor háttérszín_;
+    double szélesség_ = 0;
+    double magasság_ = 0;
+};

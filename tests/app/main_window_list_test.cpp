@@ -1,0 +1,265 @@
+#include "support/main_window_fixture.h"
+
+namespace {
+
+class MainWindowList : public MainWindowTest {
+  protected:
+    MainWindowList() { start(); }
+
+    /// Searches `word` and adds its first meaning.
+    void add(const char *word) {
+        text_box("angolszó")->clear();
+        type(word);
+        click("hozzáad");
+    }
+
+    void add_three() {
+        add("apple");
+        add("goat");
+        add("odd");
+    }
+};
+
+TEST_F(MainWindowList, double_click_on_a_meaning_adds_the_pair_with_a_beep) {
+    type("apple");
+
+    QTest::mouseDClick(list("magyarlist")->viewport(), Qt::LeftButton, {},
+                       list("magyarlist")->visualRect(list("magyarlist")->model()->index(1, 0)).center());
+
+    EXPECT_EQ(pairs(), QStringLiteral("apple:almafa"));
+    EXPECT_EQ(boxes_.beeps, 1);
+    EXPECT_EQ(state_.változott, 1);
+    EXPECT_EQ(items("szószedet"), QStringList{QStringLiteral("apple")});
+    EXPECT_EQ(items("szómagylist"), QStringList{QStringLiteral("almafa")});
+    EXPECT_EQ(list("szószedet")->selected(), 0);
+}
+
+TEST_F(MainWindowList, always_puts_english_on_the_english_side) {
+    QTest::mouseClick(control<QRadioButton>("nyelv(1)"), Qt::LeftButton);
+
+    add("megy");
+
+    EXPECT_EQ(pairs(), QStringLiteral("to go:megy"));
+}
+
+TEST_F(MainWindowList, appends_a_further_meaning_to_the_selected_word_and_shows_it) {
+    add("apple");
+    click_item("magyarlist", 1);
+    click("hozzáad");
+    click("hozzáad");
+
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma, almafa"));
+    EXPECT_EQ(text_box("szómagytext")->text(), QStringLiteral("alma, almafa"));
+}
+
+TEST_F(MainWindowList, refuses_an_english_word_with_a_colon_and_changes_nothing) {
+    QTest::mouseClick(control<QRadioButton>("nyelv(1)"), Qt::LeftButton);
+    text_box("angolszó")->setText(QStringLiteral("köz"));
+    click_item("magyarlist", 1);
+
+    click("hozzáad");
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("lane: alley")));
+    EXPECT_EQ(pairs(), QString());
+    EXPECT_EQ(state_.változott, 0);
+}
+
+TEST_F(MainWindowList, adding_with_nothing_selected_only_beeps) {
+    window_->hozzáad_Click();
+
+    EXPECT_EQ(boxes_.beeps, 1);
+    EXPECT_EQ(pairs(), QString());
+    EXPECT_EQ(state_.változott, 0);
+}
+
+TEST_F(MainWindowList, click_on_a_pair_puts_it_into_the_text_boxes) {
+    add_three();
+
+    click_item("szószedet", 1);
+
+    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("goat"));
+    EXPECT_EQ(text_box("szómagytext")->text(), QStringLiteral("kecske"));
+    EXPECT_EQ(list("szómagylist")->selected(), 1);
+}
+
+TEST_F(MainWindowList, click_on_the_hungarian_side_selects_the_pair) {
+    add_three();
+
+    click_item("szómagylist", 0);
+
+    EXPECT_EQ(list("szószedet")->selected(), 0);
+    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("apple"));
+}
+
+TEST_F(MainWindowList, modify_is_enabled_only_for_a_real_change_of_two_texts) {
+    add_three();
+    click_item("szószedet", 0);
+    EXPECT_FALSE(button("módosít")->isEnabled());
+
+    text_box("szóangtext")->setText(QStringLiteral("apples"));
+    EXPECT_TRUE(button("módosít")->isEnabled());
+    text_box("szóangtext")->clear();
+    EXPECT_FALSE(button("módosít")->isEnabled());
+    text_box("szóangtext")->setText(QStringLiteral("apple"));
+    EXPECT_FALSE(button("módosít")->isEnabled());
+    text_box("szómagytext")->setText(QStringLiteral("almák"));
+    EXPECT_TRUE(button("módosít")->isEnabled());
+}
+
+TEST_F(MainWindowList, modify_writes_the_two_texts_back) {
+    add_three();
+    state_.változott = 0;
+    click_item("szószedet", 1);
+    text_box("szómagytext")->setText(QStringLiteral("kecske, gida"));
+
+    click("módosít");
+
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma goat:kecske, gida odd:furcsa"));
+    EXPECT_EQ(state_.változott, 1);
+    EXPECT_EQ(list("szószedet")->selected(), 1);
+    EXPECT_FALSE(button("módosít")->isEnabled());
+}
+
+TEST_F(MainWindowList, modify_refuses_a_colon_in_the_english_word) {
+    add_three();
+    click_item("szószedet", 0);
+    state_.változott = 0;
+    text_box("szóangtext")->setText(QStringLiteral("a:b"));
+
+    click("módosít");
+
+    EXPECT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(pairs().startsWith(QStringLiteral("apple:alma")));
+    EXPECT_EQ(state_.változott, 0);
+    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("a:b"));
+}
+
+TEST_F(MainWindowList, enter_in_a_text_box_modifies) {
+    add_three();
+    click_item("szószedet", 2);
+    text_box("szómagytext")->setFocus();
+    text_box("szómagytext")->setText(QStringLiteral("páratlan"));
+    EXPECT_TRUE(button("módosít")->isDefault());
+
+    QTest::keyClick(text_box("szómagytext"), Qt::Key_Return);
+
+    EXPECT_EQ(items("szómagylist")[2], QStringLiteral("páratlan"));
+    list("szólist")->setFocus();
+    EXPECT_FALSE(button("módosít")->isDefault());
+}
+
+TEST_F(MainWindowList, enter_in_the_meanings_adds) {
+    type("apple");
+    list("magyarlist")->setFocus();
+    EXPECT_TRUE(button("hozzáad")->isDefault());
+
+    QTest::keyClick(list("magyarlist"), Qt::Key_Down);
+    QTest::keyClick(list("magyarlist"), Qt::Key_Return);
+
+    EXPECT_EQ(pairs(), QStringLiteral("apple:almafa"));
+}
+
+TEST_F(MainWindowList, delete_is_enabled_while_the_list_or_the_button_has_the_focus) {
+    add_three();
+    EXPECT_FALSE(button("sztöröl")->isEnabled());
+
+    list("szószedet")->setFocus();
+    EXPECT_TRUE(button("sztöröl")->isEnabled());
+    button("sztöröl")->setFocus();
+    EXPECT_TRUE(button("sztöröl")->isEnabled());
+    list("szószedet")->setFocus();
+    text_box("szóangtext")->setFocus();
+    EXPECT_FALSE(button("sztöröl")->isEnabled());
+}
+
+TEST_F(MainWindowList, delete_is_reached_from_the_list_by_tab) {
+    add_three();
+    list("szószedet")->setFocus();
+
+    QTest::keyClick(list("szószedet"), Qt::Key_Tab);
+
+    EXPECT_TRUE(button("sztöröl")->hasFocus());
+    EXPECT_TRUE(button("sztöröl")->isEnabled());
+}
+
+TEST_F(MainWindowList, delete_stays_disabled_for_an_empty_list) {
+    list("szószedet")->setFocus();
+
+    EXPECT_FALSE(button("sztöröl")->isEnabled());
+}
+
+TEST_F(MainWindowList, deleting_selects_the_next_pair) {
+    add_three();
+    click_item("szószedet", 1);
+
+    click("sztöröl");
+
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma odd:furcsa"));
+    EXPECT_EQ(list("szószedet")->selected(), 1);
+    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("odd"));
+    EXPECT_TRUE(list("szószedet")->hasFocus());
+    EXPECT_TRUE(button("sztöröl")->isEnabled());
+}
+
+TEST_F(MainWindowList, deleting_the_last_pair_selects_the_new_last) {
+    add_three();
+    click_item("szószedet", 2);
+
+    click("sztöröl");
+
+    EXPECT_EQ(list("szószedet")->selected(), 1);
+    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("goat"));
+}
+
+TEST_F(MainWindowList, deleting_the_only_pair_leaves_nothing_to_save_without_a_file) {
+    add("apple");
+    list("szószedet")->setFocus();
+
+    click("sztöröl");
+
+    EXPECT_EQ(pairs(), QString());
+    EXPECT_EQ(list("szószedet")->selected(), -1);
+    EXPECT_EQ(text_box("szóangtext")->text(), QString());
+    EXPECT_EQ(text_box("szómagytext")->text(), QString());
+    EXPECT_EQ(state_.változott, 0);
+    window_->kilép_Click();
+    EXPECT_TRUE(boxes_.asked.isEmpty());
+    EXPECT_TRUE(ended_);
+}
+
+TEST_F(MainWindowList, deleting_the_only_pair_of_a_file_is_a_change) {
+    state_.aktuálisfájl = place("a.szs");
+    add("apple");
+    list("szószedet")->setFocus();
+
+    click("sztöröl");
+
+    EXPECT_EQ(state_.változott, 1);
+}
+
+TEST_F(MainWindowList, scrolls_both_sides_in_step) {
+    QByteArray bytes;
+    for (int i = 0; i < 200; ++i)
+        bytes += "word" + QByteArray::number(i) + ":sz\xf3\r\n";
+    dialogs_.choices = {word_list("a.szs", bytes)};
+    action("mnufájlmegnyit")->trigger();
+
+    list("szószedet")->scrollToBottom();
+
+    EXPECT_EQ(list("szómagylist")->indexAt(QPoint(5, 5)).row(), list("szószedet")->indexAt(QPoint(5, 5)).row());
+    EXPECT_GT(list("szómagylist")->indexAt(QPoint(5, 5)).row(), 100);
+}
+
+TEST_F(MainWindowList, holds_a_pair_of_a_million_letters_without_cutting_it) {
+    const QByteArray longest(1 << 20, 'x');
+    dialogs_.choices = {word_list("a.szs", "long:" + longest + "\r\n")};
+
+    action("mnufájlmegnyit")->trigger();
+    text_box("szóangtext")->setText(QStringLiteral("longer"));
+    click("módosít");
+
+    EXPECT_EQ(pairs(), QStringLiteral("longer:") + QString::fromLatin1(longest));
+}
+
+}  // namespace

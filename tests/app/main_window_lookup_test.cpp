@@ -1,0 +1,191 @@
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include "support/main_window_fixture.h"
+
+namespace {
+
+class MainWindowLookup : public MainWindowTest {
+  protected:
+    MainWindowLookup() { start(); }
+
+    void look_up_from_hungarian() { QTest::mouseClick(control<QRadioButton>("nyelv(1)"), Qt::LeftButton); }
+};
+
+TEST_F(MainWindowLookup, searches_while_the_word_is_typed) {
+    type("app");
+
+    EXPECT_EQ(items("szólist"), QStringList({QStringLiteral("apple pie"), QStringLiteral("apple")}));
+    EXPECT_EQ(hit_count(), QStringLiteral("2 találat"));
+}
+
+TEST_F(MainWindowLookup, selects_the_exact_hit_and_shows_its_meanings) {
+    type("apple");
+
+    EXPECT_EQ(list("szólist")->selected(), 1);
+    EXPECT_EQ(items("magyarlist"), QStringList({QStringLiteral("alma"), QStringLiteral("almafa")}));
+    EXPECT_EQ(list("magyarlist")->selected(), 0);
+    EXPECT_TRUE(button("hozzáad")->isEnabled());
+}
+
+TEST_F(MainWindowLookup, shows_headwords_with_their_to_and_keeps_the_meanings_beside_them) {
+    type("go");
+
+    EXPECT_EQ(items("szólist"), QStringList({QStringLiteral("to go"), QStringLiteral("go"), QStringLiteral("goat")}));
+    EXPECT_EQ(items("megoldlist"),
+              QStringList({QStringLiteral("megy÷jár÷"), QStringLiteral("menet÷"), QStringLiteral("kecske÷")}));
+    EXPECT_EQ(list("szólist")->selected(), 1);
+}
+
+TEST_F(MainWindowLookup, shows_the_meanings_of_the_hit_that_is_clicked) {
+    type("go");
+
+    click_item("szólist", 0);
+
+    EXPECT_EQ(items("magyarlist"), QStringList({QStringLiteral("megy"), QStringLiteral("jár")}));
+    EXPECT_EQ(list("magyarlist")->selected(), 0);
+}
+
+TEST_F(MainWindowLookup, says_no_hits_and_empties_the_lists) {
+    type("app");
+    type("x");
+
+    EXPECT_EQ(hit_count(), QStringLiteral("0 találat"));
+    for (const char *name : {"szólist", "megoldlist", "magyarlist"})
+        EXPECT_EQ(list(name)->count(), 0);
+    EXPECT_FALSE(button("hozzáad")->isEnabled());
+}
+
+TEST_F(MainWindowLookup, has_no_meaning_to_add_when_the_entry_has_no_separator) {
+    type("no m");
+
+    EXPECT_EQ(items("szólist"), QStringList{QStringLiteral("no meaning")});
+    EXPECT_EQ(list("magyarlist")->count(), 0);
+    EXPECT_FALSE(button("hozzáad")->isEnabled());
+}
+
+TEST_F(MainWindowLookup, leaves_the_lists_empty_for_a_text_that_begins_with_to) {
+    type("to go");
+
+    EXPECT_EQ(list("szólist")->count(), 0);
+    EXPECT_EQ(list("magyarlist")->count(), 0);
+}
+
+TEST_F(MainWindowLookup, finds_nothing_for_a_letter_that_no_dictionary_can_hold) {
+    type("app");
+    text_box("angolszó")->setText(QStringLiteral("火"));
+
+    EXPECT_EQ(hit_count(), QStringLiteral("0 találat"));
+    EXPECT_EQ(list("szólist")->count(), 0);
+}
+
+TEST_F(MainWindowLookup, enables_ok_only_with_a_text_and_keeps_the_last_hits_without) {
+    EXPECT_FALSE(button("Ok")->isEnabled());
+    type("app");
+    EXPECT_TRUE(button("Ok")->isEnabled());
+
+    text_box("angolszó")->clear();
+
+    EXPECT_FALSE(button("Ok")->isEnabled());
+    EXPECT_EQ(list("szólist")->count(), 2);
+}
+
+TEST_F(MainWindowLookup, ok_searches_again) {
+    type("app");
+    click_item("szólist", 0);
+
+    click("Ok");
+
+    EXPECT_EQ(list("szólist")->selected(), 0);
+    EXPECT_EQ(items("szólist").size(), 2);
+    EXPECT_EQ(items("magyarlist"), QStringList{QStringLiteral("almatorta")});
+}
+
+TEST_F(MainWindowLookup, direction_changes_captions_and_dictionary_and_clears_all) {
+    type("app");
+
+    look_up_from_hungarian();
+
+    EXPECT_EQ(control<QLabel>("Label1")->text(), QStringLiteral("&Magyarul:"));
+    EXPECT_EQ(control<QLabel>("Label2")->text(), QStringLiteral("Angolul:"));
+    EXPECT_EQ(text_box("angolszó")->text(), QString());
+    EXPECT_TRUE(text_box("angolszó")->hasFocus());
+    EXPECT_EQ(list("szólist")->count(), 0);
+    EXPECT_EQ(list("magyarlist")->count(), 0);
+    EXPECT_FALSE(button("hozzáad")->isEnabled());
+
+    type("megy");
+    EXPECT_EQ(items("magyarlist"), QStringList({QStringLiteral("to go"), QStringLiteral("to walk")}));
+
+    QTest::mouseClick(control<QRadioButton>("nyelv(0)"), Qt::LeftButton);
+    EXPECT_EQ(control<QLabel>("Label1")->text(), QStringLiteral("&Angolul:"));
+    EXPECT_EQ(control<QLabel>("Label2")->text(), QStringLiteral("Magyarul:"));
+}
+
+TEST_F(MainWindowLookup, tells_a_missing_dictionary_once_for_each_direction) {
+    QFile::remove(place("angol/am.txt"));
+    QFile::remove(place("angol/ma.txt"));
+
+    type("app");
+    EXPECT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("am.txt")));
+    EXPECT_EQ(hit_count(), QStringLiteral("nincs szótárfájl"));
+    look_up_from_hungarian();
+    type("alm");
+
+    EXPECT_EQ(boxes_.told.size(), 2);
+    EXPECT_TRUE(boxes_.told[1].contains(QStringLiteral("ma.txt")));
+}
+
+/// A dictionary in which a search takes long enough for other events to come in between.
+class LongSearch : public MainWindowTest {
+  protected:
+    LongSearch() {
+        QByteArrayList entries;
+        for (int i = 0; i < 120000; ++i)
+            entries.append("g" + QByteArray::number(i) + ":x\xf7");
+        entries.append("goat:kecske\xf7");
+        write_file(place("angol/am.txt"), dictionary_of(entries));
+        start();
+    }
+};
+
+TEST_F(LongSearch, typing_quickly_leaves_only_the_lists_of_the_last_search) {
+    QTimer::singleShot(0, window_.get(), [this] { type("oat"); });
+
+    type("g");
+
+    EXPECT_EQ(text_box("angolszó")->text(), QStringLiteral("goat"));
+    EXPECT_EQ(items("szólist"), QStringList{QStringLiteral("goat")});
+    EXPECT_EQ(hit_count(), QStringLiteral("1 találat"));
+    EXPECT_EQ(items("magyarlist"), QStringList{QStringLiteral("kecske")});
+}
+
+TEST_F(LongSearch, ends_at_once_when_the_program_ends) {
+    QTimer::singleShot(0, window_.get(), [this] { window_->kilép_Click(); });
+
+    type("g");
+
+    EXPECT_TRUE(ended_);
+    EXPECT_LT(list("szólist")->count(), 120000);
+}
+
+TEST_F(MainWindowLookup, hidden_conversion_button_reports_in_the_hit_count) {
+    EXPECT_FALSE(button("Command2")->isVisible());
+    EXPECT_EQ(button("Command2")->text(), QStringLiteral("Állományt átalakít (nem látható)"));
+    write_file(place("angol/magyar.skt"), "b\r\na\r\n");
+
+    button("Command2")->click();
+
+    EXPECT_EQ(hit_count(), QStringLiteral("Művelet kész."));
+    EXPECT_EQ(read_file(place("angol/magyarvg.skt")), "A\r\nB\r\n");
+}
+
+TEST_F(MainWindowLookup, conversion_tells_when_its_input_is_missing) {
+    button("Command2")->click();
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("magyar.skt")));
+}
+
+}  // namespace

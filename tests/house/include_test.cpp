@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QRegularExpression>
+#include <optional>
+
+namespace {
+
+const QString source_folder = QStringLiteral(ZIMBORA_SOURCE_DIR);
+
+/// The floor on which a source stands: 0 the ground, 1 decisions without a widget, 2 ui/, 3 windows, 4 the roof.
+/// Nothing for a folder that is in none of the floors.
+std::optional<int> floor_of(const QString &file) {
+    static const QStringList ground_of_app{QStringLiteral("app/global"), QStringLiteral("app/settings_store"),
+                                           QStringLiteral("app/program_folder")};
+    static const QMap<QString, int> floors{
+        {QStringLiteral("platform"), 0},  {QStringLiteral("wordlist"), 1}, {QStringLiteral("dictionary"), 1},
+        {QStringLiteral("exercises"), 1}, {QStringLiteral("lookup"), 1},   {QStringLiteral("media"), 1},
+        {QStringLiteral("print"), 1},     {QStringLiteral("ui"), 2},       {QStringLiteral("app"), 4}};
+    const QString stem = file.section(u'.', 0, 0);
+    if (ground_of_app.contains(stem))
+        return 0;
+    const auto folder = floors.constFind(file.section(u'/', 0, 0));
+    if (folder == floors.constEnd())
+        return std::nullopt;
+    return *folder == 1 && stem.endsWith(QStringLiteral("_window")) ? 3 : *folder;
+}
+
+QString folder_of(const QString &file) {
+    return file.section(u'/', 0, 0);
+}
+
+QStringList sources() {
+    QStringList files;
+    QDirIterator all(source_folder, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files,
+                     QDirIterator::Subdirectories);
+    while (all.hasNext())
+        files.append(all.next().mid(source_folder.size() + 1));
+    return files;
+}
+
+/// Our own headers that `file` includes.
+QStringList includes_of(const QString &file) {
+    QFile source(source_folder + u'/' + file);
+    if (!source.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(file));
+    static const QRegularExpression own(QStringLiteral("^#include \"([^\"]+)\""), QRegularExpression::MultilineOption);
+    QStringList headers;
+    auto matches = own.globalMatch(QString::fromUtf8(source.readAll()));
+    while (matches.hasNext())
+        headers.append(matches.next().captured(1));
+    return headers;
+}
+
+TEST(Includes, go_down_or_stay_on_their_floor) {
+    const QStringList files = sources();
+    ASSERT_GT(files.size(), 30);
+    for (const QString &file : files) {
+        const auto floor = floor_of(file);
+        ASSERT_TRUE(floor) << file.toStdString() << " stands on no floor";
+        for (const QString &header : includes_of(file)) {
+            const auto below = floor_of(header);
+            ASSERT_TRUE(below) << file.toStdString() << " includes " << header.toStdString();
+            EXPECT_LE(*below, *floor) << file.toStdString() << " includes " << header.toStdString() << " above it";
+        }
+    }
+}
+
+TEST(Includes, of_a_window_never_name_another_folders_window) {
+    for (const QString &file : sources()) {
+        if (floor_of(file) != 3)
+            continue;
+        for (const QString &header : includes_of(file)) {
+            if (floor_of(header) == 3) {
+                EXPECT_EQ(folder_of(header), folder_of(file)) << file.toStdString();
+            }
+        }
+    }
+}
+
+TEST(SystemHeaders, are_included_by_the_ports_only) {
+    static const QRegularExpression system(
+        QStringLiteral("^#include <(unistd|windows|fcntl|sys/|csignal)|^#\\s*if.*(_WIN32|__linux__|Q_OS_)"),
+        QRegularExpression::MultilineOption);
+    for (const QString &file : sources()) {
+        if (file.startsWith(QStringLiteral("platform/linux/")) || file.startsWith(QStringLiteral("platform/windows/")))
+            continue;
+        QFile source(source_folder + u'/' + file);
+        ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+        EXPECT_FALSE(system.match(QString::fromUtf8(source.readAll())).hasMatch()) << file.toStdString();
+    }
+}
+
+}  // namespace

@@ -1,0 +1,115 @@
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <csignal>
+
+#include "support/files_for_tests.h"
+#include "support/printing.h"
+
+namespace {
+
+constexpr rlim_t small_file = 4096;
+
+/// From here on the process can write no file larger than small_file, as on a full disk.
+void limit_file_size() {
+    const rlimit limit{small_file, RLIM_INFINITY};
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+class Files : public testing::Test {
+  protected:
+    [[nodiscard]] QString in_folder(const QString &name) const { return folder_.filePath(name); }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(Files, reads_what_was_written) {
+    const QString path = in_folder(QStringLiteral("szavak ő.szs"));
+    const QByteArray bytes("a\0b\r\n", 5);
+
+    EXPECT_FALSE(files::replace_whole(path, bytes));
+
+    EXPECT_EQ(std::get<QByteArray>(files::read_whole(path)), bytes);
+}
+
+TEST_F(Files, says_why_a_missing_file_cannot_be_read) {
+    const FileContent content = files::read_whole(in_folder(QStringLiteral("nincs.szs")));
+
+    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(
+        QStringLiteral("nincs.szs” fájl nem olvasható: a fájl nem létezik.")));
+}
+
+TEST_F(Files, says_why_a_folder_cannot_be_read) {
+    const FileContent content = files::read_whole(folder_.path());
+
+    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(QStringLiteral("ez egy mappa.")));
+}
+
+TEST_F(Files, says_so_when_reading_fails_half_way) {
+    // The memory of a process opens, but its first page cannot be read.
+    const FileContent content = files::read_whole(QStringLiteral("/proc/self/mem"));
+
+    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(QStringLiteral("olvasási hiba történt.")));
+}
+
+TEST_F(Files, says_why_a_file_cannot_be_written_into_a_missing_folder) {
+    const auto failure = files::replace_whole(in_folder(QStringLiteral("nincs/lista.szs")), "a:b\r\n");
+
+    ASSERT_TRUE(failure);
+    EXPECT_TRUE(failure->sentence.endsWith(QStringLiteral("fájl nem írható: a mappa nem létezik.")));
+}
+
+TEST_F(Files, says_so_when_a_folder_takes_no_files) {
+    // Nobody, not even root, can make a file there.
+    const auto failure = files::replace_whole(QStringLiteral("/proc/lista.szs"), "a:b\r\n");
+
+    ASSERT_TRUE(failure);
+    EXPECT_TRUE(failure->sentence.startsWith(QStringLiteral("A(z) „/proc/lista.szs” fájl nem írható: ")));
+}
+
+TEST_F(Files, leaves_the_old_file_whole_when_the_disk_is_full) {
+    const QString path = in_folder(QStringLiteral("lista.szs"));
+    write_file(path, "old:régi\r\n");
+    // A small file fails only when its one buffer is written out, a large one earlier.
+    for (const qsizetype size : {10000, 1 << 20}) {
+        EXPECT_EXIT(
+            {
+                std::signal(SIGXFSZ, SIG_IGN);
+                limit_file_size();
+                const auto failure = files::replace_whole(path, QByteArray(size, 'x'));
+                std::exit(failure ? 0 : 1);
+            },
+            testing::ExitedWithCode(0), "");
+
+        EXPECT_EQ(read_file(path), "old:régi\r\n");
+        EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{QStringLiteral("lista.szs")});
+    }
+}
+
+TEST_F(Files, leaves_the_old_file_whole_when_the_process_is_killed_in_the_middle) {
+    const QString path = in_folder(QStringLiteral("lista.szs"));
+    write_file(path, "old:régi\r\n");
+    EXPECT_EXIT(
+        {
+            limit_file_size();
+            static_cast<void>(files::replace_whole(path, QByteArray(1 << 20, 'x')));
+            std::exit(0);
+        },
+        testing::KilledBySignal(SIGXFSZ), "");
+
+    EXPECT_EQ(read_file(path), "old:régi\r\n");
+}
+
+TEST_F(Files, takes_only_a_file_for_an_existing_file) {
+    write_file(in_folder(QStringLiteral("van.szs")), "");
+
+    EXPECT_TRUE(files::exists(in_folder(QStringLiteral("van.szs"))));
+    EXPECT_FALSE(files::exists(in_folder(QStringLiteral("nincs.szs"))));
+    EXPECT_FALSE(files::exists(folder_.path()));
+}
+
+}  // namespace

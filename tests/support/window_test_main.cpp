@@ -1,0 +1,20 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLocale>
+#include <QStandardPaths>
+
+#include "ui/fonts.h"
+
+// Style, type face and locale are those of the tests, whatever desktop they run on.
+int main(int argc, char *argv[]) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QStandardPaths::setTestModeEnabled(true);
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale(QLocale::Hungarian, QLocale::Hungary));
+    fonts::substitute_missing_faces();
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,140 @@
+#include "freedict/dictd_files.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "tools/sample_package.h"
+
+namespace {
+
+using freedict::Definition;
+using freedict::definitions;
+using freedict::unpacked;
+
+const QString index_name = QStringLiteral("sample.index");
+const QString data_name = QStringLiteral("sample.dict.dz");
+
+QString sentence(const std::variant<QVector<Definition>, Failure> &result) {
+    const auto *failure = std::get_if<Failure>(&result);
+    return failure == nullptr ? QString() : failure->sentence;
+}
+
+/// Bytes that hardly become shorter when packed, the same in every run.
+QByteArray noise(qsizetype size) {
+    std::mt19937 random(1);
+    QByteArray bytes(size, '\0');
+    for (char &byte : bytes)
+        byte = static_cast<char>(random() & 0xFF);
+    return bytes;
+}
+
+TEST(DictdIndex, ALineGivesItsPlaceAndLengthInBase64MostSignificantDigitFirst) {
+    const QByteArray data(3000, 'x');
+
+    const auto result = definitions("apple\tc\thf\n", data, index_name);
+
+    const auto &found = std::get<QVector<Definition>>(result);
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_TRUE(found[0].index_word == "apple");
+    EXPECT_EQ(found[0].text.data() - data.data(), 28);
+    EXPECT_EQ(found[0].text.size(), 33 * 64 + 31);
+}
+
+TEST(DictdIndex, EachOfThe64DigitsHasItsValue) {
+    const QByteArray digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    const QByteArray data(64, 'x');
+
+    for (qsizetype value = 0; value < 64; ++value) {
+        const auto result = definitions(QByteArray("w\tA\t") + digits[value] + '\n', data, index_name);
+
+        ASSERT_EQ(std::get<QVector<Definition>>(result).at(0).text.size(), value);
+    }
+}
+
+TEST(DictdIndex, ADefinitionMayEndWithTheData) {
+    const auto result = definitions("w\tB\tC\n", "abc", index_name);
+
+    EXPECT_TRUE(std::get<QVector<Definition>>(result).at(0).text == "bc");
+}
+
+TEST(DictdIndex, ADefinitionThatReachesBeyondTheDataIsNamedWithItsLine) {
+    for (const char *line : {"w\tB\tD\n", "w\tE\tA\n", "w\t////////\tB\n", "w\t/////////\t/////////\n"}) {
+        const auto result = definitions(QByteArray("w\tA\tA\n") + line, "abc", index_name);
+
+        EXPECT_EQ(sentence(result),
+                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 2. sorban az adatfájlon kívüli hely áll."));
+    }
+}
+
+TEST(DictdIndex, ANumberWithAnyOtherCharacterOrWithTooManyDigitsIsRefused) {
+    for (const char *line : {"w\tA=\tA\n", "w\tA\t-\n", "w\t\tA\n", "w\tA\t\n", "w\tA\tA\r\n", "w\tA\tA\tw\n",
+                             "w\tAAAAAAAAAA\tA\n", "w\tA\t\xC3\xA1\n"}) {
+        const auto result = definitions(line, "abc", index_name);
+
+        EXPECT_EQ(sentence(result),
+                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 1. sorban nem olvasható szám áll."))
+            << line;
+    }
+}
+
+TEST(DictdIndex, ALineWithoutThreeColumnsIsRefused) {
+    for (const char *line : {"\n", "w\n", "w\tA\n", "\tA\tA\n"}) {
+        const auto result = definitions(line, "abc", index_name);
+
+        EXPECT_EQ(sentence(result),
+                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 1. sorban nem három oszlop áll."))
+            << line;
+    }
+}
+
+TEST(DictdIndex, AnIndexCutOffInItsLastLineIsRefused) {
+    const auto result = definitions("a\tA\tB\nb\tB\tB", "abc", index_name);
+
+    EXPECT_EQ(sentence(result), QStringLiteral("A(z) „sample.index” fájl sérült: az utolsó sora csonka."));
+}
+
+TEST(DictdData, AFileOfManyMegabytesIsUnpackedByteForByte) {
+    for (const QByteArray &bytes : {QByteArray(), QByteArray("alma"), noise(3'000'000), QByteArray(5'000'000, 'a')}) {
+        const FileContent content = unpacked(SamplePackage::packed(bytes), data_name);
+
+        ASSERT_TRUE(std::holds_alternative<QByteArray>(content));
+        EXPECT_TRUE(std::get<QByteArray>(content) == bytes);
+    }
+}
+
+TEST(DictdData, AFileCutOffAnywhereIsRefused) {
+    const QByteArray gzip = SamplePackage::packed(noise(300));
+
+    for (qsizetype size = 0; size < gzip.size(); ++size) {
+        const FileContent content = unpacked(gzip.first(size), data_name);
+
+        ASSERT_TRUE(std::holds_alternative<Failure>(content)) << size;
+        EXPECT_EQ(std::get<Failure>(content).sentence,
+                  QStringLiteral("A(z) „sample.dict.dz” fájl sérült: nem ép gzip-fájl."));
+    }
+}
+
+TEST(DictdData, AFileWithOneWrongByteInItsDataIsRefused) {
+    QByteArray gzip = SamplePackage::packed(noise(300));
+    gzip[gzip.size() / 2] = static_cast<char>(gzip[gzip.size() / 2] ^ 1);
+
+    const FileContent content = unpacked(gzip, data_name);
+
+    EXPECT_TRUE(std::holds_alternative<Failure>(content));
+}
+
+TEST(DictdData, AFileWithSomethingBehindItsEndIsRefused) {
+    const FileContent content = unpacked(SamplePackage::packed("alma") + 'x', data_name);
+
+    ASSERT_TRUE(std::holds_alternative<Failure>(content));
+    EXPECT_EQ(std::get<Failure>(content).sentence,
+              QStringLiteral("A(z) „sample.dict.dz” fájl sérült: a gzip-adatok vége után is van benne valami."));
+}
+
+TEST(DictdData, AFileThatIsNotPackedIsRefused) {
+    EXPECT_TRUE(std::holds_alternative<Failure>(unpacked("apple /x/\nalma\n", data_name)));
+    EXPECT_TRUE(std::holds_alternative<Failure>(unpacked(qCompress("alma").sliced(4), data_name)));
+}
+
+}  // namespace

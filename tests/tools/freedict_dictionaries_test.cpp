@@ -1,0 +1,193 @@
+// The real packages: what the program's dictionaries are made of, and what they are afterwards.
+
+#include <gtest/gtest.h>
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "freedict/dictd_files.h"
+#include "freedict/import.h"
+#include "platform/code_page.h"
+
+namespace freedict {
+
+/// GoogleTest's way of showing a test's parameter; by itself it would print addresses.
+void PrintTo(const Dictionary &dictionary, std::ostream *out) {
+    *out << qPrintable(dictionary.file.toString());
+}
+
+}  // namespace freedict
+
+namespace {
+
+using freedict::Dictionary;
+
+QByteArray bytes_of(const QString &path) {
+    return std::get<QByteArray>(files::read_whole(path));
+}
+
+/// One import for all tests.
+class FreedictDictionaries : public testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        folder_ = new QTemporaryDir;
+        const auto result = freedict::import_dictionaries(QStringLiteral(ZIMBORA_FREEDICT_DIR), folder_->path(),
+                                                          [](const Dictionary &, int) {});
+        ASSERT_TRUE(std::holds_alternative<QVector<freedict::Imported>>(result))
+            << qPrintable(std::get<Failure>(result).sentence);
+    }
+    static void TearDownTestSuite() {
+        delete folder_;
+        folder_ = nullptr;
+    }
+
+    /// The lines of a made file without their ends; the first is the notice.
+    static QList<QByteArray> lines_of(const Dictionary &dictionary) {
+        const QByteArray bytes = bytes_of(folder_->filePath(dictionary.file.toString()));
+        EXPECT_TRUE(bytes.endsWith("\r\n"));
+        EXPECT_EQ(bytes.count('\n'), bytes.count("\r\n"));
+        EXPECT_EQ(bytes.count('\r'), bytes.count("\r\n"));
+        QList<QByteArray> lines = bytes.split('\n');
+        lines.removeLast();
+        for (QByteArray &line : lines)
+            line.chop(1);
+        return lines;
+    }
+    static QList<QByteArray> entry_lines_of(const Dictionary &dictionary) { return lines_of(dictionary).mid(1); }
+
+    static QTemporaryDir *folder_;
+};
+QTemporaryDir *FreedictDictionaries::folder_ = nullptr;
+
+class EachFreedictDictionary : public FreedictDictionaries, public testing::WithParamInterface<Dictionary> {};
+
+/// A line as the package would write it, but without pronunciation: headword LF, then its meanings, numbered from 1
+/// when there are several.
+QString definition_of(const QByteArray &line) {
+    const qsizetype colon = line.indexOf(':');
+    QStringList meanings = code_page::decode(line.mid(colon + 1)).split(u'÷');
+    EXPECT_TRUE(meanings.takeLast().isEmpty()) << line.toStdString();
+    for (qsizetype i = 0; i < meanings.size() && meanings.size() > 1; ++i)
+        meanings[i].prepend(QStringLiteral("%1. ").arg(i + 1));
+    return code_page::decode(line.left(colon)) + u'\n' + meanings.join(u'\n') + u'\n';
+}
+
+/// The same of each definition of the package, with its letters mended.
+QStringList mended_definitions(const Dictionary &dictionary) {
+    const QString base = QStringLiteral(ZIMBORA_FREEDICT_DIR "/") + dictionary.package.toString();
+    const QByteArray index = bytes_of(base + QStringLiteral(".index"));
+    const auto unpacked = freedict::unpacked(bytes_of(base + QStringLiteral(".dict.dz")), base);
+    const auto found = freedict::definitions(index, std::get<QByteArray>(unpacked), base);
+    const QRegularExpression pronunciation(QStringLiteral(" /[^/\n]+/\n"));
+    QStringList definitions;
+    for (const auto &definition : std::get<QVector<freedict::Definition>>(found)) {
+        if (definition.index_word.startsWith("00database"))
+            continue;
+        QString text = QString::fromUtf8(definition.text).replace(u'`', u'\'');
+        if (dictionary.file == u"am.txt")
+            text.replace(u'û', u'ű').replace(u'ô', u'ő');
+        else
+            text.replace(QStringLiteral("válasszatok: tett"), QStringLiteral("válasszatok – tett"));
+        definitions.append(text.replace(pronunciation, QStringLiteral("\n")));
+    }
+    return definitions;
+}
+
+/// Every pair of a headword and a meaning, in order; the dictionary's columns exchanged when `exchanged` is true.
+QStringList pairs_of(const QList<QByteArray> &lines, bool exchanged) {
+    QStringList pairs;
+    for (const QByteArray &line : lines) {
+        const qsizetype colon = line.indexOf(':');
+        const QString headword = code_page::decode(line.left(colon));
+        const QStringList meanings = code_page::decode(line.mid(colon + 1)).split(u'÷', Qt::SkipEmptyParts);
+        for (const QString &meaning : meanings)
+            pairs.append(exchanged ? meaning + u'=' + headword : headword + u'=' + meaning);
+    }
+    pairs.sort();
+    return pairs;
+}
+
+TEST_P(EachFreedictDictionary, HoldEachDefinitionOfThePackageWithAllItsMeanings) {
+    QStringList written;
+    const QList<QByteArray> lines = entry_lines_of(GetParam());
+    std::ranges::transform(lines, std::back_inserter(written), definition_of);
+    QStringList expected = mended_definitions(GetParam());
+
+    written.sort();
+    expected.sort();
+
+    ASSERT_EQ(written.size(), expected.size());
+    for (qsizetype i = 0; i < written.size(); ++i)
+        ASSERT_EQ(written[i].toStdString(), expected[i].toStdString());
+}
+
+TEST_P(EachFreedictDictionary, StandInByteOrderWithALeadingToLeftOutOfAccount) {
+    std::vector<std::string> keys;
+    for (const QByteArray &line : entry_lines_of(GetParam()))
+        keys.push_back((line.startsWith("to ") ? line.mid(3) : line).toStdString());
+
+    EXPECT_TRUE(std::ranges::is_sorted(keys));
+}
+
+TEST_P(EachFreedictDictionary, HaveAHeadwordWithoutColonAndAMeaningInEveryLine) {
+    const QRegularExpression entry(QStringLiteral("^[^:÷]+:([^÷]+÷)+$"));
+    qsizetype more_colons = 0;
+
+    for (const QByteArray &line : entry_lines_of(GetParam())) {
+        ASSERT_TRUE(entry.match(code_page::decode(line)).hasMatch()) << line.toStdString();
+        more_colons += line.count(':') - 1;
+    }
+
+    // One meaning of the English–Hungarian package holds a colon, and it is the headword mended in the other one.
+    EXPECT_EQ(more_colons, GetParam().file == u"am.txt" ? 1 : 0);
+}
+
+TEST_P(EachFreedictDictionary, BeginWithANoticeThatTheSearchSkips) {
+    const QByteArray notice = lines_of(GetParam()).first();
+
+    EXPECT_GE(notice.size(), 101);
+    EXPECT_FALSE(notice.contains(':'));
+    EXPECT_FALSE(notice.contains('\xF7'));
+    EXPECT_TRUE(notice.contains("FreeDict"));
+    EXPECT_TRUE(notice.toLower().contains("gnu general public license"));
+}
+
+std::string name_of(const testing::TestParamInfo<Dictionary> &dictionary) {
+    return dictionary.param.file == u"am.txt" ? "EnglishHungarian" : "HungarianEnglish";
+}
+INSTANTIATE_TEST_SUITE_P(Both, EachFreedictDictionary, testing::ValuesIn(freedict::dictionaries), name_of);
+
+TEST_F(FreedictDictionaries, HoldAllThePackagesEntries) {
+    EXPECT_EQ(entry_lines_of(freedict::english_hungarian).size(), 89'679);
+    EXPECT_EQ(entry_lines_of(freedict::hungarian_english).size(), 139'935);
+}
+
+TEST_F(FreedictDictionaries, NameTheirEditionAndLicence) {
+    const QString english = code_page::decode(lines_of(freedict::english_hungarian).first());
+    const QString hungarian = code_page::decode(lines_of(freedict::hungarian_english).first());
+
+    EXPECT_TRUE(english.contains(u"English-Hungarian FreeDict Dictionary, kiadása 0.2.1, 89679 címszó"));
+    EXPECT_TRUE(english.endsWith(u"GNU General Public License ver. 2.0 and any later version."));
+    EXPECT_TRUE(hungarian.contains(u"Hungarian-English FreeDict Dictionary, kiadása 0.4.1, 139935 címszó"));
+    EXPECT_TRUE(hungarian.endsWith(u"GNU GENERAL PUBLIC LICENSE, version 2.0."));
+}
+
+// The two packages were made of one list of pairs, and only one of them writes û and ô: equal pairs show that the mends
+// restore the letters that were meant.
+TEST_F(FreedictDictionaries, HoldTheSamePairsInBothDirections) {
+    QStringList english = pairs_of(entry_lines_of(freedict::english_hungarian), false);
+    QStringList hungarian = pairs_of(entry_lines_of(freedict::hungarian_english), true);
+    english.replaceInStrings(QStringLiteral("válasszatok: tett"), QStringLiteral("válasszatok – tett"));
+
+    english.sort();
+
+    EXPECT_EQ(english.size(), 254'734);
+    ASSERT_EQ(english.size(), hungarian.size());
+    EXPECT_EQ(std::ranges::mismatch(english, hungarian).in1, english.end());
+}
+
+}  // namespace

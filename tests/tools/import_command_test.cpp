@@ -1,0 +1,92 @@
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "tools/sample_package.h"
+
+namespace {
+
+struct Outcome {
+    int code;
+    QString out;
+    QString error;
+};
+
+/// The command zimbora-import with a folder of sound packages and an empty folder for its output.
+class ImportCommand : public testing::Test {
+  protected:
+    ImportCommand() {
+        SamplePackage().add("to go /x/\n1. megy\n2. jár\n").write(packages_.path(), QStringLiteral("freedict-eng-hun"));
+        SamplePackage().add("alma /x/\napple\n").write(packages_.path(), QStringLiteral("freedict-hun-eng"));
+    }
+
+    static Outcome run(const QStringList &arguments) {
+        QProcess process;
+        process.start(QStringLiteral(ZIMBORA_IMPORT), arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+    [[nodiscard]] QStringList output_files() const { return QDir(output_.path()).entryList(QDir::Files); }
+
+    QTemporaryDir packages_;
+    QTemporaryDir output_;
+};
+
+TEST_F(ImportCommand, WritesBothDictionariesAndPrintsTheCounts) {
+    const Outcome outcome = run({QStringLiteral("--freedict"), packages_.path(), output_.path()});
+
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.out.toStdString(),
+              "am.txt: a(z) angol–magyar szótár 1 szócikkéből és 2 jelentéséből 1 szócikk és 2 jelentés lett.\n"
+              "ma.txt: a(z) magyar–angol szótár 1 szócikkéből és 1 jelentéséből 1 szócikk és 1 jelentés lett.\n");
+    EXPECT_EQ(output_files(), (QStringList{QStringLiteral("am.txt"), QStringLiteral("ma.txt")}));
+}
+
+TEST_F(ImportCommand, LeavesOnePlainLineADictionaryInALog) {
+    const Outcome outcome = run({QStringLiteral("--freedict=") + packages_.path(), output_.path()});
+
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(outcome.error.toStdString(), "angol–magyar szótár átalakítása…\nmagyar–angol szótár átalakítása…\n");
+}
+
+TEST_F(ImportCommand, FailsWithAMessageAndNoFileWhenAPackageIsDamaged) {
+    SamplePackage().state(3).write(packages_.path(), QStringLiteral("freedict-hun-eng"));
+
+    const Outcome outcome = run({QStringLiteral("--freedict"), packages_.path(), output_.path()});
+
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_TRUE(outcome.out.isEmpty());
+    EXPECT_TRUE(outcome.error.endsWith(
+        u"A(z) „Sample FreeDict Dictionary” leírása szerint 3 címszava van, de 0 szócikke írható ki.\n"));
+    EXPECT_TRUE(output_files().isEmpty());
+}
+
+TEST_F(ImportCommand, ExplainsItselfInHungarian) {
+    const Outcome outcome = run({QStringLiteral("--help")});
+
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_TRUE(outcome.out.startsWith(u"Használat: zimbora-import [--help] [--freedict MAPPA] KIMENETI-MAPPA\n"));
+    EXPECT_TRUE(outcome.error.isEmpty());
+}
+
+TEST_F(ImportCommand, SaysWhatIsWrongWithItsArguments) {
+    const std::pair<QStringList, const char *> wrong[] = {
+        {{}, "Hiányzik a kimeneti mappa.\n"},
+        {{QStringLiteral("--gyors"), output_.path()}, "Ismeretlen kapcsoló: „--gyors”.\n"},
+        {{output_.path(), QStringLiteral("--freedict")}, "A --freedict kapcsoló után hiányzik a mappa.\n"},
+        {{output_.path(), QStringLiteral("--freedict=")}, "A --freedict kapcsoló után hiányzik a mappa.\n"},
+        {{output_.path(), QStringLiteral("más")}, "Csak egy kimeneti mappa adható meg, fölösleges: „más”.\n"},
+    };
+    for (const auto &[arguments, message] : wrong) {
+        const Outcome outcome = run(arguments);
+
+        EXPECT_EQ(outcome.code, 2);
+        EXPECT_TRUE(outcome.error.startsWith(QString::fromUtf8(message))) << message;
+        EXPECT_TRUE(output_files().isEmpty());
+    }
+}
+
+}  // namespace

@@ -1,0 +1,154 @@
+#include "freedict/import.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "tools/sample_package.h"
+
+namespace {
+
+using freedict::Counts;
+using freedict::Imported;
+
+const QString english = QStringLiteral("freedict-eng-hun");
+const QString hungarian = QStringLiteral("freedict-hun-eng");
+
+/// Two small sound packages, and a folder with what an earlier import left.
+class Import : public testing::Test {
+  protected:
+    Import() {
+        english_.add("apple /x/\nalma\n").add("to go /x/\n1. megy\n2. jár\n");
+        hungarian_.add("alma /x/\napple\n");
+        write_packages();
+        SamplePackage::put(output(QStringLiteral("am.txt")), "old am");
+        SamplePackage::put(output(QStringLiteral("ma.txt")), "old ma");
+    }
+
+    void write_packages() const {
+        english_.write(packages_.path(), english);
+        hungarian_.write(packages_.path(), hungarian);
+    }
+    [[nodiscard]] QString package_file(const QString &name) const { return packages_.filePath(name); }
+    [[nodiscard]] QString output(const QString &name) const { return output_.filePath(name); }
+    [[nodiscard]] QByteArray content(const QString &name) const {
+        return std::get<QByteArray>(files::read_whole(output(name)));
+    }
+    std::variant<QVector<Imported>, Failure> import() {
+        return freedict::import_dictionaries(packages_.path(), output_.path(),
+                                             [this](const freedict::Dictionary &dictionary, int percent) {
+                                                 progress_.append({dictionary.file.toString(), percent});
+                                             });
+    }
+    /// Expects that the import fails with `reason` and leaves everything as it was.
+    void expect_failure(const QString &reason) {
+        const auto result = import();
+        ASSERT_TRUE(std::holds_alternative<Failure>(result));
+        EXPECT_EQ(std::get<Failure>(result).sentence.toStdString(), reason.toStdString());
+        EXPECT_EQ(content(QStringLiteral("am.txt")).toStdString(), "old am");
+        EXPECT_EQ(content(QStringLiteral("ma.txt")).toStdString(), "old ma");
+        EXPECT_EQ(QDir(output_.path()).entryList(QDir::Files).size(), 2);
+    }
+
+    SamplePackage english_;
+    SamplePackage hungarian_;
+    QTemporaryDir packages_;
+    QTemporaryDir output_;
+    QVector<std::pair<QString, int>> progress_;
+};
+
+TEST_F(Import, MakesBothDictionariesAndCountsWhatWentInAndCameOut) {
+    const auto result = import();
+
+    const auto &imported = std::get<QVector<Imported>>(result);
+    ASSERT_EQ(imported.size(), 2);
+    EXPECT_EQ(imported[0].read, (Counts{.entries = 2, .meanings = 3}));
+    EXPECT_EQ(imported[0].written, (Counts{.entries = 2, .meanings = 3}));
+    EXPECT_EQ(imported[1].written, (Counts{.entries = 1, .meanings = 1}));
+    EXPECT_TRUE(content(QStringLiteral("am.txt")).endsWith("\r\napple:alma\xF7\r\nto go:megy\xF7j\xE1r\xF7\r\n"));
+    EXPECT_TRUE(content(QStringLiteral("ma.txt")).endsWith("\r\nalma:apple\xF7\r\n"));
+}
+
+TEST_F(Import, TellsItsProgressFrom0To100ForEachDictionary) {
+    (void)import();
+
+    ASSERT_GE(progress_.size(), 4);
+    EXPECT_EQ(progress_.first(), std::pair(QStringLiteral("am.txt"), 0));
+    EXPECT_EQ(progress_.last(), std::pair(QStringLiteral("ma.txt"), 100));
+    EXPECT_TRUE(std::ranges::is_sorted(progress_));
+    EXPECT_EQ(std::ranges::adjacent_find(progress_), progress_.end());
+    EXPECT_EQ(progress_.count(std::pair(QStringLiteral("am.txt"), 100)), 1);
+    EXPECT_EQ(progress_.count(std::pair(QStringLiteral("ma.txt"), 0)), 1);
+}
+
+TEST_F(Import, WritesNothingWhenTheSecondPackageStatesMoreHeadwordsThanItHas) {
+    hungarian_.state(2);
+    write_packages();
+
+    expect_failure(
+        QStringLiteral("A(z) „Sample FreeDict Dictionary” leírása szerint 2 címszava van, de 1 szócikke írható ki."));
+}
+
+TEST_F(Import, WritesNothingWhenAnIndexIsMissing) {
+    QFile::remove(package_file(hungarian + QStringLiteral(".index")));
+
+    expect_failure(QStringLiteral("A(z) „%1” fájl nem olvasható: a fájl nem létezik.")
+                       .arg(package_file(hungarian + QStringLiteral(".index"))));
+}
+
+TEST_F(Import, WritesNothingWhenTheDataAreMissing) {
+    QFile::remove(package_file(english + QStringLiteral(".dict.dz")));
+
+    expect_failure(QStringLiteral("A(z) „%1” fájl nem olvasható: a fájl nem létezik.")
+                       .arg(package_file(english + QStringLiteral(".dict.dz"))));
+}
+
+TEST_F(Import, WritesNothingWhenTheDataAreNotPacked) {
+    SamplePackage::put(package_file(hungarian + QStringLiteral(".dict.dz")), hungarian_.data());
+
+    expect_failure(QStringLiteral("A(z) „freedict-hun-eng.dict.dz” fájl sérült: nem ép gzip-fájl."));
+}
+
+TEST_F(Import, WritesNothingWhenTheIndexBelongsToOtherData) {
+    SamplePackage::put(package_file(english + QStringLiteral(".index")), english_.index() + "w\tAAAB\t/////\n");
+
+    expect_failure(
+        QStringLiteral("A(z) „freedict-eng-hun.index” fájl sérült: a(z) 4. sorban az adatfájlon kívüli hely áll."));
+}
+
+TEST_F(Import, WritesNothingWhenAnEntryMakesNoSense) {
+    hungarian_.add("körte", "körte\npear\n");
+    write_packages();
+
+    expect_failure(QStringLiteral(
+        "A(z) „freedict-hun-eng.dict.dz” fájl sérült: értelmezhetetlen a(z) „körte” szócikk (az index 3. sora)."));
+}
+
+TEST_F(Import, WritesNothingWhenACharacterHasNoPlaceInTheCodePage) {
+    hungarian_.add("fû /x/\ngrass\n");
+    write_packages();
+
+    expect_failure(
+        QStringLiteral("A(z) magyar–angol szótár „fû” szócikke nem írható ki: a „û” karakternek nincs helye "
+                       "a windows-1250 kódlapon."));
+}
+
+TEST_F(Import, WritesNothingWhenAMeaningHoldsADivisionSign) {
+    english_.add("sign /x/\n÷\n");
+    write_packages();
+
+    expect_failure(
+        QStringLiteral("A(z) angol–magyar szótár „sign” szócikke nem írható ki: a(z) „÷” jelentésben „÷” jel áll."));
+}
+
+TEST_F(Import, NamesTheFileThatCannotBeWritten) {
+    output_.remove();
+
+    const auto result = import();
+
+    ASSERT_TRUE(std::holds_alternative<Failure>(result));
+    EXPECT_EQ(std::get<Failure>(result).sentence,
+              QStringLiteral("A(z) „%1” fájl nem írható: a mappa nem létezik.").arg(output(QStringLiteral("am.txt"))));
+}
+
+}  // namespace

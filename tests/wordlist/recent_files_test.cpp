@@ -1,0 +1,76 @@
+#include "wordlist/recent_files.h"
+
+#include <gtest/gtest.h>
+
+#include "support/files_for_tests.h"
+#include "support/printing.h"
+
+namespace {
+
+bool always(const QString &) {
+    return true;
+}
+
+TEST(RecentFiles, uses_the_first_four_that_exist) {
+    const QByteArray bytes = "/a.szs\r\n/gone.szs\r\n/b.szs\r\n\r\n/c.szs\r\n/d.szs\r\n/e.szs\r\n";
+
+    const QStringList read =
+        legutóbbifájlok::olvas(bytes, [](const QString &path) { return path != QStringLiteral("/gone.szs"); });
+
+    EXPECT_EQ(read, QStringList({QStringLiteral("/a.szs"), QStringLiteral("/b.szs"), QStringLiteral("/c.szs"),
+                                 QStringLiteral("/d.szs")}));
+}
+
+TEST(RecentFiles, are_none_in_rubbish) {
+    QByteArray rubbish;
+    for (int i = 0; i < 5000; ++i)
+        rubbish.append(static_cast<char>(i * 7919 % 256));
+
+    EXPECT_TRUE(legutóbbifájlok::olvas(rubbish, [](const QString &) { return false; }).isEmpty());
+    EXPECT_TRUE(legutóbbifájlok::olvas("", always).isEmpty());
+}
+
+TEST(RecentFiles, are_asked_for_no_further_than_needed_in_fifty_lines) {
+    QByteArray bytes;
+    for (int i = 0; i < 50; ++i)
+        bytes += "/" + QByteArray::number(i) + ".szs\r\n";
+    int asked = 0;
+
+    const QStringList read = legutóbbifájlok::olvas(bytes, [&](const QString &) { return ++asked > 0; });
+
+    EXPECT_EQ(read.size(), 4);
+    EXPECT_EQ(asked, 4);
+}
+
+TEST(RecentFiles, show_a_file_twice_that_stands_twice) {
+    EXPECT_EQ(legutóbbifájlok::olvas("/a.szs\r\n/a.szs\r\n", always),
+              QStringList({QStringLiteral("/a.szs"), QStringLiteral("/a.szs")}));
+}
+
+TEST(RecentFiles, put_the_current_file_first_and_only_once) {
+    const FileContent bytes = legutóbbifájlok::ír(
+        QStringLiteral("/ő.szs"), {QStringLiteral("/a.szs"), QStringLiteral("/ő.szs"), QStringLiteral("/b.szs")});
+
+    EXPECT_EQ(std::get<QByteArray>(bytes), "/\xf5.szs\r\n/a.szs\r\n/b.szs\r\n");
+}
+
+TEST(RecentFiles, refuse_a_path_that_the_code_page_cannot_hold) {
+    const FileContent bytes = legutóbbifájlok::ír(QStringLiteral("/火.szs"), {});
+
+    EXPECT_TRUE(std::get<Failure>(bytes).sentence.contains(QStringLiteral("„/火.szs”")));
+}
+
+TEST(RecentFiles, have_the_path_behind_the_first_four_characters_of_their_caption) {
+    EXPECT_EQ(legutóbbifájlok::felirat(1, QStringLiteral("/szavak/allatok.szs")),
+              QStringLiteral("&1: /szavak/allatok.szs"));
+    EXPECT_EQ(legutóbbifájlok::útvonal(QStringLiteral("&1: /szavak/allatok.szs")),
+              QStringLiteral("/szavak/allatok.szs"));
+}
+
+TEST(RecentFiles, keep_an_ampersand_of_the_path) {
+    const QString path = QStringLiteral("/R&D && más/a&.szs");
+
+    EXPECT_EQ(legutóbbifájlok::útvonal(legutóbbifájlok::felirat(4, path)), path);
+}
+
+}  // namespace

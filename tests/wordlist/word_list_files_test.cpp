@@ -1,0 +1,473 @@
+#include "wordlist/word_list_files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <csignal>
+
+#include "support/fake_dialogs.h"
+#include "support/files_for_tests.h"
+#include "support/printing.h"
+
+namespace {
+
+const QString exit_question = QStringLiteral("Kilépés|Akarja menteni a változtatásokat?|yes no cancel");
+const QString new_list_question = QStringLiteral("Kilépés|Akarja menteni a változtatásokat?|yes no");
+
+/// Notes what the file procedures ask of the window.
+class FakeWindow final : public szószedetablak {
+  public:
+    QString title;
+    QStringList recent;
+    int cleared = 0;
+    int menus_set = 0;
+    int fitted = 0;
+
+    void címbeállít(const QString &cím) override { title = cím; }
+    void mentbeállít() override { ++menus_set; }
+    void ablakigazít() override { ++fitted; }
+    void szövegmezőketürít() override { ++cleared; }
+    void fájllistmutat(const QStringList &fájlok) override { recent = fájlok; }
+    [[nodiscard]] QStringList fájllist() const override { return recent; }
+};
+
+/// From here on the process can write no file larger than this, as on a full disk.
+void limit_file_size() {
+    const rlimit limit{4096, RLIM_INFINITY};
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+class WordListFiles : public testing::Test {
+  protected:
+    WordListFiles() {
+        QDir(root_.path()).mkdir(QStringLiteral("angol"));
+        state_.programkönyvtár = place("angol");
+    }
+
+    [[nodiscard]] QString place(const char *name) const { return root_.filePath(QString::fromUtf8(name)); }
+
+    QString file(const char *name, const QByteArray &bytes) {
+        write_file(place(name), bytes);
+        return place(name);
+    }
+
+    void add(const char *english, const char *hungarian) {
+        list_.felvesz(QString::fromUtf8(english), QString::fromUtf8(hungarian));
+        state_.változott = 1;
+    }
+
+    /// The pairs, as a file would hold them.
+    [[nodiscard]] QString pairs() const {
+        QStringList lines;
+        for (const szópár &pair : list_.párok())
+            lines.append(pair.angol + u':' + pair.magyar);
+        return lines.join(u' ');
+    }
+
+    // Below /tmp there is no dot in a path unless the test wants one.
+    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    global::programállapot state_;
+    szópárlista list_;
+    FakeWindow window_;
+    FakeMessageBoxes boxes_;
+    FakeFileDialogs dialogs_;
+    QString recent_file_ = place("zbrmkfnh");
+    szószedetfájlok files_{state_, list_, window_, boxes_, dialogs_, recent_file_};
+};
+
+TEST_F(WordListFiles, first_save_proposes_the_program_folder_and_the_first_english_word) {
+    add("apple", "alma");
+    dialogs_.choices = {place("gyumi.szs")};
+
+    files_.mnufájlment();
+
+    EXPECT_EQ(dialogs_.proposals, QStringList{place("angol/apple.szs")});
+    EXPECT_EQ(read_file(place("gyumi.szs")), "apple:alma\r\n");
+    EXPECT_EQ(state_.aktuálisfájl, place("gyumi.szs"));
+    EXPECT_EQ(state_.változott, 0);
+    EXPECT_EQ(window_.title, QStringLiteral("Zimbora Angol-Magyar szótár - %1 szószedet").arg(place("gyumi.szs")));
+    EXPECT_EQ(window_.recent, QStringList{place("gyumi.szs")});
+}
+
+TEST_F(WordListFiles, proposed_name_has_nothing_that_a_file_name_cannot_have) {
+    add("and/or, etc.: what?", "és/vagy");
+
+    files_.mnufájlment();
+
+    EXPECT_EQ(dialogs_.proposals, QStringList{place("angol/and_or, etc__ what_.szs")});
+}
+
+TEST_F(WordListFiles, second_save_asks_nothing) {
+    add("apple", "alma");
+    dialogs_.choices = {place("a.szs")};
+    files_.mnufájlment();
+    add("dog", "kutya");
+
+    files_.mnufájlment();
+
+    EXPECT_EQ(dialogs_.proposals.size(), 1);
+    EXPECT_TRUE(boxes_.asked.isEmpty());
+    EXPECT_EQ(read_file(place("a.szs")), "apple:alma\r\ndog:kutya\r\n");
+}
+
+TEST_F(WordListFiles, cancelled_first_save_writes_nothing_and_leaves_no_current_file) {
+    add("apple", "alma");
+
+    files_.mnufájlment();
+
+    EXPECT_EQ(state_.aktuálisfájl, QString());
+    EXPECT_EQ(state_.változott, 1);
+    EXPECT_EQ(QDir(place("angol")).entryList(QDir::Files), QStringList());
+}
+
+TEST_F(WordListFiles, name_with_a_dot_before_its_last_four_characters_is_refused_without_a_word) {
+    add("apple", "alma");
+    QDir(root_.path()).mkdir(QStringLiteral("a.b"));
+    dialogs_.choices = {place("a.b/lista.szs"), place("lista")};
+
+    files_.mnufájlment();
+
+    EXPECT_EQ(dialogs_.proposals.size(), 2);
+    EXPECT_TRUE(boxes_.told.isEmpty());
+    EXPECT_EQ(read_file(place("lista")), "apple:alma\r\n");
+    EXPECT_FALSE(QFile::exists(place("a.b/lista.szs")));
+}
+
+TEST_F(WordListFiles, existing_file_is_overwritten_only_after_a_yes) {
+    add("apple", "alma");
+    const QString old = file("régi.szs", "old:r\xe9gi\r\n");
+    dialogs_.choices = {old, place("más.szs")};
+    boxes_.answers = {Answer::no};
+
+    files_.mnufájlment();
+
+    EXPECT_EQ(
+        boxes_.asked,
+        QStringList{QStringLiteral("Fájl felülírása|A %1 szószedet fájl már létezik. Felülírja?|yes no").arg(old)});
+    EXPECT_EQ(read_file(old), "old:r\xe9gi\r\n");
+    EXPECT_EQ(read_file(place("más.szs")), "apple:alma\r\n");
+}
+
+TEST_F(WordListFiles, existing_file_is_replaced_after_a_yes) {
+    add("apple", "alma");
+    dialogs_.choices = {file("régi.szs",
+                             "old:r\xe9gi\r\nmore:t\xf6"
+                             "bb\r\n")};
+    boxes_.answers = {Answer::yes};
+
+    files_.mnufájlment();
+
+    EXPECT_EQ(read_file(place("régi.szs")), "apple:alma\r\n");
+}
+
+TEST_F(WordListFiles, save_as_writes_under_the_new_name_and_goes_on_with_it) {
+    add("apple", "alma");
+    state_.aktuálisfájl = file("a.szs", "");
+    dialogs_.choices = {place("b.szs")};
+
+    files_.mnufájlmentmásként();
+
+    EXPECT_EQ(dialogs_.proposals, QStringList{place("a.szs")});
+    EXPECT_EQ(read_file(place("a.szs")), "");
+    EXPECT_EQ(read_file(place("b.szs")), "apple:alma\r\n");
+    EXPECT_EQ(state_.aktuálisfájl, place("b.szs"));
+}
+
+TEST_F(WordListFiles, cancelled_save_as_stars_the_name_and_later_saves_write_nothing_until_there_is_a_new_one) {
+    add("apple", "alma");
+    state_.aktuálisfájl = file("a.szs", "old:r\xe9gi\r\n");
+
+    files_.mnufájlmentmásként();
+    EXPECT_EQ(state_.aktuálisfájl, u'*' + place("a.szs"));
+    files_.mnufájlment();
+    EXPECT_EQ(read_file(place("a.szs")), "old:r\xe9gi\r\n");
+    EXPECT_EQ(state_.változott, 1);
+
+    dialogs_.choices = {place("b.szs")};
+    files_.mnufájlmentmásként();
+    EXPECT_EQ(dialogs_.proposals.back(), place("a.szs"));
+    EXPECT_EQ(read_file(place("b.szs")), "apple:alma\r\n");
+    EXPECT_EQ(state_.változott, 0);
+}
+
+TEST_F(WordListFiles, opening_replaces_the_list_and_puts_the_file_first_in_the_menu) {
+    add("old", "régi");
+    state_.változott = 0;
+    dialogs_.choices = {file("b.szs", cp1250(u"time:idő: 3 óra\r\n"))};
+
+    files_.mnufájlmegnyit();
+
+    EXPECT_EQ(dialogs_.proposals, QStringList{place("angol/*.szs")});
+    EXPECT_EQ(pairs(), QStringLiteral("time:idő: 3 óra"));
+    EXPECT_EQ(state_.aktuálisfájl, place("b.szs"));
+    EXPECT_EQ(state_.változott, 0);
+    EXPECT_EQ(window_.title, QStringLiteral("Zimbora Angol-Magyar szótár - %1 szószedet").arg(place("b.szs")));
+    EXPECT_EQ(window_.recent, QStringList{place("b.szs")});
+    EXPECT_EQ(window_.cleared, 1);
+    EXPECT_GE(window_.fitted, 1);
+}
+
+TEST_F(WordListFiles, open_dialog_comes_again_until_the_file_exists) {
+    dialogs_.choices = {place("nincs.szs"), place("angol"), file("b.szs", "a:b\r\n")};
+
+    files_.mnufájlmegnyit();
+
+    EXPECT_EQ(dialogs_.proposals.size(), 3);
+    EXPECT_EQ(pairs(), QStringLiteral("a:b"));
+}
+
+TEST_F(WordListFiles, cancelled_open_dialog_changes_nothing) {
+    add("apple", "alma");
+    state_.aktuálisfájl = file("a.szs", "");
+    boxes_.answers = {Answer::no};
+
+    files_.mnufájlmegnyit();
+
+    EXPECT_EQ(boxes_.asked, QStringList{new_list_question});
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(state_.aktuálisfájl, place("a.szs"));
+    EXPECT_EQ(state_.változott, 1);
+}
+
+TEST_F(WordListFiles, file_that_cannot_be_read_after_the_dialog_is_told_and_nothing_is_lost) {
+    add("apple", "alma");
+    boxes_.answers = {Answer::no};
+    state_.aktuálisfájl = place("a.szs");
+    // It exists, but cannot be read.
+    dialogs_.choices = {QStringLiteral("/proc/self/mem")};
+
+    files_.mnufájlmegnyit();
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].startsWith(QStringLiteral("A(z) „/proc/self/mem” fájl nem olvasható")));
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(state_.aktuálisfájl, place("a.szs"));
+    EXPECT_EQ(state_.változott, 1);
+}
+
+TEST_F(WordListFiles, appending_adds_every_pair_at_the_end_and_doubles_a_list_appended_twice) {
+    add("dog", "kutya");
+    state_.aktuálisfájl = place("saját.szs");
+    const QString other = file("b.szs", "apple:alma\r\n");
+    dialogs_.choices = {other, other};
+
+    files_.mnufájlhozzáfűz();
+    files_.mnufájlhozzáfűz();
+
+    EXPECT_EQ(pairs(), QStringLiteral("dog:kutya apple:alma apple:alma"));
+    EXPECT_EQ(state_.aktuálisfájl, place("saját.szs"));
+    EXPECT_EQ(state_.változott, 1);
+    EXPECT_EQ(dialogs_.proposals[0], place("angol/*.szs"));
+}
+
+TEST_F(WordListFiles, appending_to_a_list_without_a_file_makes_the_appended_file_current) {
+    dialogs_.choices = {file("b.szs", "apple:alma\r\n")};
+
+    files_.mnufájlhozzáfűz();
+
+    EXPECT_EQ(state_.aktuálisfájl, place("b.szs"));
+    EXPECT_EQ(state_.változott, 1);
+    EXPECT_TRUE(window_.title.contains(place("b.szs")));
+    EXPECT_EQ(window_.menus_set, 1);
+}
+
+TEST_F(WordListFiles, cancelled_append_changes_nothing) {
+    files_.mnufájlhozzáfűz();
+
+    EXPECT_TRUE(list_.üres());
+    EXPECT_EQ(state_.változott, 0);
+}
+
+TEST_F(WordListFiles, new_list_asks_saves_on_yes_and_keeps_the_file_name) {
+    add("apple", "alma");
+    state_.aktuálisfájl = place("a.szs");
+    boxes_.answers = {Answer::yes};
+
+    files_.mnufájlúj();
+
+    EXPECT_EQ(boxes_.asked, QStringList{new_list_question});
+    EXPECT_EQ(read_file(place("a.szs")), "apple:alma\r\n");
+    EXPECT_TRUE(list_.üres());
+    EXPECT_EQ(state_.aktuálisfájl, place("a.szs"));
+    EXPECT_EQ(window_.cleared, 1);
+    EXPECT_EQ(window_.recent, QStringList{place("a.szs")});
+}
+
+TEST_F(WordListFiles, new_list_without_saving_leaves_the_changed_flag_as_it_is) {
+    add("apple", "alma");
+    boxes_.answers = {Answer::no};
+
+    files_.mnufájlúj();
+
+    EXPECT_TRUE(list_.üres());
+    EXPECT_EQ(state_.változott, 1);
+}
+
+TEST_F(WordListFiles, new_list_of_an_unchanged_one_asks_nothing) {
+    add("apple", "alma");
+    state_.változott = 0;
+
+    files_.mnufájlúj();
+
+    EXPECT_TRUE(boxes_.asked.isEmpty());
+    EXPECT_TRUE(list_.üres());
+}
+
+TEST_F(WordListFiles, pairs_stay_when_the_save_before_a_new_list_is_cancelled) {
+    add("apple", "alma");
+    boxes_.answers = {Answer::yes};
+
+    files_.mnufájlúj();
+
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(state_.változott, 1);
+}
+
+TEST_F(WordListFiles, save_into_a_folder_that_takes_no_files_is_told_and_nothing_is_lost) {
+    add("apple", "alma");
+    dialogs_.choices = {QStringLiteral("/proc/lista")};
+
+    files_.mnufájlment();
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("„/proc/lista”")));
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(state_.változott, 1);
+    EXPECT_EQ(state_.aktuálisfájl, QString());
+}
+
+TEST_F(WordListFiles, save_on_a_full_disk_is_told_and_leaves_the_old_file_whole) {
+    add("apple", "alma");
+    add("long", QByteArray(10000, 'x').constData());
+    state_.aktuálisfájl = file("a.szs", "old:r\xe9gi\r\n");
+    EXPECT_EXIT(
+        {
+            std::signal(SIGXFSZ, SIG_IGN);
+            limit_file_size();
+            files_.mnufájlment();
+            const bool kept = state_.változott == 1 && list_.darab() == 2;
+            std::exit(boxes_.told.size() == 1 && kept ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+
+    EXPECT_EQ(read_file(place("a.szs")), "old:r\xe9gi\r\n");
+}
+
+TEST_F(WordListFiles, save_with_a_letter_beyond_the_code_page_names_the_word_and_overwrites_nothing) {
+    add("fire", "火");
+    state_.aktuálisfájl = file("a.szs", "old:r\xe9gi\r\n");
+
+    files_.mnufájlment();
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("„火”")));
+    EXPECT_EQ(read_file(place("a.szs")), "old:r\xe9gi\r\n");
+    EXPECT_EQ(state_.változott, 1);
+}
+
+TEST_F(WordListFiles, fifth_file_opened_leaves_four_in_the_menu_the_newest_first) {
+    for (const char *name : {"1.szs", "2.szs", "3.szs", "4.szs", "5.szs"}) {
+        dialogs_.choices = {file(name, "a:b\r\n")};
+        files_.mnufájlmegnyit();
+    }
+
+    EXPECT_EQ(window_.recent, QStringList({place("5.szs"), place("4.szs"), place("3.szs"), place("2.szs")}));
+}
+
+TEST_F(WordListFiles, recent_file_is_opened_and_moves_to_the_top) {
+    file("1.szs", "egy:one\r\n");
+    file("2.szs", "two:kett\xf5\r\n");
+    write_file(recent_file_, place("2.szs").toUtf8() + "\r\n" + place("1.szs").toUtf8() + "\r\n");
+    files_.fájlistolvas();
+
+    files_.mnufájlfájl(place("1.szs"));
+
+    EXPECT_EQ(pairs(), QStringLiteral("egy:one"));
+    EXPECT_EQ(window_.recent, QStringList({place("1.szs"), place("2.szs")}));
+}
+
+TEST_F(WordListFiles, recent_file_that_is_gone_does_nothing) {
+    add("apple", "alma");
+
+    files_.mnufájlfájl(place("nincs.szs"));
+
+    EXPECT_TRUE(boxes_.asked.isEmpty());
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+}
+
+TEST_F(WordListFiles, missing_recent_files_drop_out_when_the_list_is_written) {
+    write_file(recent_file_, "/nincs/ilyen.szs\r\n");
+    files_.fájlistolvas();
+    dialogs_.choices = {file("b.szs", "a:b\r\n")};
+
+    files_.mnufájlmegnyit();
+
+    EXPECT_FALSE(read_file(recent_file_).contains("ilyen"));
+}
+
+TEST_F(WordListFiles, command_line_may_quote_the_path_or_not) {
+    const QString path = file("két szó.szs", "a:b\r\n");
+    for (const QString &line : {path, u'"' + path + u'"'}) {
+        list_.kiürít();
+        files_.parancssorból(line);
+        EXPECT_EQ(pairs(), QStringLiteral("a:b"));
+        EXPECT_EQ(state_.aktuálisfájl, path);
+    }
+}
+
+TEST_F(WordListFiles, command_line_with_a_missing_file_or_a_folder_says_so) {
+    files_.parancssorból(u'"' + place("nincs.szs") + u'"');
+    files_.parancssorból(place("angol"));
+
+    EXPECT_EQ(boxes_.told,
+              QStringList({QStringLiteral("Sikertelen fájlmegnyitás!"), QStringLiteral("Sikertelen fájlmegnyitás!")}));
+    EXPECT_EQ(state_.aktuálisfájl, QString());
+    EXPECT_TRUE(list_.üres());
+}
+
+TEST_F(WordListFiles, exit_asks_only_after_a_change) {
+    add("apple", "alma");
+    state_.változott = 0;
+
+    EXPECT_TRUE(files_.kilépéskérdés());
+
+    EXPECT_TRUE(boxes_.asked.isEmpty());
+}
+
+TEST_F(WordListFiles, exit_saves_on_yes_goes_on_no_and_stays_on_cancel) {
+    add("apple", "alma");
+    state_.aktuálisfájl = place("a.szs");
+    boxes_.answers = {Answer::cancel, Answer::no, Answer::yes};
+
+    EXPECT_FALSE(files_.kilépéskérdés());
+    EXPECT_TRUE(files_.kilépéskérdés());
+    EXPECT_FALSE(QFile::exists(place("a.szs")));
+    EXPECT_TRUE(files_.kilépéskérdés());
+
+    EXPECT_EQ(boxes_.asked, QStringList({exit_question, exit_question, exit_question}));
+    EXPECT_EQ(read_file(place("a.szs")), "apple:alma\r\n");
+}
+
+TEST_F(WordListFiles, exit_stays_when_the_name_is_cancelled_or_the_file_cannot_be_written) {
+    add("apple", "alma");
+    boxes_.answers = {Answer::yes, Answer::yes};
+
+    EXPECT_FALSE(files_.kilépéskérdés());
+    dialogs_.choices = {QStringLiteral("/proc/lista")};
+    EXPECT_FALSE(files_.kilépéskérdés());
+
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+}
+
+TEST_F(WordListFiles, recent_list_that_cannot_be_written_is_told) {
+    szószedetfájlok files(state_, list_, window_, boxes_, dialogs_, place("nincs/zbrmkfnh.ini"));
+
+    files.mnufájlúj();
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("zbrmkfnh.ini")));
+}
+
+}  // namespace

@@ -1,0 +1,134 @@
+// zimbora-import: makes the program's dictionary files am.txt and ma.txt of the FreeDict packages.
+
+#include <unistd.h>
+
+#include <QFile>
+#include <QStringList>
+#include <QTextStream>
+#include <variant>
+
+#include "freedict/import.h"
+
+namespace {
+
+constexpr int done = 0;
+constexpr int failed = 1;
+constexpr int called_wrongly = 2;
+
+const char *const usage =
+    "Használat: zimbora-import [--help] [--freedict MAPPA] KIMENETI-MAPPA\n"
+    "\n"
+    "A FreeDict angol–magyar és magyar–angol szótárából elkészíti a Zimbora\n"
+    "szótárfájljait (am.txt, ma.txt) a KIMENETI-MAPPA mappában.\n"
+    "\n"
+    "  --freedict MAPPA  a szótárcsomagok dictd-fájljainak mappája\n"
+    "                    (alapértelmezés: /usr/share/dictd)\n"
+    "  --help, -h        ezt a leírást mutatja\n";
+
+struct Request {
+    bool help = false;
+    QString freedict_folder = QStringLiteral("/usr/share/dictd");
+    QString output_folder;
+};
+
+std::variant<Request, Failure> request_of(QStringList arguments) {
+    const QString freedict = QStringLiteral("--freedict");
+    Request request;
+    while (!arguments.isEmpty()) {
+        const QString argument = arguments.takeFirst();
+        if (argument == u"--help" || argument == u"-h") {
+            request.help = true;
+            return request;
+        }
+        if (argument == freedict || argument.startsWith(freedict + u'=')) {
+            request.freedict_folder = argument.sliced(freedict.size()).mid(1);
+            if (argument == freedict && !arguments.isEmpty())
+                request.freedict_folder = arguments.takeFirst();
+            if (request.freedict_folder.isEmpty())
+                return Failure{QStringLiteral("A --freedict kapcsoló után hiányzik a mappa.")};
+        } else if (argument.startsWith(u'-')) {
+            return Failure{QStringLiteral("Ismeretlen kapcsoló: „%1”.").arg(argument)};
+        } else if (!request.output_folder.isEmpty()) {
+            return Failure{QStringLiteral("Csak egy kimeneti mappa adható meg, fölösleges: „%1”.").arg(argument)};
+        } else {
+            request.output_folder = argument;
+        }
+    }
+    if (request.output_folder.isEmpty())
+        return Failure{QStringLiteral("Hiányzik a kimeneti mappa.")};
+    return request;
+}
+
+/// The progress on the standard error output: a bar drawn again and again in one line of a terminal; in a log, where
+/// that would leave a hundred lines, only the beginning of each dictionary.
+class ProgressBar final {
+  public:
+    void show(const freedict::Dictionary &dictionary, int percent) {
+        if (!is_terminal_) {
+            if (percent == 0)
+                out_ << dictionary.title << QStringLiteral(" szótár átalakítása…") << Qt::endl;
+            return;
+        }
+        const int filled = percent * width / 100;
+        out_ << u'\r' << dictionary.title << QStringLiteral(" [") << QString(filled, u'#')
+             << QString(width - filled, u'.') << QStringLiteral("] ") << qSetFieldWidth(3) << percent
+             << qSetFieldWidth(0) << QStringLiteral(" %") << Qt::flush;
+        open_ = percent < 100;
+        if (!open_)
+            out_ << Qt::endl;
+    }
+    /// Leaves the line of a bar that has not reached its end.
+    void leave() {
+        if (open_)
+            out_ << Qt::endl;
+        open_ = false;
+    }
+
+  private:
+    static constexpr int width = 40;
+
+    QTextStream out_{stderr};
+    const bool is_terminal_ = isatty(STDERR_FILENO) != 0;
+    bool open_ = false;
+};
+
+int run(const Request &request) {
+    ProgressBar bar;
+    const auto result = freedict::import_dictionaries(
+        request.freedict_folder, request.output_folder,
+        [&](const freedict::Dictionary &dictionary, int percent) { bar.show(dictionary, percent); });
+    bar.leave();
+    const auto *imported = std::get_if<QVector<freedict::Imported>>(&result);
+    if (const auto *failure = std::get_if<Failure>(&result); imported == nullptr) {
+        QTextStream(stderr) << failure->sentence << Qt::endl;
+        return failed;
+    }
+    QTextStream out(stdout);
+    for (const auto &one : *imported) {
+        out << QStringLiteral("%1: a(z) %2 szótár %3 szócikkéből és %4 jelentéséből %5 szócikk és %6 jelentés lett.\n")
+                   .arg(one.dictionary.file, one.dictionary.title, QString::number(one.read.entries),
+                        QString::number(one.read.meanings), QString::number(one.written.entries),
+                        QString::number(one.written.meanings));
+    }
+    return done;
+}
+
+}  // namespace
+
+int main(int count, char *values[]) {
+    // There is no application object: it would complain in English about a locale that is not UTF-8.
+    QStringList arguments;
+    for (int i = 1; i < count; ++i)
+        arguments.append(QFile::decodeName(values[i]));
+    const auto result = request_of(arguments);
+    const auto *request = std::get_if<Request>(&result);
+    if (const auto *failure = std::get_if<Failure>(&result); request == nullptr) {
+        QTextStream(stderr) << failure->sentence << QStringLiteral("\n\n") << QString::fromUtf8(usage);
+        return called_wrongly;
+    }
+    if (request->help) {
+        QTextStream(stdout) << QString::fromUtf8(usage);
+        return done;
+    }
+    return run(*request);
+}
