@@ -7,7 +7,7 @@ namespace {
 // Two lines of a dictionary, the rest of one and the whole next, take about 90 bytes. A first read of 64 wastes less
 // than a larger one; a run reads on in steps of a quarter of its length, so that it overshoots by a quarter at most.
 constexpr qint64 first_read = 64;
-constexpr qint64 largest_read = 16 * 1024;
+constexpr qint64 largest_read = 16384;
 
 }  // namespace
 
@@ -31,10 +31,12 @@ std::optional<QByteArrayView> LineReader::next() {
         searched = bytes.size();
         if (read_on())
             continue;
-        if (bytes.isEmpty())
+        if (searched == 0)
             return std::nullopt;
-        position_ += bytes.size();
-        return bytes;
+        // Reading on may have moved the buffer, so `bytes` is void.
+        const QByteArrayView last = ahead();
+        position_ += last.size();
+        return last;
     }
 }
 

@@ -15,8 +15,8 @@ void színmásol(ablak &mire, const ablak &főablak) {
             kép->set_background(szín);
         } else if (auto *címke = qobject_cast<QLabel *>(vezérlő)) {
             címke->setAutoFillBackground(false);
-        } else if (qobject_cast<QRadioButton *>(vezérlő)) {
-            vezérlő->setPalette(mire.palette());
+        } else if (auto *gomb = qobject_cast<QRadioButton *>(vezérlő)) {
+            gomb->setPalette(mire.palette());
         }
     }
 }

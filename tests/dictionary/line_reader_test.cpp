@@ -44,6 +44,15 @@ TEST(LineReader, has_no_line_behind_the_end) {
     EXPECT_FALSE(lines.next());
 }
 
+TEST(LineReader, gives_a_last_line_whole_whose_bytes_moved_while_it_looked_for_more) {
+    const QByteArray last = "a last line without a line end, in which no two places are alike: 0123456789";
+    MemorySource source("first\n" + last);
+    LineReader lines(source);
+
+    EXPECT_EQ(lines.next()->toByteArray(), "first");
+    EXPECT_EQ(lines.next()->toByteArray(), last);
+}
+
 TEST(LineReader, equals_a_split_of_the_bytes_after_any_seeks) {
     std::mt19937 random(3);
     QByteArray bytes;

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "dictionary/dictionary_search.h"
 #include "freedict/dictionary_text.h"
 
 namespace {
@@ -16,10 +17,6 @@ namespace {
 void demand(bool condition) {
     if (!condition)
         std::abort();
-}
-
-QByteArrayView key_of(QByteArrayView line) {
-    return line.startsWith("to ") ? line.sliced(3) : line;
 }
 
 /// The number of meanings of a line, which must be headword ":" (meaning "÷")…
@@ -62,8 +59,8 @@ void check(const freedict::Package &package, const QByteArray &text) {
         }
         meanings += meanings_of(line);
         colons += line.count(':') - 1;
-        demand(previous <= key_of(line));
-        previous = key_of(line);
+        demand(previous <= keresőkulcs(line));
+        previous = keresőkulcs(line);
     }
     const freedict::Counts found{entries, meanings};
     demand(found == freedict::counts_of(package) && found == freedict::counts_in(text));

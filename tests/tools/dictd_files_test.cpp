@@ -29,7 +29,7 @@ QByteArray noise(qsizetype size) {
     return bytes;
 }
 
-TEST(DictdIndex, ALineGivesItsPlaceAndLengthInBase64MostSignificantDigitFirst) {
+TEST(DictdIndex, a_line_gives_its_place_and_length_in_base64_most_significant_digit_first) {
     const QByteArray data(3000, 'x');
 
     const auto result = definitions("apple\tc\thf\n", data, index_name);
@@ -41,7 +41,7 @@ TEST(DictdIndex, ALineGivesItsPlaceAndLengthInBase64MostSignificantDigitFirst) {
     EXPECT_EQ(found[0].text.size(), 33 * 64 + 31);
 }
 
-TEST(DictdIndex, EachOfThe64DigitsHasItsValue) {
+TEST(DictdIndex, each_of_the64_digits_has_its_value) {
     const QByteArray digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     const QByteArray data(64, 'x');
 
@@ -52,13 +52,13 @@ TEST(DictdIndex, EachOfThe64DigitsHasItsValue) {
     }
 }
 
-TEST(DictdIndex, ADefinitionMayEndWithTheData) {
+TEST(DictdIndex, a_definition_may_end_with_the_data) {
     const auto result = definitions("w\tB\tC\n", "abc", index_name);
 
     EXPECT_TRUE(std::get<QVector<Definition>>(result).at(0).text == "bc");
 }
 
-TEST(DictdIndex, ADefinitionThatReachesBeyondTheDataIsNamedWithItsLine) {
+TEST(DictdIndex, a_definition_that_reaches_beyond_the_data_is_named_with_its_line) {
     for (const char *line : {"w\tB\tD\n", "w\tE\tA\n", "w\t////////\tB\n", "w\t/////////\t/////////\n"}) {
         const auto result = definitions(QByteArray("w\tA\tA\n") + line, "abc", index_name);
 
@@ -67,7 +67,7 @@ TEST(DictdIndex, ADefinitionThatReachesBeyondTheDataIsNamedWithItsLine) {
     }
 }
 
-TEST(DictdIndex, ANumberWithAnyOtherCharacterOrWithTooManyDigitsIsRefused) {
+TEST(DictdIndex, a_number_with_any_other_character_or_with_too_many_digits_is_refused) {
     for (const char *line : {"w\tA=\tA\n", "w\tA\t-\n", "w\t\tA\n", "w\tA\t\n", "w\tA\tA\r\n", "w\tA\tA\tw\n",
                              "w\tAAAAAAAAAA\tA\n", "w\tA\t\xC3\xA1\n"}) {
         const auto result = definitions(line, "abc", index_name);
@@ -78,7 +78,7 @@ TEST(DictdIndex, ANumberWithAnyOtherCharacterOrWithTooManyDigitsIsRefused) {
     }
 }
 
-TEST(DictdIndex, ALineWithoutThreeColumnsIsRefused) {
+TEST(DictdIndex, a_line_without_three_columns_is_refused) {
     for (const char *line : {"\n", "w\n", "w\tA\n", "\tA\tA\n"}) {
         const auto result = definitions(line, "abc", index_name);
 
@@ -88,13 +88,13 @@ TEST(DictdIndex, ALineWithoutThreeColumnsIsRefused) {
     }
 }
 
-TEST(DictdIndex, AnIndexCutOffInItsLastLineIsRefused) {
+TEST(DictdIndex, an_index_cut_off_in_its_last_line_is_refused) {
     const auto result = definitions("a\tA\tB\nb\tB\tB", "abc", index_name);
 
     EXPECT_EQ(sentence(result), QStringLiteral("A(z) „sample.index” fájl sérült: az utolsó sora csonka."));
 }
 
-TEST(DictdData, AFileOfManyMegabytesIsUnpackedByteForByte) {
+TEST(DictdData, a_file_of_many_megabytes_is_unpacked_byte_for_byte) {
     for (const QByteArray &bytes : {QByteArray(), QByteArray("alma"), noise(3'000'000), QByteArray(5'000'000, 'a')}) {
         const FileContent content = unpacked(SamplePackage::packed(bytes), data_name);
 
@@ -103,7 +103,7 @@ TEST(DictdData, AFileOfManyMegabytesIsUnpackedByteForByte) {
     }
 }
 
-TEST(DictdData, AFileCutOffAnywhereIsRefused) {
+TEST(DictdData, a_file_cut_off_anywhere_is_refused) {
     const QByteArray gzip = SamplePackage::packed(noise(300));
 
     for (qsizetype size = 0; size < gzip.size(); ++size) {
@@ -115,7 +115,7 @@ TEST(DictdData, AFileCutOffAnywhereIsRefused) {
     }
 }
 
-TEST(DictdData, AFileWithOneWrongByteInItsDataIsRefused) {
+TEST(DictdData, a_file_with_one_wrong_byte_in_its_data_is_refused) {
     QByteArray gzip = SamplePackage::packed(noise(300));
     gzip[gzip.size() / 2] = static_cast<char>(gzip[gzip.size() / 2] ^ 1);
 
@@ -124,7 +124,7 @@ TEST(DictdData, AFileWithOneWrongByteInItsDataIsRefused) {
     EXPECT_TRUE(std::holds_alternative<Failure>(content));
 }
 
-TEST(DictdData, AFileWithSomethingBehindItsEndIsRefused) {
+TEST(DictdData, a_file_with_something_behind_its_end_is_refused) {
     const FileContent content = unpacked(SamplePackage::packed("alma") + 'x', data_name);
 
     ASSERT_TRUE(std::holds_alternative<Failure>(content));
@@ -132,7 +132,7 @@ TEST(DictdData, AFileWithSomethingBehindItsEndIsRefused) {
               QStringLiteral("A(z) „sample.dict.dz” fájl sérült: a gzip-adatok vége után is van benne valami."));
 }
 
-TEST(DictdData, AFileThatIsNotPackedIsRefused) {
+TEST(DictdData, a_file_that_is_not_packed_is_refused) {
     EXPECT_TRUE(std::holds_alternative<Failure>(unpacked("apple /x/\nalma\n", data_name)));
     EXPECT_TRUE(std::holds_alternative<Failure>(unpacked(qCompress("alma").sliced(4), data_name)));
 }

@@ -111,7 +111,7 @@ QStringList pairs_of(const QList<QByteArray> &lines, bool exchanged) {
     return pairs;
 }
 
-TEST_P(EachFreedictDictionary, HoldEachDefinitionOfThePackageWithAllItsMeanings) {
+TEST_P(EachFreedictDictionary, hold_each_definition_of_the_package_with_all_its_meanings) {
     QStringList written;
     const QList<QByteArray> lines = entry_lines_of(GetParam());
     std::ranges::transform(lines, std::back_inserter(written), definition_of);
@@ -125,7 +125,7 @@ TEST_P(EachFreedictDictionary, HoldEachDefinitionOfThePackageWithAllItsMeanings)
         ASSERT_EQ(written[i].toStdString(), expected[i].toStdString());
 }
 
-TEST_P(EachFreedictDictionary, StandInByteOrderWithALeadingToLeftOutOfAccount) {
+TEST_P(EachFreedictDictionary, stand_in_byte_order_with_a_leading_to_left_out_of_account) {
     std::vector<std::string> keys;
     for (const QByteArray &line : entry_lines_of(GetParam()))
         keys.push_back((line.startsWith("to ") ? line.mid(3) : line).toStdString());
@@ -133,7 +133,7 @@ TEST_P(EachFreedictDictionary, StandInByteOrderWithALeadingToLeftOutOfAccount) {
     EXPECT_TRUE(std::ranges::is_sorted(keys));
 }
 
-TEST_P(EachFreedictDictionary, HaveAHeadwordWithoutColonAndAMeaningInEveryLine) {
+TEST_P(EachFreedictDictionary, have_a_headword_without_colon_and_a_meaning_in_every_line) {
     const QRegularExpression entry(QStringLiteral("^[^:÷]+:([^÷]+÷)+$"));
     qsizetype more_colons = 0;
 
@@ -146,7 +146,7 @@ TEST_P(EachFreedictDictionary, HaveAHeadwordWithoutColonAndAMeaningInEveryLine) 
     EXPECT_EQ(more_colons, GetParam().file == u"am.txt" ? 1 : 0);
 }
 
-TEST_P(EachFreedictDictionary, BeginWithANoticeThatTheSearchSkips) {
+TEST_P(EachFreedictDictionary, begin_with_a_notice_that_the_search_skips) {
     const QByteArray notice = lines_of(GetParam()).first();
 
     EXPECT_GE(notice.size(), 101);
@@ -161,12 +161,12 @@ std::string name_of(const testing::TestParamInfo<Dictionary> &dictionary) {
 }
 INSTANTIATE_TEST_SUITE_P(Both, EachFreedictDictionary, testing::ValuesIn(freedict::dictionaries), name_of);
 
-TEST_F(FreedictDictionaries, HoldAllThePackagesEntries) {
+TEST_F(FreedictDictionaries, hold_all_the_packages_entries) {
     EXPECT_EQ(entry_lines_of(freedict::english_hungarian).size(), 89'679);
     EXPECT_EQ(entry_lines_of(freedict::hungarian_english).size(), 139'935);
 }
 
-TEST_F(FreedictDictionaries, NameTheirEditionAndLicence) {
+TEST_F(FreedictDictionaries, name_their_edition_and_licence) {
     const QString english = code_page::decode(lines_of(freedict::english_hungarian).first());
     const QString hungarian = code_page::decode(lines_of(freedict::hungarian_english).first());
 
@@ -178,7 +178,7 @@ TEST_F(FreedictDictionaries, NameTheirEditionAndLicence) {
 
 // The two packages were made of one list of pairs, and only one of them writes û and ô: equal pairs show that the mends
 // restore the letters that were meant.
-TEST_F(FreedictDictionaries, HoldTheSamePairsInBothDirections) {
+TEST_F(FreedictDictionaries, hold_the_same_pairs_in_both_directions) {
     QStringList english = pairs_of(entry_lines_of(freedict::english_hungarian), false);
     QStringList hungarian = pairs_of(entry_lines_of(freedict::hungarian_english), true);
     english.replaceInStrings(QStringLiteral("válasszatok: tett"), QStringLiteral("válasszatok – tett"));

@@ -29,13 +29,13 @@ QString sentence(const SamplePackage &sample) {
     return failure == nullptr ? QString() : failure->sentence;
 }
 
-TEST(FreedictEntry, OneMeaningStandsAsItIs) {
+TEST(FreedictEntry, one_meaning_stands_as_it_is) {
     const auto entries = entries_of(SamplePackage().add("apple /ˈapəl/\n1. alma\n"));
 
     EXPECT_EQ(entries, (QVector<Entry>{{QStringLiteral("apple"), {QStringLiteral("1. alma")}}}));
 }
 
-TEST(FreedictEntry, SeveralMeaningsLoseTheirNumbers) {
+TEST(FreedictEntry, several_meanings_lose_their_numbers) {
     const auto entries = entries_of(SamplePackage().add("to allow /təʊ/\n1. enged\n2. 2. megenged\n3.  ad\n"));
 
     EXPECT_EQ(entries,
@@ -43,7 +43,7 @@ TEST(FreedictEntry, SeveralMeaningsLoseTheirNumbers) {
                                {QStringLiteral("enged"), QStringLiteral("2. megenged"), QStringLiteral(" ad")}}}));
 }
 
-TEST(FreedictEntry, TenMeaningsAndMoreAreNumberedWithTwoDigits) {
+TEST(FreedictEntry, ten_meanings_and_more_are_numbered_with_two_digits) {
     QByteArray definition = "go /x/\n";
     for (int i = 1; i <= 12; ++i)
         definition += QByteArray::number(i) + ". m" + QByteArray::number(i) + '\n';
@@ -55,7 +55,7 @@ TEST(FreedictEntry, TenMeaningsAndMoreAreNumberedWithTwoDigits) {
     EXPECT_EQ(entries[0].meanings.last(), QStringLiteral("m12"));
 }
 
-TEST(FreedictEntry, TheHeadwordMayHoldASlash) {
+TEST(FreedictEntry, the_headword_may_hold_a_slash) {
     const auto entries = entries_of(SamplePackage().add("he/she is /hiː ʃiː/\nő van\n").add("a /b /c/\nd\n"));
 
     ASSERT_EQ(entries.size(), 2);
@@ -63,21 +63,21 @@ TEST(FreedictEntry, TheHeadwordMayHoldASlash) {
     EXPECT_EQ(entries[1].headword, QStringLiteral("a /b"));
 }
 
-TEST(FreedictEntry, TheHeadwordIsTakenFromTheDefinitionAndNotFromTheIndex) {
+TEST(FreedictEntry, the_headword_is_taken_from_the_definition_and_not_from_the_index) {
     const auto entries = entries_of(SamplePackage().add("00648 gramm", "0,0648 gramm /x/\ngrain\n"));
 
     ASSERT_EQ(entries.size(), 1);
     EXPECT_EQ(entries[0].headword, QStringLiteral("0,0648 gramm"));
 }
 
-TEST(FreedictEntry, ADescriptionOfThePackageIsNoEntry) {
+TEST(FreedictEntry, a_description_of_the_package_is_no_entry) {
     const auto entries = entries_of(SamplePackage().add("00databaseurl", "unknown\n").add("apple /x/\nalma\n"));
 
     ASSERT_EQ(entries.size(), 1);
     EXPECT_EQ(entries[0].headword, QStringLiteral("apple"));
 }
 
-TEST(FreedictEntry, AByteOrderMarkIsNotDroppedInSilence) {
+TEST(FreedictEntry, a_byte_order_mark_is_not_dropped_in_silence) {
     const auto entries =
         entries_of(SamplePackage().add("\xEF\xBB\xBF"
                                        "apple /x/\nalma\n"));
@@ -86,7 +86,7 @@ TEST(FreedictEntry, AByteOrderMarkIsNotDroppedInSilence) {
     EXPECT_EQ(entries[0].headword, QStringLiteral("\uFEFFapple"));
 }
 
-TEST(FreedictEntry, ADefinitionThatMakesNoSenseIsNamed) {
+TEST(FreedictEntry, a_definition_that_makes_no_sense_is_named) {
     const char *const senseless[] = {
         "apple\nalma\n",                   // no pronunciation
         "apple /x\nalma\n",                // its end missing
@@ -116,7 +116,7 @@ TEST(FreedictEntry, ADefinitionThatMakesNoSenseIsNamed) {
     }
 }
 
-TEST(FreedictPackage, ItsDescriptionGivesNameEditionCountAndConditions) {
+TEST(FreedictPackage, its_description_gives_name_edition_count_and_conditions) {
     const PackageResult result = parsed(SamplePackage().state(12));
 
     const auto &package = std::get<Package>(result);
@@ -127,7 +127,7 @@ TEST(FreedictPackage, ItsDescriptionGivesNameEditionCountAndConditions) {
                                               "of the GNU General Public License ver. 2.0."));
 }
 
-TEST(FreedictPackage, ADescriptionThatLacksAnythingOfThatIsRefused) {
+TEST(FreedictPackage, a_description_that_lacks_anything_of_that_is_refused) {
     const std::pair<const char *, const char *> missing[] = {
         {"Sample FreeDict Dictionary", ""},
         {"Edition: 1.2.3", "Edition:"},
@@ -148,7 +148,7 @@ TEST(FreedictPackage, ADescriptionThatLacksAnythingOfThatIsRefused) {
     }
 }
 
-TEST(FreedictPackage, APackageWithoutADescriptionIsRefused) {
+TEST(FreedictPackage, a_package_without_a_description_is_refused) {
     const PackageResult result =
         freedict::parse_package("apple\tA\tP\n", "apple /x/\nalma\n", QStringLiteral("sample"));
 

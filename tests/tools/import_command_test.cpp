@@ -35,7 +35,7 @@ class ImportCommand : public testing::Test {
     QTemporaryDir output_;
 };
 
-TEST_F(ImportCommand, WritesBothDictionariesAndPrintsTheCounts) {
+TEST_F(ImportCommand, writes_both_dictionaries_and_prints_the_counts) {
     const Outcome outcome = run({QStringLiteral("--freedict"), packages_.path(), output_.path()});
 
     EXPECT_EQ(outcome.code, 0);
@@ -45,14 +45,14 @@ TEST_F(ImportCommand, WritesBothDictionariesAndPrintsTheCounts) {
     EXPECT_EQ(output_files(), (QStringList{QStringLiteral("am.txt"), QStringLiteral("ma.txt")}));
 }
 
-TEST_F(ImportCommand, LeavesOnePlainLineADictionaryInALog) {
+TEST_F(ImportCommand, leaves_one_plain_line_a_dictionary_in_a_log) {
     const Outcome outcome = run({QStringLiteral("--freedict=") + packages_.path(), output_.path()});
 
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.error.toStdString(), "angol–magyar szótár átalakítása…\nmagyar–angol szótár átalakítása…\n");
 }
 
-TEST_F(ImportCommand, FailsWithAMessageAndNoFileWhenAPackageIsDamaged) {
+TEST_F(ImportCommand, fails_with_a_message_and_no_file_when_a_package_is_damaged) {
     SamplePackage().state(3).write(packages_.path(), QStringLiteral("freedict-hun-eng"));
 
     const Outcome outcome = run({QStringLiteral("--freedict"), packages_.path(), output_.path()});
@@ -64,7 +64,7 @@ TEST_F(ImportCommand, FailsWithAMessageAndNoFileWhenAPackageIsDamaged) {
     EXPECT_TRUE(output_files().isEmpty());
 }
 
-TEST_F(ImportCommand, ExplainsItselfInHungarian) {
+TEST_F(ImportCommand, explains_itself_in_hungarian) {
     const Outcome outcome = run({QStringLiteral("--help")});
 
     EXPECT_EQ(outcome.code, 0);
@@ -72,7 +72,7 @@ TEST_F(ImportCommand, ExplainsItselfInHungarian) {
     EXPECT_TRUE(outcome.error.isEmpty());
 }
 
-TEST_F(ImportCommand, SaysWhatIsWrongWithItsArguments) {
+TEST_F(ImportCommand, says_what_is_wrong_with_its_arguments) {
     const std::pair<QStringList, const char *> wrong[] = {
         {{}, "Hiányzik a kimeneti mappa.\n"},
         {{QStringLiteral("--gyors"), output_.path()}, "Ismeretlen kapcsoló: „--gyors”.\n"},

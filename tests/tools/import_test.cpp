@@ -57,7 +57,7 @@ class Import : public testing::Test {
     QVector<std::pair<QString, int>> progress_;
 };
 
-TEST_F(Import, MakesBothDictionariesAndCountsWhatWentInAndCameOut) {
+TEST_F(Import, makes_both_dictionaries_and_counts_what_went_in_and_came_out) {
     const auto result = import();
 
     const auto &imported = std::get<QVector<Imported>>(result);
@@ -69,7 +69,7 @@ TEST_F(Import, MakesBothDictionariesAndCountsWhatWentInAndCameOut) {
     EXPECT_TRUE(content(QStringLiteral("ma.txt")).endsWith("\r\nalma:apple\xF7\r\n"));
 }
 
-TEST_F(Import, TellsItsProgressFrom0To100ForEachDictionary) {
+TEST_F(Import, tells_its_progress_from0_to100_for_each_dictionary) {
     (void)import();
 
     ASSERT_GE(progress_.size(), 4);
@@ -81,7 +81,7 @@ TEST_F(Import, TellsItsProgressFrom0To100ForEachDictionary) {
     EXPECT_EQ(progress_.count(std::pair(QStringLiteral("ma.txt"), 0)), 1);
 }
 
-TEST_F(Import, WritesNothingWhenTheSecondPackageStatesMoreHeadwordsThanItHas) {
+TEST_F(Import, writes_nothing_when_the_second_package_states_more_headwords_than_it_has) {
     hungarian_.state(2);
     write_packages();
 
@@ -89,34 +89,34 @@ TEST_F(Import, WritesNothingWhenTheSecondPackageStatesMoreHeadwordsThanItHas) {
         QStringLiteral("A(z) „Sample FreeDict Dictionary” leírása szerint 2 címszava van, de 1 szócikke írható ki."));
 }
 
-TEST_F(Import, WritesNothingWhenAnIndexIsMissing) {
+TEST_F(Import, writes_nothing_when_an_index_is_missing) {
     QFile::remove(package_file(hungarian + QStringLiteral(".index")));
 
     expect_failure(QStringLiteral("A(z) „%1” fájl nem olvasható: a fájl nem létezik.")
                        .arg(package_file(hungarian + QStringLiteral(".index"))));
 }
 
-TEST_F(Import, WritesNothingWhenTheDataAreMissing) {
+TEST_F(Import, writes_nothing_when_the_data_are_missing) {
     QFile::remove(package_file(english + QStringLiteral(".dict.dz")));
 
     expect_failure(QStringLiteral("A(z) „%1” fájl nem olvasható: a fájl nem létezik.")
                        .arg(package_file(english + QStringLiteral(".dict.dz"))));
 }
 
-TEST_F(Import, WritesNothingWhenTheDataAreNotPacked) {
+TEST_F(Import, writes_nothing_when_the_data_are_not_packed) {
     SamplePackage::put(package_file(hungarian + QStringLiteral(".dict.dz")), hungarian_.data());
 
     expect_failure(QStringLiteral("A(z) „freedict-hun-eng.dict.dz” fájl sérült: nem ép gzip-fájl."));
 }
 
-TEST_F(Import, WritesNothingWhenTheIndexBelongsToOtherData) {
+TEST_F(Import, writes_nothing_when_the_index_belongs_to_other_data) {
     SamplePackage::put(package_file(english + QStringLiteral(".index")), english_.index() + "w\tAAAB\t/////\n");
 
     expect_failure(
         QStringLiteral("A(z) „freedict-eng-hun.index” fájl sérült: a(z) 4. sorban az adatfájlon kívüli hely áll."));
 }
 
-TEST_F(Import, WritesNothingWhenAnEntryMakesNoSense) {
+TEST_F(Import, writes_nothing_when_an_entry_makes_no_sense) {
     hungarian_.add("körte", "körte\npear\n");
     write_packages();
 
@@ -124,7 +124,7 @@ TEST_F(Import, WritesNothingWhenAnEntryMakesNoSense) {
         "A(z) „freedict-hun-eng.dict.dz” fájl sérült: értelmezhetetlen a(z) „körte” szócikk (az index 3. sora)."));
 }
 
-TEST_F(Import, WritesNothingWhenACharacterHasNoPlaceInTheCodePage) {
+TEST_F(Import, writes_nothing_when_a_character_has_no_place_in_the_code_page) {
     hungarian_.add("fû /x/\ngrass\n");
     write_packages();
 
@@ -133,7 +133,7 @@ TEST_F(Import, WritesNothingWhenACharacterHasNoPlaceInTheCodePage) {
                        "a windows-1250 kódlapon."));
 }
 
-TEST_F(Import, WritesNothingWhenAMeaningHoldsADivisionSign) {
+TEST_F(Import, writes_nothing_when_a_meaning_holds_a_division_sign) {
     english_.add("sign /x/\n÷\n");
     write_packages();
 
@@ -141,7 +141,7 @@ TEST_F(Import, WritesNothingWhenAMeaningHoldsADivisionSign) {
         QStringLiteral("A(z) angol–magyar szótár „sign” szócikke nem írható ki: a(z) „÷” jelentésben „÷” jel áll."));
 }
 
-TEST_F(Import, NamesTheFileThatCannotBeWritten) {
+TEST_F(Import, names_the_file_that_cannot_be_written) {
     output_.remove();
 
     const auto result = import();

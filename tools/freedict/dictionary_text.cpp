@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "dictionary/dictionary_search.h"
 #include "platform/code_page.h"
 
 namespace freedict {
@@ -60,12 +61,6 @@ FileContent notice_of(const Package &package, const Dictionary &dictionary) {
     return encoded(notice, QStringLiteral("%1 szótár első sora").arg(dictionary.title));
 }
 
-/// The part of a line that decides its place.
-QByteArrayView sort_key(QByteArrayView line) {
-    constexpr QByteArrayView infinitive("to ");
-    return line.startsWith(infinitive) ? line.sliced(infinitive.size()) : line;
-}
-
 }  // namespace
 
 FileContent dictionary_text(const Package &package, const Dictionary &dictionary, const Steps &steps) {
@@ -83,7 +78,7 @@ FileContent dictionary_text(const Package &package, const Dictionary &dictionary
         lines.append(std::get<QByteArray>(std::move(line)));
     }
     // QByteArrayView compares as memcmp does: byte by byte, unsigned.
-    std::ranges::stable_sort(lines, {}, [](const QByteArray &line) { return sort_key(line); });
+    std::ranges::stable_sort(lines, {}, [](const QByteArray &line) { return keresőkulcs(QByteArrayView(line)); });
     QByteArray text = std::get<QByteArray>(std::move(notice)).append(line_end);
     for (const QByteArray &line : lines)
         text.append(line).append(line_end);
