@@ -62,7 +62,7 @@ void szótár::eseményeket_köt() {
     lookup_eseményeket_köt();
     lista_eseményeket_köt();
     menü_eseményeket_köt();
-    connect(v_.kilép, &QPushButton::clicked, this, [this] { kilép_Click(); });
+    connect(v_.kilép, &QPushButton::clicked, &események_, [this] { kilép_Click(); });
 }
 
 void szótár::Form_Load(const QString &parancssor) {

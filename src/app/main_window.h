@@ -114,4 +114,8 @@ class szótár final : public ablak, private szószedetablak {
     bool vége_ = false;
     /// Whether the missing dictionary of a direction (0 from English, 1 from Hungarian) has been told.
     std::array<bool, 2> hiány_szólt_{};
+
+    /// Every connection of the window hangs on it. It goes before the other members, so that no event that the end of
+    /// the window itself raises asks for one of them.
+    QObject események_;
 };

@@ -2,7 +2,7 @@
 
 void szótár::menü_eseményeket_köt() {
     const auto köt = [this](QAction *menüpont, void (szószedetfájlok::*mit)()) {
-        connect(menüpont, &QAction::triggered, this, [this, mit] { (fájlok_.*mit)(); });
+        connect(menüpont, &QAction::triggered, &események_, [this, mit] { (fájlok_.*mit)(); });
     };
     köt(m_.mnufájlúj, &szószedetfájlok::mnufájlúj);
     köt(m_.mnufájlmegnyit, &szószedetfájlok::mnufájlmegnyit);
@@ -10,10 +10,10 @@ void szótár::menü_eseményeket_köt() {
     köt(m_.mnufájlment, &szószedetfájlok::mnufájlment);
     köt(m_.mnufájlmentmásként, &szószedetfájlok::mnufájlmentmásként);
     for (QAction *menüpont : m_.mnufájlfájl) {
-        connect(menüpont, &QAction::triggered, this,
+        connect(menüpont, &QAction::triggered, &események_,
                 [this, menüpont] { fájlok_.mnufájlfájl(legutóbbifájlok::útvonal(menüpont->text())); });
     }
-    connect(m_.mnufeladatválaszt, &QAction::triggered, this, [this] { mnufeladatválaszt_Click(); });
+    connect(m_.mnufeladatválaszt, &QAction::triggered, &események_, [this] { mnufeladatválaszt_Click(); });
 }
 
 void szótár::mnufeladatválaszt_Click() {

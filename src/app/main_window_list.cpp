@@ -5,9 +5,9 @@
 #include "wordlist/szs_file.h"
 
 void szótár::lista_eseményeket_köt() {
-    connect(v_.hozzáad, &QPushButton::clicked, this, [this] { hozzáad_Click(); });
-    connect(v_.szószedet, &ListBox::itemSelected, this, [this] { szószedet_Click(); });
-    connect(v_.szómagylist, &ListBox::itemSelected, this, [this] {
+    connect(v_.hozzáad, &QPushButton::clicked, &események_, [this] { hozzáad_Click(); });
+    connect(v_.szószedet, &ListBox::itemSelected, &események_, [this] { szószedet_Click(); });
+    connect(v_.szómagylist, &ListBox::itemSelected, &események_, [this] {
         if (v_.szómagylist->selected() != v_.szószedet->selected())
             v_.szószedet->select(v_.szómagylist->selected());
     });
@@ -16,10 +16,10 @@ void szótár::lista_eseményeket_köt() {
     connect(v_.szómagylist->verticalScrollBar(), &QScrollBar::valueChanged, v_.szószedet->verticalScrollBar(),
             &QScrollBar::setValue);
     for (QLineEdit *mező : {v_.szóangtext, v_.szómagytext})
-        connect(mező, &QLineEdit::textChanged, this, [this] { szövegmező_Change(); });
-    connect(v_.módosít, &QPushButton::clicked, this, [this] { módosít_Click(); });
-    connect(v_.sztöröl, &QPushButton::clicked, this, [this] { sztöröl_Click(); });
-    connect(qApp, &QApplication::focusChanged, this,
+        connect(mező, &QLineEdit::textChanged, &események_, [this] { szövegmező_Change(); });
+    connect(v_.módosít, &QPushButton::clicked, &események_, [this] { módosít_Click(); });
+    connect(v_.sztöröl, &QPushButton::clicked, &események_, [this] { sztöröl_Click(); });
+    connect(qApp, &QApplication::focusChanged, &események_,
             [this](const QWidget *honnan, const QWidget *hová) { fókusz_változott(honnan, hová); });
 }
 

@@ -19,14 +19,14 @@ constexpr qint64 events_after = 10;
 }  // namespace
 
 void szótár::lookup_eseményeket_köt() {
-    connect(v_.angolszó, &QLineEdit::textChanged, this, [this] { angolszó_Change(); });
-    connect(v_.Ok, &QPushButton::clicked, this, [this] { Ok_Click(); });
-    connect(v_.szólist, &ListBox::itemSelected, this, [this] { szólist_Click(); });
-    connect(v_.magyarlist, &ListBox::itemSelected, this, [this] { magyarlist_Click(); });
-    connect(v_.magyarlist, &ListBox::itemDoubleClicked, this, [this] { magyarlist_DblClick(); });
+    connect(v_.angolszó, &QLineEdit::textChanged, &események_, [this] { angolszó_Change(); });
+    connect(v_.Ok, &QPushButton::clicked, &események_, [this] { Ok_Click(); });
+    connect(v_.szólist, &ListBox::itemSelected, &események_, [this] { szólist_Click(); });
+    connect(v_.magyarlist, &ListBox::itemSelected, &események_, [this] { magyarlist_Click(); });
+    connect(v_.magyarlist, &ListBox::itemDoubleClicked, &események_, [this] { magyarlist_DblClick(); });
     for (QRadioButton *irány : v_.nyelv)
-        connect(irány, &QRadioButton::clicked, this, [this] { nyelv_Click(); });
-    connect(v_.Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
+        connect(irány, &QRadioButton::clicked, &események_, [this] { nyelv_Click(); });
+    connect(v_.Command2, &QPushButton::clicked, &események_, [this] { Command2_Click(); });
 }
 
 void szótár::angolszó_Change() {

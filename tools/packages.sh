@@ -1,0 +1,15 @@
+# Debian 12 packages, sourced by ./run and ./test.
+
+# What building and running the program takes.
+build_packages=(
+    g++ cmake ninja-build ccache
+    qt6-base-dev libgl-dev qt6-translations-l10n zlib1g-dev
+    fonts-liberation2 dict-freedict-eng-hun dict-freedict-hun-eng
+)
+# What a virtual display takes.
+display_packages=(xvfb openbox xdotool x11-utils xclip imagemagick procps)
+# What the tests take besides.
+test_packages=(
+    libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
+    clang clang-format clang-tidy libclang-rt-14-dev
+)
