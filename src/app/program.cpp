@@ -2,14 +2,12 @@
 
 #include <QApplication>
 #include <QEventLoop>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QScreen>
 #include <QSessionManager>
 #include <QTimer>
-#include <QTranslator>
 
 #include "ui/fonts.h"
+#include "ui/toolkit_texts.h"
 #include "ui/twips.h"
 
 namespace {
@@ -31,11 +29,7 @@ void wait_an_animation_step() {
 }  // namespace
 
 void set_up_toolkit() {
-    QLocale::setDefault(QLocale(QLocale::Hungarian, QLocale::Hungary));
-    auto *translator = new QTranslator(qApp);
-    if (translator->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(translator);
+    make_toolkit_hungarian();
     fonts::substitute_missing_faces();
     // The main window hides while another one is used; only the exit procedure ends the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
