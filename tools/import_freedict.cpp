@@ -23,7 +23,7 @@ const char *const usage =
     "\n"
     "  --freedict MAPPA  a szótárcsomagok dictd-fájljainak mappája\n"
     "                    (alapértelmezés: /usr/share/dictd)\n"
-    "  --help, -h        ezt a leírást mutatja\n";
+    "  --help, -h        kiírja ezt a leírást\n";
 
 struct Request {
     bool help = false;
@@ -105,7 +105,7 @@ int run(const Request &request) {
     }
     QTextStream out(stdout);
     for (const auto &one : *imported) {
-        out << QStringLiteral("%1: a(z) %2 szótár %3 szócikkéből és %4 jelentéséből %5 szócikk és %6 jelentés lett.\n")
+        out << QStringLiteral("%1 (%2 szótár): %3 szócikkből és %4 jelentésből %5 szócikk és %6 jelentés lett.\n")
                    .arg(one.dictionary.file, one.dictionary.title, QString::number(one.read.entries),
                         QString::number(one.read.meanings), QString::number(one.written.entries),
                         QString::number(one.written.meanings));

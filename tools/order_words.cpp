@@ -20,10 +20,10 @@ const char *const usage =
     "nagybetűsen, sorba rendezve kiírja őket a magyarvg.skt fájlba.\n"
     "A rendezés ideje a sorok számának négyzetével nő.\n"
     "\n"
-    "Kiírja a rossz helyen álló és az összes sor számát (vesszővel), rendezés\n"
-    "közben pedig annak a sornak a számát, ahol tart.\n"
+    "Kiírja a rossz helyen álló és az összes sor számát, vesszővel elválasztva,\n"
+    "rendezés közben pedig annak a sornak a számát, amelynél tart.\n"
     "\n"
-    "  --help, -h  ezt a leírást mutatja\n";
+    "  --help, -h  kiírja ezt a leírást\n";
 
 int run(const QString &folder) {
     QTextStream out(stdout);
@@ -45,8 +45,11 @@ int main(int count, char *values[]) {
         QTextStream(stdout) << QString::fromUtf8(usage);
         return done;
     }
-    if (arguments.size() > 1 || arguments.value(0).startsWith(u'-')) {
-        QTextStream(stderr) << QStringLiteral("Legfeljebb egy mappa adható meg.\n\n") << QString::fromUtf8(usage);
+    const bool option = arguments.value(0).startsWith(u'-');
+    if (option || arguments.size() > 1) {
+        QTextStream(stderr) << (option ? QStringLiteral("Ismeretlen kapcsoló: „%1”.").arg(arguments[0])
+                                       : QStringLiteral("Legfeljebb egy mappa adható meg."))
+                            << QStringLiteral("\n\n") << QString::fromUtf8(usage);
         return called_wrongly;
     }
     return run(arguments.value(0, QStringLiteral(".")));

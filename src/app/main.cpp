@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include "app/program.h"
 
@@ -23,6 +24,6 @@ int main(int argc, char *argv[]) {
     QApplication::setDesktopFileName(QStringLiteral("zimbora"));
     set_up_toolkit();
     Program program(program_folder_places());
-    program.start(application.arguments().mid(1).join(u' '));
+    QTimer::singleShot(0, &application, [&] { program.start(QCoreApplication::arguments().mid(1).join(u' ')); });
     return QApplication::exec();
 }

@@ -22,24 +22,7 @@ constexpr int lépések = 25;
 /// From the bottom of the lowest control that is seen to the window's outer bottom.
 constexpr double alatta = 850;
 
-constexpr double tervezett_pont = 9;
-/// The menus grow with the screen too, but less: they are read one word at a time.
-constexpr double menü_aránya = 0.8;
-
 const QString kisablakfájl_helye = QStringLiteral("c:\\zbrmk\\angol\\kisablak.ini");
-
-void betűméretez(ablak &mit, double szorzó) {
-    for (QWidget *vezérlő : mit.vezérlők()) {
-        QFont betű = vezérlő->font();
-        fonts::set_points(betű, tervezett_pont * szorzó);
-        vezérlő->setFont(betű);
-    }
-    QFont menübetű = mit.menüsor()->font();
-    fonts::set_points(menübetű, tervezett_pont * std::max(1.0, szorzó * menü_aránya));
-    mit.menüsor()->setFont(menübetű);
-    for (QMenu *menü : mit.menüsor()->findChildren<QMenu *>())
-        menü->setFont(menübetű);
-}
 
 }  // namespace
 
@@ -50,7 +33,10 @@ szótár::szótár(szótárkörnyezet környezet)
       m_(*menüsor()),
       fájlok_(k_.állapot, lista_, *this, k_.üzenetek, k_.fájlablakok,
               k_.meghajtó.path(QStringLiteral("c:\\zbrmkfnh.ini"))),
-      üzenet_([this] { return std::make_unique<üzenet>(k_.hasznos, *this, k_.állapot.aktuálisfájl); }) {
+      üzenet_([this] { return std::make_unique<üzenet>(k_.hasznos, *this, k_.állapot.aktuálisfájl); }),
+      tanulás_([this] { return std::make_unique<tanulás>(feladatnak()); }),
+      kikérdező_([this] { return std::make_unique<kikérdező>(feladatnak()); }),
+      választás_([this] { return std::make_unique<választás>(feladatnak()); }) {
     setWindowTitle(QStringLiteral("névtelen szószedet"));
     setFont(QFont(QStringList{fonts::times_new_roman}));
     méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
@@ -61,7 +47,8 @@ szótár::szótár(szótárkörnyezet környezet)
 void szótár::eseményeket_köt() {
     lookup_eseményeket_köt();
     lista_eseményeket_köt();
-    menü_eseményeket_köt();
+    fájl_eseményeket_köt();
+    feladat_eseményeket_köt();
     connect(v_.kilép, &QPushButton::clicked, &események_, [this] { kilép_Click(); });
 }
 
@@ -74,7 +61,7 @@ void szótár::Form_Load(const QString &parancssor) {
     mentbeállít();
     középre(k_.hasznos.képernyő());
     ablakigazít();
-    betűméretez(*this, k_.hasznos.ablakméretez(*this, 0.85));
+    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, 0.85));
     k_.hasznos.ablakstílus(*this);
     magasságbeállít(hely(v_.Ok).bottom() + 120 + keretmagasság());
     v_.angolszó->setFocus();
@@ -84,7 +71,7 @@ void szótár::Form_Load(const QString &parancssor) {
 void szótár::kisablakfájlolvas() {
     const FileContent tartalom = files::read_whole(k_.meghajtó.path(kisablakfájl_helye));
     const auto *bytes = std::get_if<QByteArray>(&tartalom);
-    const QSizeF képernyő = k_.hasznos.képernyő();
+    const QSizeF képernyő = k_.hasznos.képernyő().size();
     const kisablakfájl::értékek alap{qRound(képernyő.width() / 2), qRound(képernyő.height() / 2), 0};
     const auto olvasott = bytes ? kisablakfájl::olvas(*bytes) : std::nullopt;
     const kisablakfájl::értékek értékek = olvasott.value_or(alap);
@@ -107,11 +94,11 @@ void szótár::kilép_Click() {
     if (kilép_)
         return;
     kilép_ = true;
+    kilépésmégse_ = true;
     kisablakfájlír();
-    const bool véget_ér = fájlok_.kilépéskérdés();
-    kilépésmégse_ = !véget_ér;
+    kilépésmégse_ = !fájlok_.kilépéskérdés();
     kilép_ = false;
-    if (!véget_ér)
+    if (kilépésmégse_)
         return;
     vége_ = true;
     hide();
@@ -120,7 +107,7 @@ void szótár::kilép_Click() {
 
 void szótár::Form_QueryUnload(bool &mégse) {
     kilép_Click();
-    mégse = !vége_;
+    mégse = kilépésmégse_;
 }
 
 void szótár::closeEvent(QCloseEvent *event) {
@@ -138,8 +125,6 @@ void szótár::mentbeállít() {
     m_.mnufájlment->setEnabled(van);
     m_.mnufájlmentmásként->setEnabled(van);
     m_.mnufeladat->setEnabled(van);
-    // Until its window exists, only the warning about too few pairs can be had.
-    m_.mnufeladatválaszt->setEnabled(lista_.darab() < 2);
     // Exact on purpose: a window that was scaled to another height is not animated.
     if (!van && magasság() == teli_magasság)
         magasságot_csúsztat(teli_magasság, üres_magasság);

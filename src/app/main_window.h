@@ -7,8 +7,15 @@
 
 #include "app/global.h"
 #include "app/main_window_controls.h"
+#include "app/settings_store.h"
+#include "exercises/exercise_surroundings.h"
+#include "exercises/learning_window.h"
+#include "exercises/multiple_choice_window.h"
+#include "exercises/typed_quiz_window.h"
+#include "exercises/word_list_reader.h"
 #include "platform/dialogs.h"
 #include "platform/drive_c.h"
+#include "platform/random_numbers.h"
 #include "ui/reference_window.h"
 #include "ui/result_message_window.h"
 #include "ui/window.h"
@@ -25,6 +32,8 @@ struct szótárkörnyezet {
     MessageBoxes &üzenetek;
     FileDialogs &fájlablakok;
     DriveC meghajtó;
+    RandomNumbers &véletlen;
+    global::beállítástár &beállítások;
     /// Lets a moment pass between two steps of an animation.
     std::function<void()> lépésköz;
     /// Ends the program.
@@ -35,8 +44,8 @@ struct szótárkörnyezet {
 /// `szószedet` and `szómagylist` are the word list; its handlers carry the names of their controls and events.
 ///
 /// Sources: main_window.cpp its life, size and exit; main_window_lookup.cpp the dictionary; main_window_list.cpp the
-/// word list; main_window_files.cpp the menus.
-class szótár final : public ablak, private szószedetablak {
+/// word list; main_window_files.cpp the menu of files; main_window_exercises.cpp the menu of exercises.
+class szótár final : public ablak, private szószedetablak, private szószedetolvasó {
   public:
     explicit szótár(szótárkörnyezet környezet);
 
@@ -44,8 +53,8 @@ class szótár final : public ablak, private szószedetablak {
     void Form_Load(const QString &parancssor);
 
     // What other windows call.
-    /// Adds the selected hit and meaning to the word list; with nothing selected, or a word that no file could hold,
-    /// nothing but a beep or a message.
+    /// Adds the selected hit and meaning to the word list, with a beep. With nothing selected it only beeps; a word
+    /// that a file would not give back is refused with a message.
     void hozzáad_Click();
     /// Looks the text of `angolszó` up in the dictionary of the current direction.
     void Ok_Click();
@@ -54,6 +63,8 @@ class szótár final : public ablak, private szószedetablak {
     void magyarlist_DblClick();
 
     [[nodiscard]] const szópárlista &szavak() const { return lista_; }
+    /// True once the program is to end.
+    [[nodiscard]] bool vége() const { return vége_; }
 
   protected:
     void closeEvent(QCloseEvent *event) override;
@@ -91,11 +102,22 @@ class szótár final : public ablak, private szószedetablak {
     [[nodiscard]] bool felvehető(const szópár &pár);
     void szövegmezőketürít() override;
 
-    // The menus (main_window_files.cpp)
-    void menü_eseményeket_köt();
-    void mnufeladatválaszt_Click();
+    // The files (main_window_files.cpp)
+    void fájl_eseményeket_köt();
     void fájllistmutat(const QStringList &fájlok) override;
     [[nodiscard]] QStringList fájllist() const override;
+
+    // The exercises (main_window_exercises.cpp)
+    void feladat_eseményeket_köt();
+    void mnufeladattanul_Click();
+    void mnufeladatkikérd_Click();
+    void mnufeladatválaszt_Click();
+    /// Hides the main window, shows an exercise until it closes, shows the main window again and unloads the exercise.
+    template <class Feladat>
+    void feladatot_mutat(WindowReference<Feladat> &feladat);
+    void üzenetmutat(qint16 ezredmásodperc, const QStringList &sorok);
+    [[nodiscard]] feladatkörnyezet feladatnak();
+    [[nodiscard]] const QVector<szópár> &párok() const override { return lista_.párok(); }
 
     szótárkörnyezet k_;
     szópárlista lista_;
@@ -103,10 +125,13 @@ class szótár final : public ablak, private szószedetablak {
     szótármenü m_;
     szószedetfájlok fájlok_;
     WindowReference<üzenet> üzenet_;
+    WindowReference<tanulás> tanulás_;
+    WindowReference<kikérdező> kikérdező_;
+    WindowReference<választás> választás_;
 
-    /// True while a search runs.
-    bool keres_ = false;
-    /// Set when the user answers Cancel to the question at the exit.
+    /// Number of the newest search: an older one that still runs has been taken over.
+    int keresés_ = 0;
+    /// True after an exit procedure in which the user chose to stay or a save did not happen, and while one asks.
     bool kilépésmégse_ = false;
     /// True while the exit procedure asks, so that a second request does not ask again.
     bool kilép_ = false;

@@ -3,6 +3,8 @@
 #include <QMenuBar>
 #include <limits>
 
+#include "ui/named.h"
+
 namespace {
 
 // The design, in twips. Two heights follow from it: `Ok` ends at 3860 and `módosít` at 7370, 850 above the window's
@@ -29,9 +31,7 @@ constexpr double edit_top = 7370 - row_height;
 template <class Control>
 Control *placed(ablak &window, Control *control, const char16_t *name, const QRectF &place,
                 const char16_t *accessible_name) {
-    control->setObjectName(QString::fromUtf16(name));
-    control->setAccessibleName(QString::fromUtf16(accessible_name));
-    window.elhelyez(control, place);
+    window.elhelyez(named(control, name, accessible_name), place);
     return control;
 }
 
@@ -55,12 +55,6 @@ Control *never_shown(Control *control) {
     return control;
 }
 
-template <class Item>
-Item *named(Item *item, const char16_t *name) {
-    item->setObjectName(QString::fromUtf16(name));
-    return item;
-}
-
 QAction *separator(QMenu &menu, const char16_t *name) {
     return named(menu.addSeparator(), name);
 }
@@ -68,10 +62,10 @@ QAction *separator(QMenu &menu, const char16_t *name) {
 }  // namespace
 
 szótárvezérlők::szótárvezérlők(ablak &mire, szópárlista &lista)
-    // In the order of reading, which is the order of Tab. "Szószedetből töröl" comes right behind the list: it is
-    // enabled only while the focus is on one of the two.
+    // In the order of reading, which is the order of Tab. "Szószedetből töröl" comes right behind the list: it
+    // would be disabled if the focus went anywhere else.
     : Label1(placed(mire, new QLabel(QStringLiteral("&Angolul:")), u"Label1",
-                    {left_column, caption_top, list_width, caption_height}, u"Keresett szó")),
+                    {left_column, caption_top, list_width, caption_height}, nullptr)),
       angolszó(
           placed(mire, text_box(), u"angolszó", {left_column, search_top, list_width, row_height}, u"Keresett szó")),
       Ok(placed(mire, disabled_button(QStringLiteral("Ok")), u"Ok",
@@ -79,12 +73,11 @@ szótárvezérlők::szótárvezérlők(ablak &mire, szópárlista &lista)
       szólist(placed(mire, new ListBox, u"szólist", {left_column, hits_top, list_width, lookup_bottom - hits_top},
                      u"Találatok")),
       Label2(placed(mire, new QLabel(QStringLiteral("Magyarul:")), u"Label2",
-                    {middle_column, caption_top, list_width, caption_height}, u"Jelentések")),
+                    {middle_column, caption_top, list_width, caption_height}, nullptr)),
       magyarlist(placed(mire, new ListBox, u"magyarlist",
                         {middle_column, search_top, list_width, lookup_bottom - search_top}, u"Jelentések")),
       Label3(placed(mire, new QLabel, u"Label3",
-                    {left_column + list_width * 0.44, lookup_buttons_top, list_width * 0.56, row_height},
-                    u"Találatok száma")),
+                    {left_column + list_width * 0.44, lookup_buttons_top, list_width * 0.56, row_height}, nullptr)),
       hozzáad(placed(mire, disabled_button(QStringLiteral("Szószedethez ad")), u"hozzáad",
                      {middle_column, lookup_buttons_top, list_width, row_height}, u"Szószedethez ad")),
       nyelv{placed(mire, new QRadioButton(QStringLiteral("Angolról magyarra")), u"nyelv(0)",
@@ -134,6 +127,8 @@ szótármenü::szótármenü(QMenuBar &sor)
       mnufájlmentmásként(named(mnufájl->addAction(QStringLiteral("Ment másként...")), u"mnufájlmentmásként")),
       elv3(separator(*mnufájl, u"elv3")),
       mnufeladat(named(sor.addMenu(QStringLiteral("Fel&adatok")), u"mnufeladat")),
+      mnufeladattanul(named(mnufeladat->addAction(QStringLiteral("&Tanulás")), u"mnufeladattanul")),
+      mnufeladatkikérd(named(mnufeladat->addAction(QStringLiteral("&Kikérdezés")), u"mnufeladatkikérd")),
       mnufeladatválaszt(named(mnufeladat->addAction(QStringLiteral("&Választás")), u"mnufeladatválaszt")) {
     sor.setObjectName(QStringLiteral("menüsor"));
     for (size_t i = 0; i < mnufájlfájl.size(); ++i) {

@@ -61,5 +61,7 @@ struct szótármenü {
     std::array<QAction *, legutóbbifájlok::legfeljebb> mnufájlfájl;
 
     QMenu *mnufeladat;
+    QAction *mnufeladattanul;
+    QAction *mnufeladatkikérd;
     QAction *mnufeladatválaszt;
 };

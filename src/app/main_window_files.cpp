@@ -1,6 +1,6 @@
 #include "app/main_window.h"
 
-void szótár::menü_eseményeket_köt() {
+void szótár::fájl_eseményeket_köt() {
     const auto köt = [this](QAction *menüpont, void (szószedetfájlok::*mit)()) {
         connect(menüpont, &QAction::triggered, &események_, [this, mit] { (fájlok_.*mit)(); });
     };
@@ -13,15 +13,6 @@ void szótár::menü_eseményeket_köt() {
         connect(menüpont, &QAction::triggered, &események_,
                 [this, menüpont] { fájlok_.mnufájlfájl(legutóbbifájlok::útvonal(menüpont->text())); });
     }
-    connect(m_.mnufeladatválaszt, &QAction::triggered, &események_, [this] { mnufeladatválaszt_Click(); });
-}
-
-void szótár::mnufeladatválaszt_Click() {
-    if (lista_.darab() >= 2)
-        return;
-    üzenet_.get().üzenetmutat(3000, {QStringLiteral("Ehhez a játékhoz "), QStringLiteral("legalább két szót"),
-                                     QStringLiteral("kell felvenni"), QStringLiteral("a szószedetbe!")});
-    üzenet_.unload();
 }
 
 void szótár::fájllistmutat(const QStringList &fájlok) {

@@ -77,6 +77,7 @@ void szótár::sztöröl_Click() {
     if (k < 0)
         return;
     v_.szószedet->select(-1);
+    v_.szómagylist->select(-1);
     szövegmezőketürít();
     v_.szószedet->select(lista_.töröl(k));
     v_.szószedet->setFocus();

@@ -47,13 +47,12 @@ void szótár::Ok_Click() {
     const QString szöveg = v_.angolszó->text();
     if (szöveg.isEmpty())
         return;
-    keres_ = true;
+    const int ez_a_keresés = ++keresés_;
     keresőlisták_ürít();
     const QString fájl =
         k_.állapot.programkönyvtár + u'/' + (angolról() ? english_hungarian_file : hungarian_english_file);
     FileSource forrás(fájl);
     if (!forrás.is_open()) {
-        keres_ = false;
         nincs_szótár(fájl);
         return;
     }
@@ -71,12 +70,11 @@ void szótár::Ok_Click() {
                                      }
                                      // Compared with the key on purpose: a text that begins with "to " ends after its
                                      // first line.
-                                     return vége_ || v_.angolszó->text() != kulcs;
+                                     return vége_ || ez_a_keresés != keresés_ || v_.angolszó->text() != kulcs;
                                  }};
     // A text that the code page cannot hold stands in no dictionary.
     const auto bytes = code_page::encode(szöveg);
     const keresésvége vég = bytes ? szótárkereső(forrás).keres(*bytes, figyelő) : keresésvége{};
-    keres_ = false;
     if (vég.megszakadt)
         return;
     v_.Label3->setText(QStringLiteral("%1 találat").arg(vég.darab));
@@ -110,6 +108,8 @@ void szótár::magyarlist_DblClick() {
 }
 
 void szótár::nyelv_Click() {
+    // A search in the other dictionary must not go on filling the lists.
+    ++keresés_;
     keresőlisták_ürít();
     v_.Label1->setText(angolról() ? QStringLiteral("&Angolul:") : QStringLiteral("&Magyarul:"));
     v_.Label2->setText(angolról() ? QStringLiteral("Magyarul:") : QStringLiteral("Angolul:"));

@@ -15,9 +15,9 @@ namespace {
 /// 25 steps of this length make an animation of a quarter of a second.
 constexpr int animation_step = 10;
 
-QSizeF screen_in_twips() {
-    const QSizeF pixels = QGuiApplication::primaryScreen()->size();
-    return pixels * twips::per_pixel;
+QRectF screen_in_twips() {
+    const QRectF pixels = QGuiApplication::primaryScreen()->geometry();
+    return {pixels.topLeft() * twips::per_pixel, pixels.size() * twips::per_pixel};
 }
 
 void wait_an_animation_step() {
@@ -37,7 +37,7 @@ void set_up_toolkit() {
 
 Program::Program(const ProgramFolderPlaces &places)
     : fitting_(reference_, screen_in_twips),
-      main_window_({state_, reference_, fitting_, message_boxes_, file_dialogs_, DriveC::of_this_user(),
+      main_window_({state_, reference_, fitting_, message_boxes_, file_dialogs_, drive_, random_, settings_,
                     wait_an_animation_step, [] { QCoreApplication::quit(); }}),
       termination_([this] { main_window_.kilép_Click(); }) {
     state_.programkönyvtár = find_program_folder(places);
@@ -54,7 +54,9 @@ Program::Program(const ProgramFolderPlaces &places)
 
 void Program::start(const QString &command_line) {
     // Its files lie there; one that cannot be written is told when it is.
-    static_cast<void>(DriveC::of_this_user().make_root());
+    static_cast<void>(drive_.make_root());
     main_window_.Form_Load(command_line);
-    main_window_.show();
+    // A message at the start may have been answered by a request to end.
+    if (!main_window_.vége())
+        main_window_.show();
 }

@@ -5,7 +5,9 @@
 #include "app/global.h"
 #include "app/main_window.h"
 #include "app/program_folder.h"
+#include "app/settings_store.h"
 #include "platform/drive_c.h"
+#include "platform/system_random.h"
 #include "platform/termination_signal.h"
 #include "ui/qt_dialogs.h"
 #include "ui/reference_window.h"
@@ -16,7 +18,8 @@ class Program final {
   public:
     explicit Program(const ProgramFolderPlaces &places);
 
-    /// Shows the main window, with the word list that `command_line` names if it names one.
+    /// Shows the main window, with the word list that `command_line` names if it names one. To be called from the event
+    /// loop: a message that it shows may be answered by a request to end the program.
     void start(const QString &command_line);
 
     [[nodiscard]] szótár &main_window() { return main_window_; }
@@ -25,6 +28,9 @@ class Program final {
     global::programállapot state_;
     QtMessageBoxes message_boxes_;
     QtFileDialogs file_dialogs_;
+    DriveC drive_ = DriveC::of_this_user();
+    SystemRandom random_;
+    global::beállítástár settings_;
     frm_referencia reference_;
     Module_hasznos fitting_;
     szótár main_window_;

@@ -83,10 +83,12 @@ void ListBox::set_up() {
 }
 
 void ListBox::add(const QString &text) {
+    Q_ASSERT(texts_);
     texts_->add(text);
 }
 
 void ListBox::clear() {
+    Q_ASSERT(texts_);
     texts_->clear();
 }
 
@@ -118,7 +120,10 @@ void ListBox::currentChanged(const QModelIndex &current, const QModelIndex &prev
 
 void ListBox::mousePressEvent(QMouseEvent *event) {
     const QModelIndex pressed = indexAt(event->position().toPoint());
-    const bool again = pressed.isValid() && pressed == currentIndex();
+    // A click below the last item changes nothing; the toolkit would take the highlight off the selected item.
+    if (!pressed.isValid())
+        return;
+    const bool again = pressed == currentIndex();
     QListView::mousePressEvent(event);
     if (again)
         announce();

@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 
 #include "ui/twips.h"
 
@@ -15,7 +16,7 @@ void PictureBox::clear() {
 }
 
 void PictureBox::print(const QPointF &position, const QString &text) {
-    printed_.push_back({QRectF(position, text_size(text)), text, font()});
+    printed_.push_back({QRectF(position, text_size(text, font())), text, font()});
     update();
 }
 
@@ -23,9 +24,14 @@ QSizeF PictureBox::inner_size() const {
     return {twips::from_pixels(width()), twips::from_pixels(height())};
 }
 
-QSizeF PictureBox::text_size(const QString &text) const {
-    const QFontMetricsF metrics(font());
-    return {twips::from_pixels(metrics.horizontalAdvance(text)), twips::from_pixels(metrics.height())};
+QSizeF PictureBox::text_size(const QString &text, const QFont &font) {
+    const QFontMetricsF metrics(font);
+    QSizeF size(0, 0);
+    for (const QString &line : text.split(u'\n')) {
+        size.rwidth() = std::max(size.width(), metrics.horizontalAdvance(line));
+        size.rheight() += metrics.height();
+    }
+    return size * twips::per_pixel;
 }
 
 QRectF PictureBox::printed_area() const {
@@ -45,7 +51,12 @@ void PictureBox::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     for (const Printed &one : printed_) {
         painter.setFont(one.font);
-        const double ascent = QFontMetricsF(one.font).ascent();
-        painter.drawText(one.place.topLeft() / twips::per_pixel + QPointF(0, ascent), one.text);
+        const QFontMetricsF metrics(one.font);
+        const double middle = one.place.center().x() / twips::per_pixel;
+        double baseline = one.place.top() / twips::per_pixel + metrics.ascent();
+        for (const QString &line : one.text.split(u'\n')) {
+            painter.drawText(QPointF(middle - metrics.horizontalAdvance(line) / 2, baseline), line);
+            baseline += metrics.height();
+        }
     }
 }

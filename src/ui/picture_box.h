@@ -15,12 +15,13 @@ class PictureBox : public QWidget {
 
     /// Takes everything printed off.
     void clear();
-    /// Prints `text` in the widget's font, its top left corner at `position`.
+    /// Prints `text` in the widget's font, its top left corner at `position`; lines of several are centred on each
+    /// other.
     void print(const QPointF &position, const QString &text);
 
     [[nodiscard]] QSizeF inner_size() const;
-    /// Width and height of a line of `text` in the widget's font.
-    [[nodiscard]] QSizeF text_size(const QString &text) const;
+    /// Width and height of `text`, whose lines "\n" ends, in `font`.
+    [[nodiscard]] static QSizeF text_size(const QString &text, const QFont &font);
     /// Where the printed texts stand.
     [[nodiscard]] QRectF printed_area() const;
 

@@ -67,8 +67,9 @@ void ablak::igazít() {
     setFixedSize(width, menu + height);
 }
 
-void ablak::középre(QSizeF képernyő) {
-    move(twips::to_pixels((képernyő.width() - szélesség_) / 2), twips::to_pixels((képernyő.height() - magasság_) / 2));
+void ablak::középre(const QRectF &képernyő) {
+    move(twips::to_pixels(képernyő.left() + (képernyő.width() - szélesség_) / 2),
+         twips::to_pixels(képernyő.top() + (képernyő.height() - magasság_) / 2));
 }
 
 void ablak::elhelyez(QWidget *vezérlő, const QRectF &hely) {
@@ -96,7 +97,17 @@ void ablak::alapgombbeállít(QPushButton *gomb) {
         alapgomb_->setDefault(true);
 }
 
+void ablak::levesz(QWidget *vezérlő) {
+    vezérlők_.removeOne(vezérlő);
+    helyek_.remove(vezérlő);
+    delete vezérlő;
+}
+
 void ablak::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Escape && mégsegomb_) {
+        mégsegomb_->click();
+        return;
+    }
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QWidget::keyPressEvent(event);
         return;
@@ -112,5 +123,7 @@ void ablak::mutatmodálisan() {
     const HideWatch watch(*this, [&loop] { loop.quit(); });
     setWindowModality(Qt::ApplicationModal);
     show();
-    loop.exec();
+    // A window that has nothing to show hides while it is being shown.
+    if (isVisible())
+        loop.exec();
 }

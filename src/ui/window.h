@@ -4,7 +4,6 @@
 #include <QHash>
 #include <QList>
 #include <QRectF>
-#include <QSizeF>
 #include <QString>
 #include <QWidget>
 
@@ -34,12 +33,14 @@ class ablak : public QWidget {
     [[nodiscard]] double belsőszélesség() const { return szélesség_ - keretszélesség(); }
     void méretez(double szélesség, double magasság);
     void magasságbeállít(double magasság) { méretez(szélesség_, magasság); }
-    /// Centres the window on a screen of this size.
-    void középre(QSizeF képernyő);
+    /// Centres the window on a screen that has this place among all screens.
+    void középre(const QRectF &képernyő);
 
     /// Puts a control of the window, its child from now on, to a place on the inner surface, in twips.
     void elhelyez(QWidget *vezérlő, const QRectF &hely);
     [[nodiscard]] QRectF hely(const QWidget *vezérlő) const { return helyek_.value(vezérlő); }
+    /// Takes a control off the window and deletes it.
+    void levesz(QWidget *vezérlő);
     /// The controls in the order they were placed; menus are none.
     [[nodiscard]] const QList<QWidget *> &vezérlők() const { return vezérlők_; }
 
@@ -49,6 +50,9 @@ class ablak : public QWidget {
     /// The button that Enter presses while no button has the focus; null for none.
     void alapgombbeállít(QPushButton *gomb);
     [[nodiscard]] QPushButton *alapgomb() const { return alapgomb_; }
+
+    /// The button that Escape presses; null for none.
+    void mégsegombbeállít(QPushButton *gomb) { mégsegomb_ = gomb; }
 
     /// Shows the window and returns when it is hidden or closed; the program's other windows take no input meanwhile.
     void mutatmodálisan();
@@ -62,6 +66,7 @@ class ablak : public QWidget {
     QMenuBar *menüsor_ = nullptr;
     QWidget *felület_ = nullptr;
     QPushButton *alapgomb_ = nullptr;
+    QPushButton *mégsegomb_ = nullptr;
     QList<QWidget *> vezérlők_;
     QHash<const QWidget *, QRectF> helyek_;
     QColor háttérszín_;

@@ -2,12 +2,14 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
-#include <QFontMetricsF>
 #include <QGroupBox>
 #include <QIcon>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStringList>
 #include <algorithm>
 #include <utility>
 
@@ -17,6 +19,10 @@
 namespace {
 
 constexpr double margó = 120;
+
+constexpr double tervezett_pont = 9;
+/// The menus grow with the screen too, but less: they are read one word at a time.
+constexpr double menü_aránya = 0.8;
 
 /// Fits the window round its controls.
 void körülvesz(ablak &mit) {
@@ -82,14 +88,88 @@ QString látható(const QString &felirat) {
         .replace(QStringLiteral("\u0001"), QStringLiteral("&"));
 }
 
+constexpr double legkisebb_pont = 8;
+
+/// Sizes of a text in the type face of fitted texts.
+class Betűpróba final {
+  public:
+    explicit Betűpróba(QFont betű) : betű_(std::move(betű)) { betű_.setFamilies({fonts::times_new_roman}); }
+
+    [[nodiscard]] QFont betű(double pont) {
+        fonts::set_points(betű_, pont);
+        return betű_;
+    }
+    /// In twips.
+    [[nodiscard]] QSizeF méret(double pont, const QString &szöveg) { return PictureBox::text_size(szöveg, betű(pont)); }
+
+  private:
+    QFont betű_;
+};
+
+bool elfér(const QSizeF &szöveg, const QSizeF &hely) {
+    return szöveg.width() < hely.width() && szöveg.height() < hely.height();
+}
+
+/// `szöveg` broken at blanks into lines no wider than `szélesség`; a word that is wider alone is broken inside.
+QString tördelt(const QString &szöveg, double szélesség, Betűpróba &próba) {
+    QStringList sorok{QString()};
+    for (const QString &szó : szöveg.split(u' ')) {
+        const QString bővebb = sorok.back().isEmpty() ? szó : sorok.back() + u' ' + szó;
+        if (próba.méret(legkisebb_pont, bővebb).width() < szélesség) {
+            sorok.back() = bővebb;
+            continue;
+        }
+        if (!sorok.back().isEmpty())
+            sorok.append(QString());
+        for (const QChar betű : szó) {
+            if (próba.méret(legkisebb_pont, sorok.back() + betű).width() >= szélesség && !sorok.back().isEmpty())
+                sorok.append(QString());
+            sorok.back() += betű;
+        }
+    }
+    return sorok.join(u'\n');
+}
+
+void képbe(PictureBox &hova, const QString &szöveg) {
+    hova.clear();
+    const QString kiírt = szöveg.isEmpty() ? QStringLiteral("Kéne írni ide valamit!") : szöveg;
+    const QSizeF hely = hova.inner_size();
+    Betűpróba próba(hova.font());
+    double pont = legkisebb_pont;
+    while (elfér(próba.méret(pont, kiírt), hely))
+        ++pont;
+    hova.setFont(próba.betű(pont - 1));
+    QString sorok = kiírt;
+    if (pont == legkisebb_pont && próba.méret(pont, kiírt).width() >= hely.width()) {
+        sorok = tördelt(kiírt, hely.width(), próba);
+        hova.setFont(próba.betű(legkisebb_pont));
+    }
+    const QSizeF végső = PictureBox::text_size(sorok, hova.font());
+    const bool csupa_nagybetű = kiírt == kiírt.toUpper();
+    const double közép = csupa_nagybetű ? hely.height() * 0.6 : hely.height() / 2;
+    hova.print({hely.width() / 2 - végső.width() / 2, közép - végső.height() / 2}, sorok);
+    hova.setProperty("tag", kiírt);
+}
+
+void feliratba(QWidget &hova, const QString &szöveg) {
+    const QString kiírt = szöveg.isEmpty() ? felirat(hova) : szöveg;
+    const QSizeF hely(twips::from_pixels(0.9 * hova.width()), twips::from_pixels(0.9 * hova.height()));
+    Betűpróba próba(hova.font());
+    double pont = 6;
+    while (elfér(próba.méret(pont, látható(kiírt)), hely))
+        ++pont;
+    hova.setFont(próba.betű(pont));
+    feliratbeállít(hova, kiírt);
+}
+
 }  // namespace
 
-Module_hasznos::Module_hasznos(const frm_referencia &referencia, std::function<QSizeF()> képernyő)
+Module_hasznos::Module_hasznos(const frm_referencia &referencia, std::function<QRectF()> képernyő)
     : referencia_(referencia), képernyő_(std::move(képernyő)) {}
 
 double Module_hasznos::ablakméretez(ablak &mit, double arány) const {
     körülvesz(mit);
-    const QSizeF képernyő = képernyő_();
+    const QSizeF képernyő = képernyő_().size();
     double szorzó = (képernyő.height() - mit.keretmagasság()) * arány / mit.belsőmagasság();
     if (mit.szélesség() * szorzó > képernyő.width() * arány)
         szorzó = (képernyő.width() - mit.keretszélesség()) * arány / mit.belsőszélesség();
@@ -101,6 +181,21 @@ double Module_hasznos::ablakméretez(ablak &mit, double arány) const {
     return szorzó;
 }
 
+void Module_hasznos::betűméretez(ablak &mit, double szorzó) {
+    for (QWidget *vezérlő : mit.vezérlők()) {
+        QFont betű = vezérlő->font();
+        fonts::set_points(betű, tervezett_pont * szorzó);
+        vezérlő->setFont(betű);
+    }
+    if (!mit.menüsor())
+        return;
+    QFont menübetű = mit.menüsor()->font();
+    fonts::set_points(menübetű, tervezett_pont * std::max(1.0, szorzó * menü_aránya));
+    mit.menüsor()->setFont(menübetű);
+    for (QMenu *menü : mit.menüsor()->findChildren<QMenu *>())
+        menü->setFont(menübetű);
+}
+
 void Module_hasznos::ablakstílus(ablak &mit) const {
     mit.középre(képernyő_());
     mit.setWindowIcon(referencia_.windowIcon());
@@ -110,44 +205,13 @@ void Module_hasznos::ablakstílus(ablak &mit) const {
         vezérlőstílus(*vezérlő, mit);
 }
 
-void Module_hasznos::szövegbeigazít(PictureBox &hova, const QString &szöveg) {
-    hova.clear();
-    const QString kiírt = szöveg.isEmpty() ? QStringLiteral("Kéne írni ide valamit!") : szöveg;
-    const QSizeF hely = hova.inner_size();
-    QFont betű = hova.font();
-    betű.setFamilies({fonts::times_new_roman});
-    double pont = 8;
-    const auto méret = [&](double mekkora) {
-        fonts::set_points(betű, mekkora);
-        hova.setFont(betű);
-        return hova.text_size(kiírt);
-    };
-    for (QSizeF egyik = méret(pont); egyik.width() < hely.width() && egyik.height() < hely.height();)
-        egyik = méret(++pont);
-    const QSizeF végső = méret(pont - 1);
-    const bool csupa_nagybetű = kiírt == kiírt.toUpper();
-    const double közép = csupa_nagybetű ? hely.height() * 0.6 : hely.height() / 2;
-    hova.print({hely.width() / 2 - végső.width() / 2, közép - végső.height() / 2}, kiírt);
-    hova.setProperty("tag", kiírt);
-}
-
-void Module_hasznos::szövegbeigazít(PictureBox &hova, double szám) {
-    szövegbeigazít(hova, QString::number(szám).trimmed());
-}
-
 void Module_hasznos::szövegbeigazít(QWidget &hova, const QString &szöveg) {
-    const QString kiírt = szöveg.isEmpty() ? felirat(hova) : szöveg;
-    const QString látszó = látható(kiírt);
-    QFont betű = hova.font();
-    betű.setFamilies({fonts::times_new_roman});
-    double pont = 6;
-    const auto elfér = [&](double mekkora) {
-        fonts::set_points(betű, mekkora);
-        const QFontMetricsF méret(betű);
-        return méret.horizontalAdvance(látszó) < 0.9 * hova.width() && méret.height() < 0.9 * hova.height();
-    };
-    while (elfér(pont))
-        ++pont;
-    hova.setFont(betű);
-    feliratbeállít(hova, kiírt);
+    if (auto *kép = dynamic_cast<PictureBox *>(&hova))
+        képbe(*kép, szöveg);
+    else
+        feliratba(hova, szöveg);
+}
+
+void Module_hasznos::szövegbeigazít(QWidget &hova, double szám) {
+    szövegbeigazít(hova, QString::number(szám, 'g', 15).trimmed());
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QSizeF>
+#include <QRectF>
 #include <QString>
 #include <functional>
 
@@ -13,29 +13,32 @@
 /// szövegbeigazít() for each strip of text.
 class Module_hasznos final {
   public:
-    /// `referencia` must outlive this object. `képernyő` gives the size of the screen in twips; it is asked each time.
-    Module_hasznos(const frm_referencia &referencia, std::function<QSizeF()> képernyő);
+    /// `referencia` must outlive this object. `képernyő` gives the place of the screen in twips; it is asked each time.
+    Module_hasznos(const frm_referencia &referencia, std::function<QRectF()> képernyő);
 
     /// Scales a window and its controls with one ratio, so that it takes the share `arány` of the screen in its tighter
     /// direction, and fits the window round its controls with a margin of 120 twips. Returns the ratio.
     double ablakméretez(ablak &mit, double arány) const;
 
+    /// Gives the letters of a window's controls and menus the size that fits controls scaled by `szorzó`.
+    static void betűméretez(ablak &mit, double szorzó);
+
     /// Centres a window and gives it icon, colour, title, type face and its fixed size.
     void ablakstílus(ablak &mit) const;
 
-    [[nodiscard]] QSizeF képernyő() const { return képernyő_(); }
+    [[nodiscard]] QRectF képernyő() const { return képernyő_(); }
 
-    /// Prints `szöveg` into the middle of a picture box in the largest font in which it fits, and keeps it as the box's
-    /// property "tag". An empty text becomes a reminder; a text without small letters stands a little lower.
-    static void szövegbeigazít(PictureBox &hova, const QString &szöveg);
-    /// A number is fitted as its text.
-    static void szövegbeigazít(PictureBox &hova, double szám);
-
-    /// Gives a label or button `szöveg`, or its own caption when that is empty, in the first font size in which the
-    /// text reaches 90 % of the control's width or height.
+    /// Writes `szöveg` into a control in the largest font that fits.
+    ///
+    /// A picture box has it printed in its middle, in the last size at which it fits, and keeps it as its property
+    /// "tag"; an empty text becomes a reminder, a text without small letters stands a little lower, and one that does
+    /// not fit in the smallest size either is broken into lines. A label or button takes it, or its own caption when it
+    /// is empty, in the first size in which it reaches 90 % of the control's width or height.
     static void szövegbeigazít(QWidget &hova, const QString &szöveg);
+    /// A number is fitted as its text.
+    static void szövegbeigazít(QWidget &hova, double szám);
 
   private:
     const frm_referencia &referencia_;
-    std::function<QSizeF()> képernyő_;
+    std::function<QRectF()> képernyő_;
 };

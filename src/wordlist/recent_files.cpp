@@ -25,9 +25,10 @@ FileContent ír(const QString &aktuális, const QStringList &menü) {
     for (const QString &út : utak) {
         const auto sor = code_page::encode(út);
         if (!sor)
-            return Failure{QStringLiteral("A(z) „%1” fájl nem kerülhet a legutóbbi fájlok közé: a nevében a(z) „%2” "
-                                          "jel nincs meg a közép-európai kódlapban.")
-                               .arg(út, code_page::first_missing(út))};
+            return Failure{
+                QStringLiteral("A(z) „%1” fájl nem kerülhet a legutóbbi fájlok közé, mert a nevében szereplő „%2” "
+                               "jel nincs meg a közép-európai kódlapon.")
+                    .arg(út, code_page::first_missing(út))};
         bytes += *sor + "\r\n";
     }
     return bytes;

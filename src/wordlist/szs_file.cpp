@@ -13,29 +13,36 @@ szópár sorból(QByteArrayView sor) {
     return {code_page::decode(sor.first(kettőspont)), code_page::decode(sor.sliced(kettőspont + 1))};
 }
 
-/// A lone CR inside a line is a character like any other; only at the end of the Hungarian side would it be taken for
-/// a part of the line end.
+/// A lone CR is a character like any other: of several before the LF only the last belongs to the line end.
 bool van_benne_sorvég(const szópár &pár) {
     return pár.angol.contains(u'\n') || pár.magyar.contains(u'\n');
+}
+
+Failure nincs_a_kódlapon(const QString &szó) {
+    return {QStringLiteral("A(z) „%1” szóban a(z) „%2” jel nem menthető, mert a szószedetfájl közép-európai kódlapján "
+                           "nincs meg.")
+                .arg(szó, code_page::first_missing(szó))};
 }
 
 }  // namespace
 
 QVector<szópár> olvas(QByteArrayView bytes) {
     QVector<szópár> párok;
-    while (!bytes.isEmpty()) {
+    while (!bytes.isEmpty())
         párok.append(sorból(take_line(bytes)));
-    }
     return párok;
 }
 
 FileContent ír(const QVector<szópár> &párok) {
     QByteArray bytes;
     for (const szópár &pár : párok) {
+        const QString gond = akadály(pár);
+        if (!gond.isEmpty())
+            return Failure{gond};
         const auto angol = code_page::encode(pár.angol);
         const auto magyar = code_page::encode(pár.magyar);
-        if (!angol || !magyar || angol->contains(':') || van_benne_sorvég(pár))
-            return Failure{akadály(pár)};
+        if (!angol || !magyar)
+            return nincs_a_kódlapon(angol ? pár.magyar : pár.angol);
         bytes += *angol + ':' + *magyar + "\r\n";
     }
     return bytes;
@@ -44,20 +51,12 @@ FileContent ír(const QVector<szópár> &párok) {
 QString akadály(const szópár &pár) {
     if (pár.angol.contains(u':'))
         return QStringLiteral(
-                   "A(z) „%1” angol szóban nem lehet kettőspont, mert a szószedet fájlban az választja el az "
+                   "A(z) „%1” angol szóban nem lehet kettőspont, mert a szószedetfájlban az választja el az "
                    "angol szót a magyartól.")
             .arg(pár.angol);
     if (van_benne_sorvég(pár))
-        return QStringLiteral("A(z) „%1” szópárban nem lehet sorvég.")
+        return QStringLiteral("A(z) „%1” szópárban nem lehet sortörés.")
             .arg((pár.angol + u':' + pár.magyar).simplified());
-    for (const QString &szó : {pár.angol, pár.magyar}) {
-        const QString hiányzó = code_page::first_missing(szó);
-        if (!hiányzó.isEmpty())
-            return QStringLiteral(
-                       "A(z) „%1” szóban a(z) „%2” jel nem menthető, mert a szószedet fájl "
-                       "közép-európai kódlapjában nincs meg.")
-                .arg(szó, hiányzó);
-    }
     return {};
 }
 

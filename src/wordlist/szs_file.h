@@ -24,7 +24,8 @@ namespace szsfájl {
 /// a character that the code page lacks, a line end in a word, ":" in an English word.
 [[nodiscard]] FileContent ír(const QVector<szópár> &párok);
 
-/// Why `pár` could not stand in a file, as a sentence for the user; empty when it can.
+/// Why a file would read `pár` as something else, as a sentence for the user; empty when it would not. That the code
+/// page may lack a character is for ír() to find.
 [[nodiscard]] QString akadály(const szópár &pár);
 
 }  // namespace szsfájl

@@ -135,6 +135,17 @@ TEST_F(MainWindowList, modify_refuses_a_colon_in_the_english_word) {
     EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("a:b"));
 }
 
+TEST_F(MainWindowList, modify_refuses_a_line_break) {
+    add_three();
+    click_item("szószedet", 0);
+    text_box("szómagytext")->setText(QStringLiteral("egy\nkettő"));
+
+    click("módosít");
+
+    EXPECT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(pairs().startsWith(QStringLiteral("apple:alma")));
+}
+
 TEST_F(MainWindowList, enter_in_a_text_box_modifies) {
     add_three();
     click_item("szószedet", 2);

@@ -66,9 +66,12 @@ TEST_F(MainWindowLookup, has_no_meaning_to_add_when_the_entry_has_no_separator) 
 
 TEST_F(MainWindowLookup, leaves_the_lists_empty_for_a_text_that_begins_with_to) {
     type("to go");
+    const QString before = hit_count();
+    type("a");
 
     EXPECT_EQ(list("szólist")->count(), 0);
     EXPECT_EQ(list("magyarlist")->count(), 0);
+    EXPECT_EQ(hit_count(), before);
 }
 
 TEST_F(MainWindowLookup, finds_nothing_for_a_letter_that_no_dictionary_can_hold) {
@@ -91,14 +94,14 @@ TEST_F(MainWindowLookup, enables_ok_only_with_a_text_and_keeps_the_last_hits_wit
 }
 
 TEST_F(MainWindowLookup, ok_searches_again) {
-    type("app");
+    type("apple");
     click_item("szólist", 0);
 
     click("Ok");
 
-    EXPECT_EQ(list("szólist")->selected(), 0);
+    EXPECT_EQ(list("szólist")->selected(), 1);
     EXPECT_EQ(items("szólist").size(), 2);
-    EXPECT_EQ(items("magyarlist"), QStringList{QStringLiteral("almatorta")});
+    EXPECT_EQ(items("magyarlist"), QStringList({QStringLiteral("alma"), QStringLiteral("almafa")}));
 }
 
 TEST_F(MainWindowLookup, direction_changes_captions_and_dictionary_and_clears_all) {
@@ -159,6 +162,29 @@ TEST_F(LongSearch, typing_quickly_leaves_only_the_lists_of_the_last_search) {
     EXPECT_EQ(items("szólist"), QStringList{QStringLiteral("goat")});
     EXPECT_EQ(hit_count(), QStringLiteral("1 találat"));
     EXPECT_EQ(items("magyarlist"), QStringList{QStringLiteral("kecske")});
+}
+
+TEST_F(LongSearch, second_search_for_the_same_text_takes_the_first_over) {
+    QTimer::singleShot(0, window_.get(), [this] { window_->Ok_Click(); });
+
+    type("g");
+
+    EXPECT_EQ(list("szólist")->count(), 120001);
+    EXPECT_EQ(list("megoldlist")->count(), 120001);
+    EXPECT_EQ(hit_count(), QStringLiteral("120001 találat"));
+}
+
+TEST_F(LongSearch, change_of_direction_and_the_same_letter_again_leave_only_the_other_dictionarys_hits) {
+    write_file(place("angol/ma.txt"), dictionary_of({"g\xe9p:machine\xf7"}));
+    QTimer::singleShot(0, window_.get(), [this] {
+        QTest::mouseClick(control<QRadioButton>("nyelv(1)"), Qt::LeftButton);
+        type("g");
+    });
+
+    type("g");
+
+    EXPECT_EQ(items("szólist"), QStringList{QStringLiteral("gép")});
+    EXPECT_EQ(hit_count(), QStringLiteral("1 találat"));
 }
 
 TEST_F(LongSearch, ends_at_once_when_the_program_ends) {

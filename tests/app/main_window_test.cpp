@@ -1,4 +1,4 @@
-#include <QStyle>
+#include <QAccessible>
 
 #include "support/main_window_fixture.h"
 
@@ -21,7 +21,7 @@ class MainWindow : public MainWindowTest {
     void use_the_screen_of_the_design() {
         start();
         const double frame = window_->keretmagasság();
-        screen_ = QSizeF(100000, (7370 + 120) / 0.85 + frame);
+        screen_ = QRectF(0, 0, 100000, (7370 + 120) / 0.85 + frame);
         window_.reset();
         start();
     }
@@ -68,8 +68,13 @@ TEST_F(MainWindow, has_every_menu_item_under_its_name_with_its_caption) {
 TEST_F(MainWindow, gives_every_control_an_accessible_name_and_a_tab_place) {
     start();
 
-    for (const QWidget *control : window_->vezérlők())
-        EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName().toStdString();
+    type("apple");
+    for (QWidget *control : window_->vezérlők()) {
+        const auto *spoken = QAccessible::queryAccessibleInterface(control);
+        EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << control->objectName().toStdString();
+    }
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(control<QLabel>("Label3"))->text(QAccessible::Name),
+              QStringLiteral("2 találat"));
     QStringList order;
     const QWidget *next = text_box("angolszó");
     do {
@@ -87,7 +92,9 @@ TEST_F(MainWindow, mnemonic_of_the_caption_leads_to_the_search_box) {
     start();
     list("szólist")->setFocus();
 
-    EXPECT_EQ(control<QLabel>("Label1")->buddy(), text_box("angolszó"));
+    QTest::keyClick(window_.get(), Qt::Key_A, Qt::AltModifier);
+
+    EXPECT_TRUE(text_box("angolszó")->hasFocus());
 }
 
 TEST_F(MainWindow, starts_with_the_focus_on_the_search_box_and_nothing_to_save) {
@@ -124,9 +131,21 @@ TEST_F(MainWindow, enables_its_menus_with_the_first_pair) {
     EXPECT_TRUE(control<QMenu>("mnufeladat")->isEnabled());
 }
 
+TEST_F(MainWindow, disables_its_menus_again_with_the_last_pair) {
+    start();
+    add_apple();
+    list("szószedet")->setFocus();
+
+    click("sztöröl");
+
+    EXPECT_FALSE(action("mnufájlment")->isEnabled());
+    EXPECT_FALSE(action("mnufájlmentmásként")->isEnabled());
+    EXPECT_FALSE(control<QMenu>("mnufeladat")->isEnabled());
+}
+
 TEST_F(MainWindow, takes_its_share_of_the_screen_and_stands_in_the_middle) {
     for (const QSizeF pixels : {QSizeF(1024, 768), QSizeF(1920, 1080), QSizeF(2560, 1440)}) {
-        screen_ = pixels * 15;
+        screen_ = QRectF(QPointF(0, 0), pixels * 15);
         start();
         add_apple();
 
@@ -142,7 +161,7 @@ TEST_F(MainWindow, has_letters_that_grow_with_its_controls) {
     start();
     const double small = text_box("angolszó")->font().pointSizeF();
     const double room = text_box("angolszó")->height() / small;
-    screen_ = QSizeF(2560, 1440) * 15;
+    screen_ = QRectF(0, 0, 2560 * 15, 1440 * 15);
     window_.reset();
     start();
 
@@ -153,7 +172,7 @@ TEST_F(MainWindow, has_letters_that_grow_with_its_controls) {
 
 TEST_F(MainWindow, shows_every_caption_whole) {
     for (const QSizeF pixels : {QSizeF(800, 600), QSizeF(1024, 768), QSizeF(2560, 1440)}) {
-        screen_ = pixels * 15;
+        screen_ = QRectF(QPointF(0, 0), pixels * 15);
         window_.reset();
         start();
         for (const char *name : {"Ok", "hozzáad", "módosít", "sztöröl", "kilép"})

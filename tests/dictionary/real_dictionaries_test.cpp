@@ -5,6 +5,7 @@
 
 #include "support/dictionary_for_tests.h"
 #include "support/files_for_tests.h"
+#include "support/memory_source.h"
 #include "support/printing.h"
 
 namespace {
@@ -37,6 +38,29 @@ TEST_P(RealDictionary, is_searched_as_the_definition_of_a_hit_says) {
             continue;
         ASSERT_EQ(without_verbs_before(find_in(source, text).headwords, text), brute_force(headwords, text))
             << text.constData();
+    }
+}
+
+TEST_P(RealDictionary, is_read_only_near_the_text_and_its_hits) {
+    const QByteArrayList headwords = headwords_of(bytes_);
+    FileSource source(path_);
+    std::mt19937 random(21);
+    for (int i = 0; i < 1000; ++i) {
+        const QByteArray &chosen = headwords[static_cast<qsizetype>(random()) % headwords.size()];
+        const QByteArray text =
+            keresőkulcs(QByteArrayView(chosen)).toByteArray().left(1 + static_cast<int>(random() % 8));
+        if (text.startsWith("to "))
+            continue;
+        CountingSource counted(source);
+
+        const Found found = find_in(counted, text);
+
+        qsizetype hits = 0;
+        for (qsizetype hit = 0; hit < found.headwords.size(); ++hit)
+            hits += found.headwords[hit].size() + found.meanings[hit].size() + 3;
+        // About twenty probes of two lines, a walk and the overshoot of a quarter.
+        ASSERT_LE(counted.bytes_read, 20000 + hits * 5 / 4) << text.constData();
+        ASSERT_LE(counted.reads, 100 + hits / 1000) << text.constData();
     }
 }
 

@@ -1,5 +1,5 @@
-// Searches arbitrary bytes for an arbitrary text: the first line of the input is the text, the rest the dictionary. Every
-// search ends, every hit is one, and the number of bytes read is bounded.
+// Searches arbitrary bytes for an arbitrary text: the first line of the input is the text, the rest the dictionary.
+// Every search ends, every hit is one, and the number of bytes read is bounded.
 
 #include <cstddef>
 #include <cstdint>
@@ -25,13 +25,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     MemorySource source(input.mid(line_end + 1));
 
     int hits = 0;
-    const keresésvége end = szótárkereső(source).keres(text, {[&](const szócikk &entry) {
-                                                                  ++hits;
-                                                                  demand(!entry.címszó.contains(':'));
-                                                                  demand(keresőkulcs(entry.címszó).startsWith(key) ||
-                                                                         entry.címszó.startsWith(text));
-                                                              },
-                                                              [] { return false; }});
+    const keresésvége end = szótárkereső(source).keres(
+        text, {[&](const szócikk &entry) {
+                   ++hits;
+                   demand(!entry.címszó.contains(':'));
+                   demand(keresőkulcs(entry.címszó).startsWith(key) || entry.címszó.startsWith(text));
+               },
+               [] { return false; }});
 
     demand(end.darab == hits && !end.megszakadt);
     demand(hits == 0 ? end.kijelölendő == -1 : end.kijelölendő >= 0 && end.kijelölendő < hits);

@@ -15,6 +15,8 @@ const QString source_folder = QStringLiteral(ZIMBORA_SOURCE_DIR);
 std::optional<int> floor_of(const QString &file) {
     static const QStringList ground_of_app{QStringLiteral("app/global"), QStringLiteral("app/settings_store"),
                                            QStringLiteral("app/program_folder")};
+    static const QStringList shared_by_windows{QStringLiteral("exercises/direction_buttons"),
+                                               QStringLiteral("exercises/exercise_surroundings")};
     static const QMap<QString, int> floors{
         {QStringLiteral("platform"), 0},  {QStringLiteral("wordlist"), 1}, {QStringLiteral("dictionary"), 1},
         {QStringLiteral("exercises"), 1}, {QStringLiteral("lookup"), 1},   {QStringLiteral("media"), 1},
@@ -22,6 +24,8 @@ std::optional<int> floor_of(const QString &file) {
     const QString stem = file.section(u'.', 0, 0);
     if (ground_of_app.contains(stem))
         return 0;
+    if (shared_by_windows.contains(stem))
+        return 3;
     const auto folder = floors.constFind(file.section(u'/', 0, 0));
     if (folder == floors.constEnd())
         return std::nullopt;

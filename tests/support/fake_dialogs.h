@@ -17,6 +17,8 @@ class FakeMessageBoxes final : public MessageBoxes {
     QStringList asked;
     std::deque<Answer> answers;
     int beeps = 0;
+    /// Called while a question is open.
+    std::function<void()> meanwhile = [] {};
 
     void tell(const QString &text) override { told.append(text); }
 
@@ -33,6 +35,7 @@ class FakeMessageBoxes final : public MessageBoxes {
   private:
     Answer answer(const QString &question, Answer otherwise) {
         asked.append(question);
+        meanwhile();
         if (answers.empty())
             return otherwise;
         const Answer first = answers.front();

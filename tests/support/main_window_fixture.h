@@ -19,6 +19,7 @@
 #include "support/fake_dialogs.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
+#include "support/seeded_random.h"
 
 /// A main window with fake dialogs, a drive C and a program folder of its own, and two small dictionaries.
 class MainWindowTest : public testing::Test {
@@ -38,9 +39,9 @@ class MainWindowTest : public testing::Test {
 
     /// Loads and shows the window, with `command_line`.
     void start(const QString &command_line = {}) {
-        window_ =
-            std::make_unique<szótár>(szótárkörnyezet{state_, reference_, fitting_, boxes_, dialogs_, DriveC(place("c")),
-                                                     [this] { ++animation_steps_; }, [this] { ended_ = true; }});
+        window_ = std::make_unique<szótár>(szótárkörnyezet{state_, reference_, fitting_, boxes_, dialogs_,
+                                                           DriveC(place("c")), random_, settings_,
+                                                           [this] { ++animation_steps_; }, [this] { ended_ = true; }});
         window_->Form_Load(command_line);
         window_->show();
         QApplication::setActiveWindow(window_.get());
@@ -93,12 +94,14 @@ class MainWindowTest : public testing::Test {
     }
 
     QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
-    QSizeF screen_{1024 * 15, 768 * 15};
+    QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     global::programállapot state_;
     frm_referencia reference_;
     Module_hasznos fitting_{reference_, [this] { return screen_; }};
     FakeMessageBoxes boxes_;
     FakeFileDialogs dialogs_;
+    SeededRandom random_;
+    global::beállítástár settings_{place("settings.ini")};
     int animation_steps_ = 0;
     bool ended_ = false;
     std::unique_ptr<szótár> window_;

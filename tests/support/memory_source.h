@@ -7,6 +7,27 @@
 
 #include "dictionary/byte_source.h"
 
+/// Another source, with a count of how often and how much of it is read.
+class CountingSource final : public ByteSource {
+  public:
+    explicit CountingSource(ByteSource &counted) : counted_(counted) {}
+
+    int reads = 0;
+    qint64 bytes_read = 0;
+
+    [[nodiscard]] qint64 size() const override { return counted_.size(); }
+
+    [[nodiscard]] qint64 read(qint64 from, char *to, qint64 most) override {
+        const qint64 got = counted_.read(from, to, most);
+        ++reads;
+        bytes_read += got;
+        return got;
+    }
+
+  private:
+    ByteSource &counted_;
+};
+
 /// Bytes in memory that count how often and how much of them is read.
 class MemorySource final : public ByteSource {
   public:

@@ -62,8 +62,9 @@ TEST(DictdIndex, a_definition_that_reaches_beyond_the_data_is_named_with_its_lin
     for (const char *line : {"w\tB\tD\n", "w\tE\tA\n", "w\t////////\tB\n", "w\t/////////\t/////////\n"}) {
         const auto result = definitions(QByteArray("w\tA\tA\n") + line, "abc", index_name);
 
-        EXPECT_EQ(sentence(result),
-                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 2. sorban az adatfájlon kívüli hely áll."));
+        EXPECT_EQ(
+            sentence(result),
+            QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 2. sorban az adatfájlon kívülre mutató hely van."));
     }
 }
 
@@ -73,7 +74,7 @@ TEST(DictdIndex, a_number_with_any_other_character_or_with_too_many_digits_is_re
         const auto result = definitions(line, "abc", index_name);
 
         EXPECT_EQ(sentence(result),
-                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 1. sorban nem olvasható szám áll."))
+                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 1. sorban értelmezhetetlen szám van."))
             << line;
     }
 }
@@ -83,7 +84,7 @@ TEST(DictdIndex, a_line_without_three_columns_is_refused) {
         const auto result = definitions(line, "abc", index_name);
 
         EXPECT_EQ(sentence(result),
-                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 1. sorban nem három oszlop áll."))
+                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 1. sorban nem három oszlop van."))
             << line;
     }
 }

@@ -116,11 +116,10 @@ TEST(DictionaryText, a_character_that_the_code_page_lacks_is_named_with_its_entr
         sentence({QStringLiteral("rubel %1"), {QStringLiteral("ok"), QStringLiteral("₽")}},
                  freedict::hungarian_english),
         QStringLiteral(
-            "A(z) magyar–angol szótár „rubel %1” szócikke nem írható ki: a „₽” karakternek nincs "
-            "helye "
+            "A(z) magyar–angol szótár „rubel %1” szócikke nem írható ki: a „₽” karakter nincs meg "
             "a windows-1250 kódlapon."));
     EXPECT_EQ(sentence({QStringLiteral("fûre"), {QStringLiteral("ok")}}, freedict::hungarian_english),
-              QStringLiteral("A(z) magyar–angol szótár „fûre” szócikke nem írható ki: a „û” karakternek nincs helye a "
+              QStringLiteral("A(z) magyar–angol szótár „fûre” szócikke nem írható ki: a „û” karakter nincs meg a "
                              "windows-1250 kódlapon."));
 }
 
@@ -168,7 +167,7 @@ TEST(DictionaryNotice, a_character_that_the_code_page_lacks_is_a_failure) {
 
     ASSERT_TRUE(std::holds_alternative<Failure>(text));
     EXPECT_EQ(std::get<Failure>(text).sentence,
-              QStringLiteral("A(z) angol–magyar szótár első sora nem írható ki: a „№” karakternek nincs helye a "
+              QStringLiteral("A(z) angol–magyar szótár első sora nem írható ki: a „№” karakter nincs meg a "
                              "windows-1250 kódlapon."));
 }
 

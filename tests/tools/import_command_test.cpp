@@ -40,8 +40,8 @@ TEST_F(ImportCommand, writes_both_dictionaries_and_prints_the_counts) {
 
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.out.toStdString(),
-              "am.txt: a(z) angol–magyar szótár 1 szócikkéből és 2 jelentéséből 1 szócikk és 2 jelentés lett.\n"
-              "ma.txt: a(z) magyar–angol szótár 1 szócikkéből és 1 jelentéséből 1 szócikk és 1 jelentés lett.\n");
+              "am.txt (angol–magyar szótár): 1 szócikkből és 2 jelentésből 1 szócikk és 2 jelentés lett.\n"
+              "ma.txt (magyar–angol szótár): 1 szócikkből és 1 jelentésből 1 szócikk és 1 jelentés lett.\n");
     EXPECT_EQ(output_files(), (QStringList{QStringLiteral("am.txt"), QStringLiteral("ma.txt")}));
 }
 

@@ -112,8 +112,8 @@ TEST_F(Import, writes_nothing_when_the_data_are_not_packed) {
 TEST_F(Import, writes_nothing_when_the_index_belongs_to_other_data) {
     SamplePackage::put(package_file(english + QStringLiteral(".index")), english_.index() + "w\tAAAB\t/////\n");
 
-    expect_failure(
-        QStringLiteral("A(z) „freedict-eng-hun.index” fájl sérült: a(z) 4. sorban az adatfájlon kívüli hely áll."));
+    expect_failure(QStringLiteral(
+        "A(z) „freedict-eng-hun.index” fájl sérült: a(z) 4. sorban az adatfájlon kívülre mutató hely van."));
 }
 
 TEST_F(Import, writes_nothing_when_an_entry_makes_no_sense) {
@@ -129,7 +129,7 @@ TEST_F(Import, writes_nothing_when_a_character_has_no_place_in_the_code_page) {
     write_packages();
 
     expect_failure(
-        QStringLiteral("A(z) magyar–angol szótár „fû” szócikke nem írható ki: a „û” karakternek nincs helye "
+        QStringLiteral("A(z) magyar–angol szótár „fû” szócikke nem írható ki: a „û” karakter nincs meg "
                        "a windows-1250 kódlapon."));
 }
 

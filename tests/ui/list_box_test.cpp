@@ -52,6 +52,16 @@ TEST_F(ListBoxTest, announces_a_click_once_even_on_the_selected_item) {
     EXPECT_EQ(list_.selected(), 1);
 }
 
+TEST_F(ListBoxTest, keeps_its_selection_at_a_click_below_the_items) {
+    list_.select(1);
+
+    QTest::mouseClick(list_.viewport(), Qt::LeftButton, {}, QPoint(100, 190));
+
+    EXPECT_EQ(list_.selected(), 1);
+    EXPECT_TRUE(list_.selectionModel()->isSelected(list_.currentIndex()));
+    EXPECT_EQ(selected_.count(), 1);
+}
+
 TEST_F(ListBoxTest, announces_a_selection_by_key) {
     list_.select(0);
 

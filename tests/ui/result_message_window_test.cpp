@@ -41,7 +41,7 @@ class ResultMessageWindow : public testing::Test {
 
     frm_referencia reference_;
     ablak main_window_{QStringLiteral("szótár")};
-    Module_hasznos fitting_{reference_, [] { return QSizeF(1024 * 15, 768 * 15); }};
+    Module_hasznos fitting_{reference_, [] { return QRectF(0, 0, 1024 * 15, 768 * 15); }};
     üzenet window_{fitting_, main_window_, QStringLiteral("/szavak/a.szs")};
 };
 

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr QSizeF small_screen(1024 * 15, 768 * 15);
+constexpr QRectF small_screen(0, 0, 1024 * 15, 768 * 15);
 
 class WindowFitting : public testing::Test {
   protected:
@@ -127,11 +127,10 @@ class TextFitting : public testing::Test {
   protected:
     TextFitting() { box_.resize(400, 60); }
 
-    [[nodiscard]] QSizeF size_at(double points, const QString &text) {
+    [[nodiscard]] QSizeF size_at(double points, const QString &text) const {
         QFont font = box_.font();
         fonts::set_points(font, points);
-        box_.setFont(font);
-        return box_.text_size(text);
+        return PictureBox::text_size(text, font);
     }
 
     PictureBox box_;
@@ -175,6 +174,24 @@ TEST_F(TextFitting, prints_a_number_as_its_text) {
     EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("12"));
 }
 
+TEST_F(TextFitting, writes_large_numbers_out) {
+    Module_hasznos::szövegbeigazít(box_, 1234567);
+
+    EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("1234567"));
+}
+
+TEST_F(TextFitting, breaks_a_text_into_lines_that_does_not_fit_in_the_smallest_size) {
+    box_.resize(200, 200);
+    const QString text = QStringLiteral("megszentségteleníthetetlenségeskedéseitekért ").repeated(5).trimmed();
+
+    Module_hasznos::szövegbeigazít(box_, text);
+
+    EXPECT_EQ(box_.property("tag").toString(), text);
+    EXPECT_LE(box_.printed_area().width(), box_.inner_size().width());
+    EXPECT_LE(box_.printed_area().height(), box_.inner_size().height());
+    EXPECT_DOUBLE_EQ(fonts::points(box_.font()), 8);
+}
+
 TEST_F(TextFitting, keeps_the_blanks_of_a_text) {
     Module_hasznos::szövegbeigazít(box_, QStringLiteral("Ehhez a játékhoz "));
 
@@ -193,7 +210,7 @@ TEST_F(TextFitting, ends_for_a_box_without_room) {
 
     Module_hasznos::szövegbeigazít(box_, QStringLiteral("szótár"));
 
-    EXPECT_DOUBLE_EQ(fonts::points(box_.font()), 7);
+    EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("szótár"));
 }
 
 TEST_F(TextFitting, uses_the_first_size_at_which_a_buttons_text_reaches_ninety_percent) {
@@ -208,6 +225,19 @@ TEST_F(TextFitting, uses_the_first_size_at_which_a_buttons_text_reaches_ninety_p
     EXPECT_GE(QFontMetricsF(font).height(), 0.9 * 40);
     fonts::set_points(font, points - 1);
     EXPECT_LT(QFontMetricsF(font).height(), 0.9 * 40);
+}
+
+TEST_F(TextFitting, uses_the_first_size_at_which_a_labels_text_reaches_ninety_percent_of_its_width) {
+    QLabel label;
+    label.resize(150, 300);
+
+    Module_hasznos::szövegbeigazít(label, QStringLiteral("A párja?"));
+
+    QFont font = label.font();
+    EXPECT_GE(QFontMetricsF(font).horizontalAdvance(QStringLiteral("A párja?")), 0.9 * 150);
+    EXPECT_LT(QFontMetricsF(font).height(), 0.9 * 300);
+    fonts::set_points(font, fonts::points(font) - 1);
+    EXPECT_LT(QFontMetricsF(font).horizontalAdvance(QStringLiteral("A párja?")), 0.9 * 150);
 }
 
 TEST_F(TextFitting, gives_a_label_the_text_it_is_given) {

@@ -21,13 +21,17 @@ TEST(RecentFiles, uses_the_first_four_that_exist) {
                                  QStringLiteral("/d.szs")}));
 }
 
-TEST(RecentFiles, are_none_in_rubbish) {
+TEST(RecentFiles, are_found_among_rubbish) {
     QByteArray rubbish;
     for (int i = 0; i < 5000; ++i)
         rubbish.append(static_cast<char>(i * 7919 % 256));
 
-    EXPECT_TRUE(legutóbbifájlok::olvas(rubbish, [](const QString &) { return false; }).isEmpty());
+    const auto is_there = [](const QString &path) { return path == QStringLiteral("/van.szs"); };
+
     EXPECT_TRUE(legutóbbifájlok::olvas("", always).isEmpty());
+    EXPECT_TRUE(legutóbbifájlok::olvas(rubbish, is_there).isEmpty());
+    EXPECT_EQ(legutóbbifájlok::olvas(rubbish + "\r\n/van.szs\r\n" + rubbish, is_there),
+              QStringList{QStringLiteral("/van.szs")});
 }
 
 TEST(RecentFiles, are_asked_for_no_further_than_needed_in_fifty_lines) {

@@ -92,11 +92,11 @@ TEST_F(WordListFiles, first_save_proposes_the_program_folder_and_the_first_engli
 }
 
 TEST_F(WordListFiles, proposed_name_has_nothing_that_a_file_name_cannot_have) {
-    add("and/or, etc.: what?", "és/vagy");
+    add("and/or\\ etc.: what?", "és/vagy");
 
     files_.mnufájlment();
 
-    EXPECT_EQ(dialogs_.proposals, QStringList{place("angol/and_or, etc__ what_.szs")});
+    EXPECT_EQ(dialogs_.proposals, QStringList{place("angol/and_or_ etc__ what_.szs")});
 }
 
 TEST_F(WordListFiles, second_save_asks_nothing) {
@@ -245,6 +245,37 @@ TEST_F(WordListFiles, file_that_cannot_be_read_after_the_dialog_is_told_and_noth
     EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
     EXPECT_EQ(state_.aktuálisfájl, place("a.szs"));
     EXPECT_EQ(state_.változott, 1);
+}
+
+TEST_F(WordListFiles, file_that_vanishes_before_it_is_opened_is_told_and_nothing_is_lost) {
+    add("apple", "alma");
+    const QString path = file("b.szs", "dog:kutya\r\n");
+    boxes_.answers = {Answer::no};
+    boxes_.meanwhile = [&] { QFile::remove(path); };
+
+    files_.mnufájlfájl(path);
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].endsWith(QStringLiteral("b.szs” fájl nem olvasható: a fájl nem létezik.")));
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(state_.változott, 1);
+}
+
+TEST_F(WordListFiles, request_to_end_while_the_name_is_asked_never_saves_under_the_proposal) {
+    add("apple", "alma");
+    file("angol/apple.szs", "old:r\xe9gi\r\n");
+    boxes_.answers = {Answer::yes};
+    bool may_end = true;
+    dialogs_.meanwhile = [&] {
+        if (dialogs_.proposals.size() == 1)
+            may_end = files_.kilépéskérdés();
+    };
+
+    files_.mnufájlment();
+
+    EXPECT_FALSE(may_end);
+    EXPECT_EQ(dialogs_.proposals.size(), 2);
+    EXPECT_EQ(read_file(place("angol/apple.szs")), "old:r\xe9gi\r\n");
 }
 
 TEST_F(WordListFiles, appending_adds_every_pair_at_the_end_and_doubles_a_list_appended_twice) {

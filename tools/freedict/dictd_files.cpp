@@ -79,13 +79,13 @@ std::variant<Definition, QString> definition_of(QByteArrayView line, QByteArrayV
     const qsizetype first_tab = line.indexOf('\t');
     const qsizetype second_tab = line.indexOf('\t', first_tab + 1);
     if (first_tab < 1 || second_tab < 0)
-        return QStringLiteral("nem három oszlop áll.");
+        return QStringLiteral("nem három oszlop van.");
     const auto offset = base64_number(line.sliced(first_tab + 1, second_tab - first_tab - 1));
     const auto length = base64_number(line.sliced(second_tab + 1));
     if (!offset || !length)
-        return QStringLiteral("nem olvasható szám áll.");
+        return QStringLiteral("értelmezhetetlen szám van.");
     if (*offset + *length > data.size())
-        return QStringLiteral("az adatfájlon kívüli hely áll.");
+        return QStringLiteral("az adatfájlon kívülre mutató hely van.");
     return Definition{line.first(first_tab), data.sliced(*offset, *length)};
 }
 

@@ -33,7 +33,7 @@ FileContent encoded(const QString &line, const QString &name) {
     const std::optional<QByteArray> bytes = code_page::encode(line);
     if (bytes)
         return *bytes;
-    return Failure{QStringLiteral("A(z) %1 nem írható ki: a „%2” karakternek nincs helye a windows-1250 kódlapon.")
+    return Failure{QStringLiteral("A(z) %1 nem írható ki: a „%2” karakter nincs meg a windows-1250 kódlapon.")
                        .arg(name, code_page::first_missing(line))};
 }
 
@@ -53,7 +53,7 @@ FileContent line_of(const Entry &entry, const Dictionary &dictionary) {
 FileContent notice_of(const Package &package, const Dictionary &dictionary) {
     QString notice =
         QStringLiteral(
-            "A FreeDict (freedict.org) %1 szótára a Zimbora szótárfájljává alakítva, betűhibáiban javítva. "
+            "A FreeDict (freedict.org) %1 szótára a Zimbora szótárfájljává alakítva, az elírt ékezetek javításával. "
             "%2, kiadása %3, %4 címszó. Felhasználási feltételei – %5")
             .arg(dictionary.title, package.name, package.edition, QString::number(package.stated_headwords),
                  package.licence);

@@ -5,6 +5,7 @@
 
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <utility>
 
@@ -17,8 +18,10 @@ constexpr std::array watched_signals{SIGTERM, SIGINT, SIGHUP};
 volatile std::sig_atomic_t pipe_entry = -1;
 
 void write_into_pipe(int) {
+    const int interrupted = errno;
     const char one = 1;
     [[maybe_unused]] const auto written = ::write(pipe_entry, &one, 1);
+    errno = interrupted;
 }
 
 }  // namespace

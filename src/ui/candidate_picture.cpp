@@ -1,0 +1,86 @@
+#include "ui/candidate_picture.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int frame_width = 1;
+constexpr int focused_frame_width = 3;
+
+}  // namespace
+
+CandidatePicture::CandidatePicture(QWidget *parent) : PictureBox(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void CandidatePicture::set_drag_mode(DragMode mode) {
+    drag_mode_ = mode;
+    setCursor(mode == DragMode::automatic ? Qt::OpenHandCursor : Qt::PointingHandCursor);
+}
+
+void CandidatePicture::mousePressEvent(QMouseEvent *event) {
+    pressed_ = event->button() == Qt::LeftButton;
+    grip_ = event->position().toPoint();
+}
+
+void CandidatePicture::mouseMoveEvent(QMouseEvent *event) {
+    if (!pressed_ || drag_mode_ != DragMode::automatic)
+        return;
+    const QPoint at = event->position().toPoint();
+    if (!ghost_) {
+        if ((at - grip_).manhattanLength() < QApplication::startDragDistance())
+            return;
+        ghost_ = new QLabel(window());
+        ghost_->setAttribute(Qt::WA_TransparentForMouseEvents);
+        ghost_->setPixmap(grab());
+        ghost_->resize(size());
+        ghost_->show();
+    }
+    ghost_->move(mapTo(window(), at - grip_));
+}
+
+void CandidatePicture::mouseReleaseEvent(QMouseEvent *event) {
+    if (!pressed_ || event->button() != Qt::LeftButton)
+        return;
+    pressed_ = false;
+    const bool was_dragged = ghost_ != nullptr;
+    end_drag();
+    if (was_dragged)
+        Q_EMIT dropped(event->globalPosition().toPoint());
+    else if (drag_mode_ == DragMode::manual && rect().contains(event->position().toPoint()))
+        Q_EMIT chosen();
+}
+
+void CandidatePicture::end_drag() {
+    delete ghost_;
+    ghost_ = nullptr;
+}
+
+void CandidatePicture::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Space)
+        Q_EMIT chosen();
+    else
+        PictureBox::keyPressEvent(event);
+}
+
+void CandidatePicture::focusInEvent(QFocusEvent *event) {
+    PictureBox::focusInEvent(event);
+    update();
+}
+
+void CandidatePicture::focusOutEvent(QFocusEvent *event) {
+    PictureBox::focusOutEvent(event);
+    update();
+}
+
+void CandidatePicture::paintEvent(QPaintEvent *event) {
+    PictureBox::paintEvent(event);
+    QPainter painter(this);
+    const int width = hasFocus() ? focused_frame_width : frame_width;
+    painter.setPen(QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), width));
+    painter.drawRect(QRectF(rect()).adjusted(width / 2.0, width / 2.0, -width / 2.0, -width / 2.0));
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QPoint>
+
+#include "ui/picture_box.h"
+
+class QLabel;
+
+/// A picture that can be chosen by a click or the space key, or dragged: then a ghost of it follows the mouse until the
+/// button is let go.
+class CandidatePicture : public PictureBox {
+    Q_OBJECT
+
+  public:
+    enum class DragMode { manual, automatic };
+
+    explicit CandidatePicture(QWidget *parent = nullptr);
+
+    /// Automatic: the mouse drags, and a click does nothing. Manual: a click chooses. The space key chooses always.
+    void set_drag_mode(DragMode mode);
+    [[nodiscard]] DragMode drag_mode() const { return drag_mode_; }
+
+  Q_SIGNALS:
+    void chosen();
+    /// The picture was let go at this place of the screen.
+    void dropped(const QPoint &global_position);
+
+  protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+  private:
+    void end_drag();
+
+    DragMode drag_mode_ = DragMode::manual;
+    /// Where the left button went down; nothing when it is up.
+    bool pressed_ = false;
+    QPoint grip_;
+    QLabel *ghost_ = nullptr;
+};
