@@ -10,10 +10,10 @@ for package in "$@"; do
 done
 [ ${#missing[@]} -gt 0 ] || exit 0
 
-echo "Installing: ${missing[*]}"
+echo "Telepítés: ${missing[*]}"
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
-    command -v sudo >/dev/null || { echo "Neither root nor sudo: install these packages first." >&2; exit 1; }
+    command -v sudo >/dev/null || { echo "Ehhez rendszergazda vagy sudo kell; előbb telepítse ezeket a csomagokat." >&2; exit 1; }
     as_root=(sudo)
 fi
 "${as_root[@]}" apt-get update

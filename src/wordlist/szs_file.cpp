@@ -6,6 +6,9 @@
 namespace szsfájl {
 namespace {
 
+/// Bytes of a line, roughly.
+constexpr qsizetype usual_line = 32;
+
 szópár sorból(QByteArrayView sor) {
     const qsizetype kettőspont = sor.indexOf(':');
     if (kettőspont < 0)
@@ -35,6 +38,7 @@ QVector<szópár> olvas(QByteArrayView bytes) {
 
 FileContent ír(const QVector<szópár> &párok) {
     QByteArray bytes;
+    bytes.reserve(párok.size() * usual_line);
     for (const szópár &pár : párok) {
         const QString gond = akadály(pár);
         if (!gond.isEmpty())
@@ -43,7 +47,7 @@ FileContent ír(const QVector<szópár> &párok) {
         const auto magyar = code_page::encode(pár.magyar);
         if (!angol || !magyar)
             return nincs_a_kódlapon(angol ? pár.magyar : pár.angol);
-        bytes += *angol + ':' + *magyar + "\r\n";
+        bytes.append(*angol).append(':').append(*magyar).append("\r\n");
     }
     return bytes;
 }

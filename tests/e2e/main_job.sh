@@ -20,6 +20,6 @@ cp "$lists/gyumolcs.szs" "$output"
 import -window root "$output/zimbora.png"
 press alt+F4
 expect_end_with_success
-echo "There is no display, so the program did its main job on a virtual one: it looked \"apple\" up, added \"alma\" and saved."
-echo "The word list:  $output/gyumolcs.szs"
-echo "The picture:    $output/zimbora.png"
+echo "Nincs képernyő, ezért a program egy virtuálison végezte el a fő feladatát: megkereste az „apple” szót, felvette az „alma” jelentést, és mentett."
+echo "A szószedet: $output/gyumolcs.szs"
+echo "A kép:       $output/zimbora.png"
