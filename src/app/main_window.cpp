@@ -38,7 +38,6 @@ szótár::szótár(szótárkörnyezet környezet)
       kikérdező_([this] { return std::make_unique<kikérdező>(feladatnak()); }),
       választás_([this] { return std::make_unique<választás>(feladatnak()); }) {
     setWindowTitle(QStringLiteral("névtelen szószedet"));
-    setFont(QFont(QStringList{fonts::times_new_roman}));
     méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
     háttérszínbeállít(k_.referencia.háttérszín());
     eseményeket_köt();

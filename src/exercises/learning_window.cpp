@@ -1,6 +1,7 @@
 #include "exercises/learning_window.h"
 
 #include <QEvent>
+#include <QTimer>
 
 #include "exercises/question_pairs.h"
 #include "ui/colour_copy.h"
@@ -92,8 +93,12 @@ void tanulás::changeEvent(QEvent *event) {
 
 void tanulás::showEvent(QShowEvent *event) {
     ablak::showEvent(event);
-    // The system may tell of the activation later, or never.
-    Form_Activate();
+    // The system may tell of the activation later, or never. An empty list hides the window, but not before it has been
+    // shown: the system would show it all the same.
+    if (tanlist1_->count() == 0)
+        QTimer::singleShot(0, this, [this] { Form_Activate(); });
+    else
+        Form_Activate();
 }
 
 void tanulás::Form_Activate() {

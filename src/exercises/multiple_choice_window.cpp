@@ -124,7 +124,7 @@ void választás::kínálatot_rak(int darab) {
             const QRectF előző = hely(pic_kínálat_.back());
             pic_kínálat_.append(kínálatkép(k));
             elhelyez(pic_kínálat_.back(), előző.translated(0, előző.height() + köz));
-            pic_kínálat_.back()->set_background(háttérszín());
+            pic_kínálat_.back()->set_background(k_.főablak.háttérszín());
             QWidget::setTabOrder(pic_kínálat_[k - 1], pic_kínálat_[k]);
         }
         CandidatePicture *kép = pic_kínálat_[k];
@@ -225,8 +225,9 @@ void választás::keyPressEvent(QKeyEvent *event) {
 
 void választás::showEvent(QShowEvent *event) {
     ablak::showEvent(event);
+    // Not before the window has been shown: the system would show it all the same.
     if (játék_.üres())
-        close();
+        QTimer::singleShot(0, this, [this] { close(); });
     pic_kínálat_.front()->setFocus();
 }
 

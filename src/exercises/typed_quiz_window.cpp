@@ -1,6 +1,7 @@
 #include "exercises/typed_quiz_window.h"
 
 #include <QCloseEvent>
+#include <QTimer>
 #include <limits>
 
 #include "ui/colour_copy.h"
@@ -89,8 +90,9 @@ void kikérdező::beállít() {
 
 void kikérdező::showEvent(QShowEvent *event) {
     ablak::showEvent(event);
+    // Not before the window has been shown: the system would show it all the same.
     if (quiz_.üres())
-        close();
+        QTimer::singleShot(0, this, [this] { close(); });
     txt_megoldás_->setFocus();
 }
 

@@ -22,8 +22,15 @@ void CandidatePicture::set_drag_mode(DragMode mode) {
     setCursor(mode == DragMode::automatic ? Qt::OpenHandCursor : Qt::PointingHandCursor);
 }
 
+CandidatePicture::~CandidatePicture() {
+    end_drag();
+}
+
 void CandidatePicture::mousePressEvent(QMouseEvent *event) {
-    pressed_ = event->button() == Qt::LeftButton;
+    // Another button that goes down during a drag is not the drag's business.
+    if (event->button() != Qt::LeftButton)
+        return;
+    pressed_ = true;
     grip_ = event->position().toPoint();
 }
 
@@ -46,7 +53,6 @@ void CandidatePicture::mouseMoveEvent(QMouseEvent *event) {
 void CandidatePicture::mouseReleaseEvent(QMouseEvent *event) {
     if (!pressed_ || event->button() != Qt::LeftButton)
         return;
-    pressed_ = false;
     const bool was_dragged = ghost_ != nullptr;
     end_drag();
     if (was_dragged)
@@ -55,9 +61,15 @@ void CandidatePicture::mouseReleaseEvent(QMouseEvent *event) {
         Q_EMIT chosen();
 }
 
+void CandidatePicture::hideEvent(QHideEvent *event) {
+    // The mouse button is let go over what lies behind, which tells this picture nothing.
+    end_drag();
+    PictureBox::hideEvent(event);
+}
+
 void CandidatePicture::end_drag() {
+    pressed_ = false;
     delete ghost_;
-    ghost_ = nullptr;
 }
 
 void CandidatePicture::keyPressEvent(QKeyEvent *event) {

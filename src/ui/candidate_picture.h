@@ -1,13 +1,13 @@
 #pragma once
 
+#include <QLabel>
 #include <QPoint>
+#include <QPointer>
 
 #include "ui/picture_box.h"
 
-class QLabel;
-
 /// A picture that can be chosen by a click or the space key, or dragged: then a ghost of it follows the mouse until the
-/// button is let go.
+/// button is let go. A picture that is hidden or deleted meanwhile is dropped nowhere.
 class CandidatePicture : public PictureBox {
     Q_OBJECT
 
@@ -15,6 +15,7 @@ class CandidatePicture : public PictureBox {
     enum class DragMode { manual, automatic };
 
     explicit CandidatePicture(QWidget *parent = nullptr);
+    ~CandidatePicture() override;
 
     /// Automatic: the mouse drags, and a click does nothing. Manual: a click chooses. The space key chooses always.
     void set_drag_mode(DragMode mode);
@@ -29,6 +30,7 @@ class CandidatePicture : public PictureBox {
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -41,5 +43,6 @@ class CandidatePicture : public PictureBox {
     /// Where the left button went down; nothing when it is up.
     bool pressed_ = false;
     QPoint grip_;
-    QLabel *ghost_ = nullptr;
+    /// Lies on the window, which may take it along when it goes.
+    QPointer<QLabel> ghost_;
 };

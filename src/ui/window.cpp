@@ -9,6 +9,7 @@
 #include <functional>
 #include <utility>
 
+#include "ui/fonts.h"
 #include "ui/twips.h"
 
 namespace {
@@ -39,6 +40,7 @@ class HideWatch final : public QObject {
 
 ablak::ablak(const QString &név, menü van_menü) : QWidget(nullptr, Qt::Window), felület_(new QWidget(this)) {
     setObjectName(név);
+    setFont(QFont(QStringList{fonts::times_new_roman}));
     if (van_menü == menü::van)
         menüsor_ = new QMenuBar(this);
 }

@@ -194,6 +194,8 @@ void Module_hasznos::betűméretez(ablak &mit, double szorzó) {
     mit.menüsor()->setFont(menübetű);
     for (QMenu *menü : mit.menüsor()->findChildren<QMenu *>())
         menü->setFont(menübetű);
+    // The menu bar has another height now.
+    mit.méretez(mit.szélesség(), mit.magasság());
 }
 
 void Module_hasznos::ablakstílus(ablak &mit) const {
