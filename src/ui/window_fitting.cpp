@@ -89,6 +89,10 @@ QString látható(const QString &felirat) {
 }
 
 constexpr double legkisebb_pont = 8;
+/// In a smaller size a line is hard to read from where one sits; a text of several words is broken into lines then.
+constexpr double olvasható_pont = 14;
+/// No picture box holds more letters that could be read.
+constexpr int leghosszabb = 600;
 
 /// Sizes of a text in the type face of fitted texts.
 class Betűpróba final {
@@ -110,19 +114,24 @@ bool elfér(const QSizeF &szöveg, const QSizeF &hely) {
     return szöveg.width() < hely.width() && szöveg.height() < hely.height();
 }
 
-/// `szöveg` broken at blanks into lines no wider than `szélesség`; a word that is wider alone is broken inside.
-QString tördelt(const QString &szöveg, double szélesség, Betűpróba &próba) {
+/// `szöveg` broken at blanks into lines narrower than `szélesség`; a word that is wider alone is broken inside.
+QString tördelt(const QString &szöveg, double szélesség, double pont, Betűpróba &próba) {
+    const auto befér = [&](const QString &sor) { return próba.méret(pont, sor).width() < szélesség; };
     QStringList sorok{QString()};
     for (const QString &szó : szöveg.split(u' ')) {
         const QString bővebb = sorok.back().isEmpty() ? szó : sorok.back() + u' ' + szó;
-        if (próba.méret(legkisebb_pont, bővebb).width() < szélesség) {
+        if (befér(bővebb)) {
             sorok.back() = bővebb;
             continue;
         }
         if (!sorok.back().isEmpty())
             sorok.append(QString());
+        if (befér(szó)) {
+            sorok.back() = szó;
+            continue;
+        }
         for (const QChar betű : szó) {
-            if (próba.méret(legkisebb_pont, sorok.back() + betű).width() >= szélesség && !sorok.back().isEmpty())
+            if (!sorok.back().isEmpty() && !befér(sorok.back() + betű))
                 sorok.append(QString());
             sorok.back() += betű;
         }
@@ -130,24 +139,46 @@ QString tördelt(const QString &szöveg, double szélesség, Betűpróba &próba
     return sorok.join(u'\n');
 }
 
+/// How a text stands in a picture box.
+struct Betördelt {
+    QString sorok;
+    double pont;
+};
+
+/// The text in lines, in the largest size in which all of them fit and no word is broken.
+Betördelt sorokban(const QString &szöveg, const QSizeF &hely, double legalább, Betűpróba &próba) {
+    const QStringList szavak = szöveg.split(u' ');
+    const auto törés_nélkül = [&](double pont) {
+        return std::all_of(szavak.cbegin(), szavak.cend(),
+                           [&](const QString &szó) { return próba.méret(pont, szó).width() < hely.width(); });
+    };
+    Betördelt eddig{tördelt(szöveg, hely.width(), legalább, próba), legalább};
+    for (double pont = legalább + 1; törés_nélkül(pont); ++pont) {
+        const QString sorok = tördelt(szöveg, hely.width(), pont, próba);
+        if (!elfér(próba.méret(pont, sorok), hely))
+            break;
+        eddig = {sorok, pont};
+    }
+    return eddig;
+}
+
 void képbe(PictureBox &hova, const QString &szöveg) {
     hova.clear();
     const QString kiírt = szöveg.isEmpty() ? QStringLiteral("Kéne írni ide valamit!") : szöveg;
+    const QString látszó = kiírt.size() > leghosszabb ? kiírt.left(leghosszabb) + u'…' : kiírt;
     const QSizeF hely = hova.inner_size();
     Betűpróba próba(hova.font());
     double pont = legkisebb_pont;
-    while (elfér(próba.méret(pont, kiírt), hely))
+    while (elfér(próba.méret(pont, látszó), hely))
         ++pont;
-    hova.setFont(próba.betű(pont - 1));
-    QString sorok = kiírt;
-    if (pont == legkisebb_pont && próba.méret(pont, kiírt).width() >= hely.width()) {
-        sorok = tördelt(kiírt, hely.width(), próba);
-        hova.setFont(próba.betű(legkisebb_pont));
-    }
-    const QSizeF végső = PictureBox::text_size(sorok, hova.font());
-    const bool csupa_nagybetű = kiírt == kiírt.toUpper();
+    Betördelt kész{látszó, pont - 1};
+    if (kész.pont < olvasható_pont && látszó.contains(u' '))
+        kész = sorokban(látszó, hely, std::max(kész.pont, legkisebb_pont), próba);
+    hova.setFont(próba.betű(kész.pont));
+    const QSizeF végső = PictureBox::text_size(kész.sorok, hova.font());
+    const bool csupa_nagybetű = látszó == látszó.toUpper();
     const double közép = csupa_nagybetű ? hely.height() * 0.6 : hely.height() / 2;
-    hova.print({hely.width() / 2 - végső.width() / 2, közép - végső.height() / 2}, sorok);
+    hova.print({hely.width() / 2 - végső.width() / 2, közép - végső.height() / 2}, kész.sorok);
     hova.setProperty("tag", kiírt);
 }
 

@@ -180,16 +180,34 @@ TEST_F(TextFitting, writes_large_numbers_out) {
     EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("1234567"));
 }
 
-TEST_F(TextFitting, breaks_a_text_into_lines_that_does_not_fit_in_the_smallest_size) {
-    box_.resize(200, 200);
-    const QString text = QStringLiteral("megszentségteleníthetetlenségeskedéseitekért ").repeated(5).trimmed();
+TEST_F(TextFitting, breaks_a_text_into_lines_that_would_be_too_small_in_one) {
+    box_.resize(400, 200);
+    const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le ").repeated(4).trimmed();
 
     Module_hasznos::szövegbeigazít(box_, text);
 
     EXPECT_EQ(box_.property("tag").toString(), text);
     EXPECT_LE(box_.printed_area().width(), box_.inner_size().width());
     EXPECT_LE(box_.printed_area().height(), box_.inner_size().height());
-    EXPECT_DOUBLE_EQ(fonts::points(box_.font()), 8);
+    EXPECT_GE(fonts::points(box_.font()), 14);
+}
+
+TEST_F(TextFitting, breaks_words_that_are_wider_than_the_box_alone) {
+    box_.resize(200, 200);
+    const QString text = QStringLiteral("megszentségteleníthetetlenségeskedéseitekért ").repeated(3).trimmed();
+
+    Module_hasznos::szövegbeigazít(box_, text);
+
+    EXPECT_LE(box_.printed_area().width(), box_.inner_size().width());
+    EXPECT_LE(box_.printed_area().height(), box_.inner_size().height());
+}
+
+TEST_F(TextFitting, keeps_a_million_letters_in_the_tag_and_shows_their_beginning) {
+    const QString text(1 << 20, u'x');
+
+    Module_hasznos::szövegbeigazít(box_, text);
+
+    EXPECT_EQ(box_.property("tag").toString(), text);
 }
 
 TEST_F(TextFitting, keeps_the_blanks_of_a_text) {
