@@ -145,7 +145,8 @@ struct Betördelt {
     double pont;
 };
 
-/// The text in lines, in the largest size in which all of them fit and no word is broken.
+/// The text in lines, in the largest size in which all of them fit; a word is broken only where the letters would be
+/// too small to read otherwise.
 Betördelt sorokban(const QString &szöveg, const QSizeF &hely, double legalább, Betűpróba &próba) {
     const QStringList szavak = szöveg.split(u' ');
     const auto törés_nélkül = [&](double pont) {
@@ -153,7 +154,7 @@ Betördelt sorokban(const QString &szöveg, const QSizeF &hely, double legalább
                            [&](const QString &szó) { return próba.méret(pont, szó).width() < hely.width(); });
     };
     Betördelt eddig{tördelt(szöveg, hely.width(), legalább, próba), legalább};
-    for (double pont = legalább + 1; törés_nélkül(pont); ++pont) {
+    for (double pont = legalább + 1; pont <= olvasható_pont || törés_nélkül(pont); ++pont) {
         const QString sorok = tördelt(szöveg, hely.width(), pont, próba);
         if (!elfér(próba.méret(pont, sorok), hely))
             break;
@@ -172,7 +173,7 @@ void képbe(PictureBox &hova, const QString &szöveg) {
     while (elfér(próba.méret(pont, látszó), hely))
         ++pont;
     Betördelt kész{látszó, pont - 1};
-    if (kész.pont < olvasható_pont && látszó.contains(u' '))
+    if (kész.pont < olvasható_pont && (látszó.contains(u' ') || kész.pont < legkisebb_pont))
         kész = sorokban(látszó, hely, std::max(kész.pont, legkisebb_pont), próba);
     hova.setFont(próba.betű(kész.pont));
     const QSizeF végső = PictureBox::text_size(kész.sorok, hova.font());
