@@ -15,8 +15,8 @@ namespace {
 constexpr double sorszélesség = 6000;
 constexpr double sor = 420;
 constexpr QRectF nyelvkeret(120, 120, sorszélesség, 1900);
-constexpr QRectF egyébkeret(120, 2140, sorszélesség, 2300);
-constexpr double gombok_teteje = 4600;
+constexpr QRectF egyébkeret(120, 2140, sorszélesség, 1900);
+constexpr double gombok_teteje = 4160;
 
 const QString nyelv_kulcs = QStringLiteral("nyelv");
 const QString választék_kulcs = QStringLiteral("valasztekszam");

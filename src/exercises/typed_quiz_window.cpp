@@ -141,7 +141,8 @@ void kikérdező::nyelvoptb_Click() {
     if (!quiz_.irányváltás(irány_.kijelölt()))
         return;
     kiírás();
-    txt_megoldás_->setFocus();
+    // Afterwards, because an arrow key that chooses a button gives it the focus after its click.
+    QTimer::singleShot(0, txt_megoldás_, [this] { txt_megoldás_->setFocus(); });
 }
 
 void kikérdező::cmd_kilép_Click() {

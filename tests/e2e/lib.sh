@@ -138,6 +138,16 @@ wait_for_title() {
     wait_until "a window \"$1\" in front" title_in_front_is "$1"
 }
 
+# practise <key of the menu item> <caption of the exercise>: opens an exercise from the main window's menu.
+practise() {
+    press alt+f Right "$1"
+    wait_for_title "$(title_of_exercise "$2")"
+}
+
+title_of_exercise() {
+    echo "Zimbora Angol-Magyar Szótár - $1"
+}
+
 program_has_ended() {
     ! kill -0 "$program" 2>/dev/null
 }

@@ -63,6 +63,64 @@ message_about_too_few_pairs() {
     end_program
 }
 
+short_list() {
+    make_list "$lists/állatok.szs" dog:kutya "horse:ló, csődör" "deer:őz, szarvas" bird:madár
+}
+
+# Meanings of 200 letters, and the longest words that a dictionary has.
+long_list() {
+    local meaning="megkülönböztető jegy, ismertetőjel, elválasztó vonás, választóvonal, jellegzetes tulajdonság"
+    meaning+=", megkülönböztetés, kitüntetés, rang, előkelőség, hírnév, kiválóság, különbségtétel, eltérés, más mivolt"
+    make_list "$lists/hosszú szavak.szs" "antidisestablishmentarianism:$meaning" \
+        "to draw a clear distinction between two things that look alike:$meaning" \
+        "counterrevolutionaries:megszentségteleníthetetlenségeskedéseitekért $meaning" \
+        "electroencephalographically:elektroenkefalográfiás vizsgálattal; $meaning" \
+        "incomprehensibilities:összeegyeztethetetlenségek; $meaning"
+}
+
+# exercises_in_use <list> <file name's end>: every exercise in its midst.
+exercises_in_use() {
+    start_program "$1"
+    practise t "Tanulás"
+    take_picture "learning$2"
+    press Escape
+    wait_for_title "$(title_of_list "$1")"
+    practise k "Kikérdezés"
+    write "an answer that is bei"
+    wait_for_text "an answer that is bei"
+    press End
+    take_picture "typed-quiz$2"
+    press Escape
+    wait_for_title "$(title_of_list "$1")"
+    practise v "Választás"
+    take_picture "multiple-choice$2"
+}
+
+# The last answer stays in its frame.
+multiple_choice_at_its_end() {
+    make_list "$lists/két szó.szs" dog:kutya dog:eb
+    start_program "$lists/két szó.szs"
+    practise v "Választás"
+    press 1 Return 2 Return
+    wait_for_title "$(title_of_exercise "$lists/két szó.szs szószedet")"
+    wait_for_title "$(title_of_exercise "Választás")"
+    take_picture multiple-choice-end
+    press alt+f b
+    wait_for_title "$(title_of_exercise "Választás Beállítások")"
+    take_picture multiple-choice-settings
+    end_program
+}
+
+exercises() {
+    short_list
+    exercises_in_use "$lists/állatok.szs" ""
+    end_program
+    long_list
+    exercises_in_use "$lists/hosszú szavak.szs" -long
+    end_program
+    multiple_choice_at_its_end
+}
+
 binary=$(realpath "$1")
 dictionaries=$(realpath "$2")
 pictures=$(realpath "$3")
@@ -74,6 +132,9 @@ for size in 1024x768 1920x1080 2560x1440; do
     main_window_in_use
     if [[ $size == 1024x768 ]]; then
         message_about_too_few_pairs
+    fi
+    if [[ $size != 1920x1080 ]]; then
+        exercises
     fi
     end_children
 done

@@ -1,0 +1,147 @@
+#include "support/main_window_fixture.h"
+
+namespace {
+
+class MainWindowExercises : public MainWindowTest {
+  protected:
+    /// A main window with the word list of the file `bytes` open.
+    void start_with_list(const QByteArray &bytes) {
+        file_ = word_list("list.szs", bytes);
+        start(file_);
+    }
+
+    /// Opens an exercise from the menu; `act` is called while it is open.
+    void practise(const char *menu_item, const char *expected_window, const std::function<void(ablak &)> &act) {
+        const QString before = pairs();
+        const QByteArray bytes_before = read_file(file_);
+        const auto changed_before = state_.változott;
+        bool opened = false;
+        QTimer::singleShot(0, window_.get(), [&] {
+            auto *exercise = dynamic_cast<ablak *>(QApplication::activeModalWidget());
+            ASSERT_NE(exercise, nullptr);
+            opened = true;
+            EXPECT_EQ(exercise->objectName(), QString::fromUtf8(expected_window));
+            EXPECT_EQ(exercise->windowModality(), Qt::ApplicationModal);
+            EXPECT_FALSE(window_->isVisible());
+            act(*exercise);
+            exercise->close();
+        });
+
+        action(menu_item)->trigger();
+
+        EXPECT_TRUE(opened);
+        EXPECT_TRUE(window_->isVisible());
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(pairs(), before);
+        EXPECT_EQ(read_file(file_), bytes_before);
+        EXPECT_EQ(state_.változott, changed_before);
+        EXPECT_FALSE(ended_);
+    }
+
+    [[nodiscard]] static QString shown(const ablak &window, const char *picture) {
+        return window.findChild<QWidget *>(QString::fromUtf8(picture))->property("tag").toString();
+    }
+
+    QString file_;
+};
+
+TEST_F(MainWindowExercises, learning_window_takes_the_place_of_the_main_window) {
+    start_with_list("dog:kutya\r\ncat:macska\r\n");
+
+    practise("mnufeladattanul", "tanulás", [](const ablak &learning) {
+        EXPECT_EQ(shown(learning, "label1"), QStringLiteral("dog"));
+        EXPECT_EQ(shown(learning, "label3"), QStringLiteral("kutya"));
+    });
+}
+
+TEST_F(MainWindowExercises, learning_window_shows_the_list_as_it_is_at_every_opening) {
+    start_with_list("dog:kutya\r\n");
+    practise("mnufeladattanul", "tanulás", [](const ablak &) {});
+    click_item("szószedet", 0);
+    text_box("szómagytext")->setText(QStringLiteral("eb"));
+    click("módosít");
+
+    practise("mnufeladattanul", "tanulás",
+             [](const ablak &learning) { EXPECT_EQ(shown(learning, "label3"), QStringLiteral("eb")); });
+}
+
+TEST_F(MainWindowExercises, typed_quiz_takes_the_place_of_the_main_window) {
+    start_with_list("dog:kutya\r\n");
+
+    practise("mnufeladatkikérd", "kikérdező",
+             [](const ablak &quiz) { EXPECT_EQ(shown(quiz, "Pic_kérdés"), QStringLiteral("kutya")); });
+}
+
+TEST_F(MainWindowExercises, typed_quiz_is_won_to_the_end_and_the_main_window_is_back) {
+    start_with_list("dog:kutya\r\n");
+    QStringList result;
+
+    practise("mnufeladatkikérd", "kikérdező", [&](const ablak &quiz) {
+        QTimer::singleShot(0, window_.get(), [&result] {
+            auto *message = dynamic_cast<ablak *>(QApplication::activeModalWidget());
+            ASSERT_NE(message, nullptr);
+            EXPECT_EQ(message->objectName(), QStringLiteral("üzenet"));
+            for (int i = 0; i < 3; ++i)
+                result.append(shown(*message, qPrintable(QStringLiteral("Pic_szöveg(%1)").arg(i))));
+            message->close();
+        });
+        auto *answer = quiz.findChild<QLineEdit *>(QStringLiteral("txt_megoldás"));
+        QTest::keyClicks(answer, QStringLiteral("dog"));
+        QTest::keyClick(answer, Qt::Key_Return);
+        EXPECT_FALSE(quiz.isVisible());
+    });
+
+    EXPECT_EQ(result, QStringList({QStringLiteral("Gratulálok! Sikerült!"), QStringLiteral(" "),
+                                   QStringLiteral("Hibaarány:  0%")}));
+}
+
+TEST_F(MainWindowExercises, multiple_choice_opens_with_two_pairs) {
+    start_with_list("dog:kutya\r\ncat:macska\r\n");
+
+    practise("mnufeladatválaszt", "választás", [](const ablak &game) {
+        EXPECT_NE(game.findChild<QWidget *>(QStringLiteral("pic_kínálat(1)")), nullptr);
+        EXPECT_EQ(game.findChild<QWidget *>(QStringLiteral("pic_kínálat(2)")), nullptr);
+    });
+}
+
+TEST_F(MainWindowExercises, multiple_choice_of_one_pair_is_a_warning_before_the_main_window) {
+    start_with_list("dog:kutya\r\n");
+    QString window;
+    bool main_window_seen = false;
+    QTimer::singleShot(0, window_.get(), [&] {
+        window = QApplication::activeModalWidget()->objectName();
+        main_window_seen = window_->isVisible();
+        QApplication::activeModalWidget()->close();
+    });
+
+    action("mnufeladatválaszt")->trigger();
+
+    EXPECT_EQ(window, QStringLiteral("üzenet"));
+    EXPECT_TRUE(main_window_seen);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(pairs(), QStringLiteral("dog:kutya"));
+}
+
+TEST_F(MainWindowExercises, exercise_has_the_colour_of_the_program) {
+    start_with_list("dog:kutya\r\n");
+
+    for (const auto &[item, name] : {std::pair{"mnufeladattanul", "tanulás"}, {"mnufeladatkikérd", "kikérdező"}})
+        practise(item, name, [this](const ablak &exercise) {
+            EXPECT_EQ(exercise.háttérszín(), reference_.háttérszín());
+            EXPECT_TRUE(exercise.windowTitle().startsWith(QStringLiteral("Zimbora Angol-Magyar Szótár - ")));
+        });
+}
+
+TEST_F(MainWindowExercises, list_of_five_thousand_pairs_is_practised_in_every_exercise) {
+    QByteArray bytes;
+    for (int i = 0; i < 5000; ++i)
+        bytes += "word" + QByteArray::number(i) + ":sz\xf3" + QByteArray::number(i) + "\r\n";
+    start_with_list(bytes);
+
+    for (const auto &[item, name] : {std::pair{"mnufeladattanul", "tanulás"},
+                                     {"mnufeladatkikérd", "kikérdező"},
+                                     {"mnufeladatválaszt", "választás"}})
+        practise(item, name, [](const ablak &) {});
+}
+
+}  // namespace

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <memory>
+
+#include "exercises/multiple_choice_window.h"
+#include "support/exercise_fixture.h"
+
+/// A multiple choice, what is seen of it, and what a user does with it.
+class MultipleChoiceTest : public ExerciseTest {
+  protected:
+    void load(const QVector<szópár> &pairs) {
+        list_.pairs = pairs;
+        window_ = std::make_unique<választás>(surroundings());
+    }
+    void start(const QVector<szópár> &pairs) {
+        load(pairs);
+        show(*window_);
+    }
+    void start(int pairs = 10) { start(numbered_pairs(pairs)); }
+
+    void store(const char *key, const QVariant &value) {
+        settings_.beállításment(ablak(QStringLiteral("választás_beáll")), QString::fromUtf8(key), value);
+    }
+
+    [[nodiscard]] CandidatePicture *candidate(int k) const {
+        return window_->findChild<CandidatePicture *>(QStringLiteral("pic_kínálat(%1)").arg(k));
+    }
+    [[nodiscard]] CandidatePicture *frame() const { return control<CandidatePicture>(*window_, "pic_megoldás"); }
+    [[nodiscard]] QTimer *timer() const { return control<QTimer>(*window_, "Timer1"); }
+    [[nodiscard]] QString question() const { return shown(*window_, "pic_feladat"); }
+    [[nodiscard]] QString counter() const { return label(*window_, "Label_info"); }
+    [[nodiscard]] QString answer() const { return frame()->property("tag").toString(); }
+    [[nodiscard]] QString text(int k) const { return candidate(k)->property("tag").toString(); }
+
+    [[nodiscard]] int candidates() const {
+        int count = 0;
+        while (candidate(count))
+            ++count;
+        return count;
+    }
+    [[nodiscard]] QStringList offer() const {
+        QStringList texts;
+        for (int k = 0; k < candidates(); ++k)
+            texts.append(text(k));
+        return texts;
+    }
+    /// A line for each candidate: "x" when it is seen, "-" when it is not.
+    [[nodiscard]] QString seen() const {
+        QString line;
+        for (int k = 0; k < candidates(); ++k)
+            line += candidate(k)->isVisible() ? u'x' : u'-';
+        return line;
+    }
+
+    /// Place of the right candidate.
+    [[nodiscard]] int right() const {
+        for (const szópár &pair : list_.pairs) {
+            const QString hungarian = pair.magyar.section(u',', 0, 0);
+            const QString other =
+                pair.angol == question() ? hungarian : (hungarian == question() ? pair.angol : QString());
+            if (!other.isEmpty() && offer().contains(other))
+                return static_cast<int>(offer().indexOf(other));
+        }
+        ADD_FAILURE() << "no right candidate for " << question().toStdString();
+        return 0;
+    }
+    [[nodiscard]] int wrong() const { return right() == 0 ? 1 : 0; }
+
+    void pick(int k) { QTest::mouseClick(candidate(k), Qt::LeftButton); }
+    void check() { click(*window_, "cmd_ok"); }
+    void answer_with(int k) {
+        pick(k);
+        check();
+    }
+    void answer_all_rightly() {
+        for (int i = 0; messages_.isEmpty() && i < 100; ++i)
+            answer_with(right());
+    }
+
+    // The mouse, as the system tells the window of it.
+    [[nodiscard]] QPoint middle_of(const QWidget *widget) const {
+        return widget->mapTo(window_.get(), widget->rect().center());
+    }
+    void press_at(const QPoint &at) { QTest::mousePress(window_->windowHandle(), Qt::LeftButton, {}, at); }
+    void move_to(const QPoint &at) { QTest::mouseMove(window_->windowHandle(), at); }
+    void release_at(const QPoint &at) { QTest::mouseRelease(window_->windowHandle(), Qt::LeftButton, {}, at); }
+    void drag(int k, const QPoint &to) {
+        const QPoint from = middle_of(candidate(k));
+        press_at(from);
+        move_to(from + (to - from) / 2);
+        move_to(to);
+        release_at(to);
+    }
+    /// Pictures that follow the mouse.
+    [[nodiscard]] int ghosts() const {
+        int count = 0;
+        for (const QLabel *one : window_->findChildren<QLabel *>(Qt::FindDirectChildrenOnly))
+            count += one->isVisible() ? 1 : 0;
+        return count;
+    }
+
+    void trigger(const char *menu_item) { control<QAction>(*window_, menu_item)->trigger(); }
+
+    /// Opens the settings from the menu; `act` is called with them.
+    void in_settings(const std::function<void(választás_beáll &)> &act) {
+        bool opened = false;
+        QTimer::singleShot(0, window_.get(), [&] {
+            auto *settings = dynamic_cast<választás_beáll *>(QApplication::activeModalWidget());
+            ASSERT_NE(settings, nullptr);
+            opened = true;
+            act(*settings);
+        });
+        trigger("mnu_fájl_beáll");
+        EXPECT_TRUE(opened);
+    }
+
+    std::unique_ptr<választás> window_;
+};
