@@ -6,6 +6,7 @@
 #include <QSessionManager>
 #include <QTimer>
 
+#include "ui/font_sized_style.h"
 #include "ui/fonts.h"
 #include "ui/toolkit_texts.h"
 #include "ui/twips.h"
@@ -30,6 +31,7 @@ void wait_an_animation_step() {
 
 void set_up_toolkit() {
     make_toolkit_hungarian();
+    QApplication::setStyle(new FontSizedStyle);
     fonts::substitute_missing_faces();
     // The main window hides while another one is used; only the exit procedure ends the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -91,6 +91,8 @@ QString látható(const QString &felirat) {
 constexpr double legkisebb_pont = 8;
 /// In a smaller size a line is hard to read from where one sits; a text of several words is broken into lines then.
 constexpr double olvasható_pont = 14;
+/// So is a line that leaves most of a high box empty: one that is lower than this part of it.
+constexpr double legtöbb_sor = 8;
 /// No picture box holds more letters that could be read.
 constexpr int leghosszabb = 600;
 
@@ -173,7 +175,8 @@ void képbe(PictureBox &hova, const QString &szöveg) {
     while (elfér(próba.méret(pont, látszó), hely))
         ++pont;
     Betördelt kész{látszó, pont - 1};
-    if (kész.pont < olvasható_pont && (látszó.contains(u' ') || kész.pont < legkisebb_pont))
+    const double olvasható = std::max(olvasható_pont, hely.height() / twips::per_point / legtöbb_sor);
+    if (kész.pont < olvasható && (látszó.contains(u' ') || kész.pont < legkisebb_pont))
         kész = sorokban(látszó, hely, std::max(kész.pont, legkisebb_pont), próba);
     hova.setFont(próba.betű(kész.pont));
     const QSizeF végső = PictureBox::text_size(kész.sorok, hova.font());

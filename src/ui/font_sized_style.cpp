@@ -1,0 +1,32 @@
+#include "ui/font_sized_style.h"
+
+#include <QFontMetrics>
+#include <QWidget>
+#include <algorithm>
+
+namespace {
+
+/// Of the height of a line of text.
+constexpr double indicator_share = 0.75;
+
+bool stands_beside_letters(QStyle::PixelMetric metric) {
+    switch (metric) {
+        case QStyle::PM_IndicatorWidth:
+        case QStyle::PM_IndicatorHeight:
+        case QStyle::PM_ExclusiveIndicatorWidth:
+        case QStyle::PM_ExclusiveIndicatorHeight:
+        case QStyle::PM_ScrollBarExtent:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+int FontSizedStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    if (!widget || !stands_beside_letters(metric))
+        return usual;
+    return std::max(usual, qRound(widget->fontMetrics().height() * indicator_share));
+}
