@@ -31,9 +31,10 @@ class Module_hasznos final {
     /// Writes `szöveg` into a control in the largest font that fits.
     ///
     /// A picture box has it printed in its middle, in the last size at which it fits, and keeps it as its property
-    /// "tag"; an empty text becomes a reminder, a text without small letters stands a little lower, and one that does
-    /// not fit in the smallest size either is broken into lines. A label or button takes it, or its own caption when it
-    /// is empty, in the first size in which it reaches 90 % of the control's width or height.
+    /// "tag"; an empty text becomes a reminder, a text without small letters stands a little lower, and one of several
+    /// words that would come out smaller than 14 points, or than an eighth of the box, is broken into lines. A label or
+    /// button takes it, or its own caption when it is empty, in the first size in which it reaches 90 % of the
+    /// control's width or height.
     static void szövegbeigazít(QWidget &hova, const QString &szöveg);
     /// A number is fitted as its text.
     static void szövegbeigazít(QWidget &hova, double szám);
