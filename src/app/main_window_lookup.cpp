@@ -25,7 +25,10 @@ void szótár::lookup_eseményeket_köt() {
     connect(v_.magyarlist, &ListBox::itemSelected, &események_, [this] { magyarlist_Click(); });
     connect(v_.magyarlist, &ListBox::itemDoubleClicked, &események_, [this] { magyarlist_DblClick(); });
     for (QRadioButton *irány : v_.nyelv)
-        connect(irány, &QRadioButton::clicked, &események_, [this] { nyelv_Click(); });
+        connect(irány, &QRadioButton::toggled, &események_, [this](bool kijelölt) {
+            if (kijelölt)
+                nyelv_Click();
+        });
     connect(v_.Command2, &QPushButton::clicked, &események_, [this] { Command2_Click(); });
 }
 

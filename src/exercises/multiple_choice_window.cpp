@@ -55,6 +55,7 @@ választás::választás(const feladatkörnyezet &környezet)
     elhelyezés();
     Timer1_->setObjectName(QStringLiteral("Timer1"));
     Timer1_->setSingleShot(true);
+    Timer1_->setTimerType(Qt::PreciseTimer);
     Timer1_->setInterval(válaszidő);
     connect(Timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
@@ -138,6 +139,8 @@ void választás::kínálatot_rak(int darab) {
 
 void választás::következő() {
     for (int k = 0; k < pic_kínálat_.size(); ++k) {
+        // What was pressed or dragged is the word of the question before.
+        pic_kínálat_[k]->end_drag();
         pic_kínálat_[k]->setVisible(true);
         Module_hasznos::szövegbeigazít(*pic_kínálat_[k], játék_.kínálat()[k]);
         pic_kínálat_[k]->setAccessibleDescription(játék_.kínálat()[k]);
@@ -146,6 +149,8 @@ void választás::következő() {
     pic_feladat_->setAccessibleDescription(játék_.kérdés());
     keretet_ürít();
     Module_hasznos::szövegbeigazít(*Label_info_, játék_.számláló());
+    // Where hiding the picked candidate has moved the focus is nobody's choice.
+    pic_kínálat_.front()->setFocus();
 }
 
 void választás::választ(int k) {
@@ -198,7 +203,11 @@ void választás::cmd_ok_Click() {
             következő();
             break;
         case választójáték::eredmény::hibás:
-            pic_megoldás_Click();
+            if (választott_ >= 0) {
+                CandidatePicture *visszatérő = pic_kínálat_[választott_];
+                pic_megoldás_Click();
+                visszatérő->setFocus();
+            }
             break;
         case választójáték::eredmény::vége:
             eredmény();

@@ -49,7 +49,10 @@ kikérdező::kikérdező(const feladatkörnyezet &környezet)
     elhelyezés();
     irány_.kijelöl(k_.beállítások.beállításolvas(*this, nyelv_kulcs, iránygombok::alap).toInt());
     for (QRadioButton *gomb : irány_.nyelvoptb)
-        connect(gomb, &QRadioButton::clicked, this, [this] { nyelvoptb_Click(); });
+        connect(gomb, &QRadioButton::toggled, this, [this](bool kijelölt) {
+            if (kijelölt)
+                nyelvoptb_Click();
+        });
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
     connect(cmd_kilép_, &QPushButton::clicked, this, [this] { cmd_kilép_Click(); });
     alapgombbeállít(cmd_ok_);

@@ -73,10 +73,17 @@ void CandidatePicture::end_drag() {
 }
 
 void CandidatePicture::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Space)
-        Q_EMIT chosen();
-    else
+    if (event->key() == Qt::Key_Escape && ghost_) {
+        end_drag();
+        return;
+    }
+    if (event->key() != Qt::Key_Space) {
         PictureBox::keyPressEvent(event);
+        return;
+    }
+    // The repeats of a key that is held down would choose the next picture, which has the focus by then.
+    if (!event->isAutoRepeat())
+        Q_EMIT chosen();
 }
 
 void CandidatePicture::focusInEvent(QFocusEvent *event) {

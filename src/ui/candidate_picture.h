@@ -21,6 +21,9 @@ class CandidatePicture : public PictureBox {
     void set_drag_mode(DragMode mode);
     [[nodiscard]] DragMode drag_mode() const { return drag_mode_; }
 
+    /// Lets a press or drag that is under way come to nothing; so does the escape key.
+    void end_drag();
+
   Q_SIGNALS:
     void chosen();
     /// The picture was let go at this place of the screen.
@@ -37,8 +40,6 @@ class CandidatePicture : public PictureBox {
     void paintEvent(QPaintEvent *event) override;
 
   private:
-    void end_drag();
-
     DragMode drag_mode_ = DragMode::manual;
     /// Where the left button went down; nothing when it is up.
     bool pressed_ = false;

@@ -22,6 +22,7 @@ constexpr QSizeF gombméret(1500, 600);
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
     Timer1_->setObjectName(QStringLiteral("Timer1"));
     Timer1_->setSingleShot(true);
+    Timer1_->setTimerType(Qt::PreciseTimer);
     connect(Timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
     alapgombbeállít(cmd_ok_);
 }

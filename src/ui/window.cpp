@@ -106,11 +106,16 @@ void ablak::levesz(QWidget *vezérlő) {
 }
 
 void ablak::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Escape && mégsegomb_) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool escape = event->key() == Qt::Key_Escape && mégsegomb_;
+    // A key that is held down presses a button once: its repeats would answer the next question, too.
+    if (event->isAutoRepeat() && (enter || escape))
+        return;
+    if (escape) {
         mégsegomb_->click();
         return;
     }
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    if (!enter) {
         QWidget::keyPressEvent(event);
         return;
     }

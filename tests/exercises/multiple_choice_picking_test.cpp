@@ -1,3 +1,5 @@
+#include <QKeyEvent>
+
 #include "support/multiple_choice_fixture.h"
 
 namespace {
@@ -175,6 +177,59 @@ TEST_F(MultipleChoicePicking, candidate_that_goes_during_a_drag_leaves_no_pictur
         EXPECT_EQ(ghosts(), 0);
         EXPECT_EQ(candidates(), 5);
     }
+}
+
+TEST_F(MultipleChoicePicking, drag_under_way_comes_to_nothing_when_the_question_changes) {
+    store("katt", true);
+    start();
+    const int picked = right();
+    const int dragged = wrong();
+    drag(picked, middle_of(frame()));
+    const QPoint from = middle_of(candidate(dragged));
+    press_at(from);
+    move_to(middle_of(frame()));
+    ASSERT_EQ(ghosts(), 1);
+
+    check();
+    release_at(middle_of(frame()));
+
+    EXPECT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    EXPECT_EQ(ghosts(), 0);
+    EXPECT_EQ(answer(), QString());
+}
+
+TEST_F(MultipleChoicePicking, escape_ends_a_drag_and_not_the_game) {
+    store("katt", true);
+    start();
+    const QPoint from = middle_of(candidate(0));
+    press_at(from);
+    move_to(middle_of(frame()));
+
+    QTest::keyClick(candidate(0), Qt::Key_Escape);
+    release_at(middle_of(frame()));
+
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_EQ(ghosts(), 0);
+    EXPECT_EQ(answer(), QString());
+}
+
+TEST_F(MultipleChoicePicking, space_that_is_held_down_picks_once) {
+    start();
+    const QString first = text(0);
+    candidate(0)->setFocus();
+    QTest::keyClick(candidate(0), Qt::Key_Space);
+
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+    QApplication::sendEvent(candidate(1), &repeat);
+
+    EXPECT_EQ(answer(), first);
+}
+
+TEST_F(MultipleChoicePicking, next_question_has_the_focus_on_its_first_candidate) {
+    start();
+    answer_with(right());
+
+    EXPECT_TRUE(candidate(0)->hasFocus());
 }
 
 TEST_F(MultipleChoicePicking, click_picks_nothing_when_answers_are_dragged) {

@@ -411,4 +411,14 @@ TEST_F(TypedQuizWindow, is_reached_by_tab_from_control_to_control) {
     EXPECT_EQ(tab_order(*window_), QStringLiteral("txt_megoldás cmd_ok nyelvoptb(0) cmd_kilép"));
 }
 
+TEST_F(TypedQuizWindow, goes_on_when_the_direction_that_is_chosen_already_is_clicked) {
+    start(numbered_pairs(5));
+    answer_rightly();
+    ASSERT_EQ(counter(), QStringLiteral(" 2/ 5"));
+
+    choose_direction(1);
+
+    EXPECT_EQ(counter(), QStringLiteral(" 2/ 5"));
+}
+
 }  // namespace

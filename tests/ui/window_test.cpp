@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -79,6 +81,16 @@ TEST_F(WindowWithButtons, presses_its_default_button_on_enter) {
 
     EXPECT_EQ(ok_clicks_, 2);
     EXPECT_TRUE(ok_->isDefault());
+}
+
+TEST_F(WindowWithButtons, presses_its_default_button_once_for_a_key_that_is_held_down) {
+    window_.alapgombbeállít(ok_);
+    QTest::keyClick(text_, Qt::Key_Return);
+
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+    QApplication::sendEvent(&window_, &repeat);
+
+    EXPECT_EQ(ok_clicks_, 1);
 }
 
 TEST_F(WindowWithButtons, presses_the_button_that_has_the_focus_before_the_default_one) {
