@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -23,6 +24,13 @@ class WindowFitting : public testing::Test {
   protected:
     WindowFitting() { reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár")); }
 
+    ~WindowFitting() override {
+        for (QLabel *label : {first_.data(), second_.data()}) {
+            if (label && !label->parent())
+                delete label;
+        }
+    }
+
     /// A window with two controls; the lower right corner of the second is the largest.
     void fill(ablak &window, double right, double bottom) {
         window.elhelyez(first_, {120, 120, 600, 300});
@@ -32,8 +40,9 @@ class WindowFitting : public testing::Test {
 
     frm_referencia reference_;
     Module_hasznos fitting_{reference_, [] { return small_screen; }};
-    QLabel *first_ = new QLabel(QStringLiteral("első"));
-    QLabel *second_ = new QLabel(QStringLiteral("második"));
+    // They go with the window that a test places them on, or with the test.
+    QPointer<QLabel> first_ = new QLabel(QStringLiteral("első"));
+    QPointer<QLabel> second_ = new QLabel(QStringLiteral("második"));
 };
 
 TEST_F(WindowFitting, scales_a_tall_window_to_the_share_of_the_screens_height) {
@@ -104,7 +113,6 @@ TEST_F(WindowFitting, gives_each_kind_of_control_its_type_face) {
         EXPECT_EQ(control->font().families(), QStringList{fonts::times_new_roman_ce});
     EXPECT_EQ(option->font().family(), before);
     EXPECT_EQ(text->font().family(), before);
-    delete second_;
 }
 
 TEST_F(WindowFitting, makes_labels_transparent_but_not_white_ones_and_none_of_frm_rajz) {
