@@ -3,7 +3,7 @@
 # What building and running the program takes.
 build_packages=(
     g++ cmake ninja-build ccache
-    qt6-base-dev libgl-dev qt6-translations-l10n zlib1g-dev
+    qt6-base-dev qt6-svg-dev libgl-dev qt6-translations-l10n zlib1g-dev
     fonts-liberation2 dict-freedict-eng-hun dict-freedict-hun-eng
 )
 # What a virtual display takes.

@@ -36,7 +36,9 @@ szótár::szótár(szótárkörnyezet környezet)
       üzenet_([this] { return std::make_unique<üzenet>(k_.hasznos, *this, k_.állapot.aktuálisfájl); }),
       tanulás_([this] { return std::make_unique<tanulás>(feladatnak()); }),
       kikérdező_([this] { return std::make_unique<kikérdező>(feladatnak()); }),
-      választás_([this] { return std::make_unique<választás>(feladatnak()); }) {
+      választás_([this] { return std::make_unique<választás>(feladatnak()); }),
+      kirakó_([this] { return std::make_unique<frm_kirakó>(feladatnak()); }),
+      memória_([this] { return std::make_unique<frm_memory>(feladatnak()); }) {
     setWindowTitle(QStringLiteral("névtelen szószedet"));
     méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
     háttérszínbeállít(k_.referencia.háttérszín());

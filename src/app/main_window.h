@@ -10,6 +10,8 @@
 #include "app/settings_store.h"
 #include "exercises/exercise_surroundings.h"
 #include "exercises/learning_window.h"
+#include "exercises/letter_puzzle_window.h"
+#include "exercises/memory_window.h"
 #include "exercises/multiple_choice_window.h"
 #include "exercises/typed_quiz_window.h"
 #include "exercises/word_list_reader.h"
@@ -112,6 +114,8 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     void mnufeladattanul_Click();
     void mnufeladatkikérd_Click();
     void mnufeladatválaszt_Click();
+    void mnu_fájl_kirakó_Click();
+    void mnufeladatmemória_Click();
     /// Hides the main window, shows an exercise until it closes, shows the main window again and unloads the exercise.
     template <class Feladat>
     void feladatot_mutat(WindowReference<Feladat> &feladat);
@@ -128,6 +132,8 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     WindowReference<tanulás> tanulás_;
     WindowReference<kikérdező> kikérdező_;
     WindowReference<választás> választás_;
+    WindowReference<frm_kirakó> kirakó_;
+    WindowReference<frm_memory> memória_;
 
     /// Number of the newest search: an older one that still runs has been taken over.
     int keresés_ = 0;

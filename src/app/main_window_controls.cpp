@@ -129,7 +129,9 @@ szótármenü::szótármenü(QMenuBar &sor)
       mnufeladat(named(sor.addMenu(QStringLiteral("Fel&adatok")), u"mnufeladat")),
       mnufeladattanul(named(mnufeladat->addAction(QStringLiteral("&Tanulás")), u"mnufeladattanul")),
       mnufeladatkikérd(named(mnufeladat->addAction(QStringLiteral("&Kikérdezés")), u"mnufeladatkikérd")),
-      mnufeladatválaszt(named(mnufeladat->addAction(QStringLiteral("&Választás")), u"mnufeladatválaszt")) {
+      mnufeladatválaszt(named(mnufeladat->addAction(QStringLiteral("&Választás")), u"mnufeladatválaszt")),
+      mnu_fájl_kirakó(named(mnufeladat->addAction(QStringLiteral("&Kirakó")), u"mnu_fájl_kirakó")),
+      mnufeladatmemória(named(mnufeladat->addAction(QStringLiteral("&Memória")), u"mnufeladatmemória")) {
     sor.setObjectName(QStringLiteral("menüsor"));
     for (size_t i = 0; i < mnufájlfájl.size(); ++i) {
         mnufájlfájl[i] = mnufájl->addAction(QString());

@@ -64,4 +64,6 @@ struct szótármenü {
     QAction *mnufeladattanul;
     QAction *mnufeladatkikérd;
     QAction *mnufeladatválaszt;
+    QAction *mnu_fájl_kirakó;
+    QAction *mnufeladatmemória;
 };

@@ -13,6 +13,8 @@ void szótár::feladat_eseményeket_köt() {
     köt(m_.mnufeladattanul, &szótár::mnufeladattanul_Click);
     köt(m_.mnufeladatkikérd, &szótár::mnufeladatkikérd_Click);
     köt(m_.mnufeladatválaszt, &szótár::mnufeladatválaszt_Click);
+    köt(m_.mnu_fájl_kirakó, &szótár::mnu_fájl_kirakó_Click);
+    köt(m_.mnufeladatmemória, &szótár::mnufeladatmemória_Click);
 }
 
 feladatkörnyezet szótár::feladatnak() {
@@ -50,6 +52,14 @@ void szótár::mnufeladatválaszt_Click() {
     }
     üzenetmutat(3000, {QStringLiteral("Ehhez a játékhoz "), QStringLiteral("legalább két szót"),
                        QStringLiteral("kell felvenni"), QStringLiteral("a szószedetbe!")});
+}
+
+void szótár::mnu_fájl_kirakó_Click() {
+    feladatot_mutat(kirakó_);
+}
+
+void szótár::mnufeladatmemória_Click() {
+    feladatot_mutat(memória_);
 }
 
 void szótár::üzenetmutat(qint16 ezredmásodperc, const QStringList &sorok) {

@@ -1,5 +1,6 @@
 #include "exercises/direction_buttons.h"
 
+#include <QButtonGroup>
 #include <algorithm>
 
 #include "ui/named.h"
@@ -9,6 +10,16 @@ iránygombok::iránygombok()
                 named(new QRadioButton(QStringLiteral("Magyarról - Angolra")), u"nyelvoptb(1)", u"Magyarról angolra"),
                 named(new QRadioButton(QStringLiteral("Változó nyelv")), u"nyelvoptb(2)", u"Változó nyelv")} {
     kijelöl(alap);
+}
+
+void iránygombok::elhelyez(ablak &mire, const std::function<QRectF(int)> &hol) {
+    // Where others lie beside them on the window, they must be told which belong together.
+    auto *csoport = new QButtonGroup(&mire);
+    for (int i = 0; i < static_cast<int>(nyelvoptb.size()); ++i) {
+        QRadioButton *gomb = nyelvoptb[static_cast<size_t>(i)];
+        mire.elhelyez(gomb, hol(i));
+        csoport->addButton(gomb, i);
+    }
 }
 
 irány iránygombok::kijelölt() const {

@@ -2,15 +2,19 @@
 
 #include <QRadioButton>
 #include <array>
+#include <functional>
 
 #include "exercises/question_pairs.h"
+#include "ui/window.h"
 
 /// The three option buttons `nyelvoptb` with which the user chooses the direction of the questions.
 struct iránygombok {
-    /// Makes the buttons; the caller places them.
     iránygombok();
 
     std::array<QRadioButton *, 3> nyelvoptb;
+
+    /// Places the buttons, button `i` at `hol(i)`, and makes them a group.
+    void elhelyez(ablak &mire, const std::function<QRectF(int)> &hol);
 
     [[nodiscard]] irány kijelölt() const;
     /// Selects the button of this index; of any other, the one of the default direction.

@@ -31,8 +31,7 @@ void választójáték::újrakezd(irány merre, int választék) {
 
 void választójáték::következő() {
     aktuális_ = sor_.kihúz();
-    const int merre = irány_ == irány::változó ? véletlen_.pick(2) : static_cast<int>(irány_);
-    nyelv_ = merre == static_cast<int>(irány::magyarról) ? kérdésnyelv::magyar : kérdésnyelv::angol;
+    nyelv_ = kérdés_nyelve(irány_, véletlen_);
     kínál();
 }
 

@@ -2,19 +2,17 @@
 
 #include <QGroupBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <array>
 #include <functional>
 
 #include "exercises/direction_buttons.h"
-#include "exercises/exercise_surroundings.h"
-#include "ui/window.h"
+#include "exercises/settings_window.h"
 
 /// The settings of the multiple choice: direction, number of candidates, way of answering. The game reads them from
 /// this window. Kept under the keys "nyelv", "valasztekszam" and "katt".
-class választás_beáll final : public ablak {
+class választás_beáll final : public feladatbeállító {
   public:
     /// Loads the window with what is stored. `párok_száma` tells how many pairs the game holds, `újrakezd` starts the
     /// game anew after the settings were saved.
@@ -26,17 +24,12 @@ class választás_beáll final : public ablak {
     /// True when answers are dragged into the frame, false when they are clicked.
     [[nodiscard]] bool húzással() const { return Opt_megoldástípus_[1]->isChecked(); }
 
-  protected:
-    void closeEvent(QCloseEvent *event) override;
-
   private:
     void elhelyezés();
-    void betölt();
-    void ment();
-    void cmd_ok_Click();
-    void cmd_mégsem_Click();
+    void betölt() override;
+    void ment() override;
+    void elfogad() override;
 
-    const feladatkörnyezet k_;
     std::function<int()> párok_száma_;
     std::function<void()> újrakezd_;
     QGroupBox *keret_nyelv_;
@@ -46,6 +39,4 @@ class választás_beáll final : public ablak {
     QSlider *Slider_választékszám_;
     QLabel *Label_választék_száma_;
     std::array<QRadioButton *, 2> Opt_megoldástípus_;
-    QPushButton *cmd_ok_;
-    QPushButton *cmd_mégsem_;
 };

@@ -2,9 +2,8 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMenu>
-#include <QMenuBar>
 
+#include "exercises/game_menu.h"
 #include "ui/colour_copy.h"
 #include "ui/named.h"
 
@@ -24,8 +23,8 @@ constexpr QRectF kiléphely(6600, 5140, 3280, 640);
 constexpr int válaszidő = 1400;
 constexpr qint16 üzenetidő = 3000;
 
-CandidatePicture *kínálatkép(int k) {
-    auto *kép = new CandidatePicture;
+ChoosablePicture *kínálatkép(int k) {
+    auto *kép = new ChoosablePicture;
     kép->setObjectName(QStringLiteral("pic_kínálat(%1)").arg(k));
     kép->setAccessibleName(QStringLiteral("%1. választható szó").arg(k + 1));
     return kép;
@@ -41,7 +40,7 @@ választás::választás(const feladatkörnyezet &környezet)
           named(new QLabel(QStringLiteral("Válaszd ki a megoldást, és helyezd a keretbe!")), u"label_felirat")),
       pic_feladat_(named(new PictureBox, u"pic_feladat", u"Kérdés")),
       pic_kötőjel_(named(new PictureBox, u"pic_kötőjel", u"Kötőjel")),
-      pic_megoldás_(named(new CandidatePicture, u"pic_megoldás", u"A kiválasztott megoldás kerete")),
+      pic_megoldás_(named(new ChoosablePicture, u"pic_megoldás", u"A kiválasztott megoldás kerete")),
       Label_info_(named(new QLabel, u"Label_info")),
       cmd_ok_(named(new QPushButton(QStringLiteral("Ok")), u"cmd_ok", u"Ok, ellenőrzés")),
       cmd_kilép_(named(new QPushButton(QStringLiteral("Kilép")), u"cmd_kilép", u"Kilép")),
@@ -51,7 +50,10 @@ választás::választás(const feladatkörnyezet &környezet)
               k_, [this] { return játék_.párok_száma(); }, [this] { újrakezd(); });
       }) {
     setWindowTitle(QStringLiteral("Választás"));
-    menüt_rak();
+    játékmenüt_rak(*this, {{u"mnu_fájl_újrakezd", QStringLiteral("&Újrakezd"), [this] { újrakezd(); }},
+                           {u"mnu_fájl_beáll", QStringLiteral("&Beállítások"), [this] { mnu_fájl_beáll_Click(); }},
+                           {u"mnu_fájl_elválaszt", {}, {}},
+                           {u"mnu_fájl_kilép", QStringLiteral("&Kilép"), [this] { cmd_kilép_Click(); }}});
     elhelyezés();
     Timer1_->setObjectName(QStringLiteral("Timer1"));
     Timer1_->setSingleShot(true);
@@ -60,24 +62,12 @@ választás::választás(const feladatkörnyezet &környezet)
     connect(Timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
     connect(cmd_kilép_, &QPushButton::clicked, this, [this] { cmd_kilép_Click(); });
-    connect(pic_megoldás_, &CandidatePicture::chosen, this, [this] { pic_megoldás_Click(); });
+    connect(pic_megoldás_, &ChoosablePicture::chosen, this, [this] { pic_megoldás_Click(); });
     alapgombbeállít(cmd_ok_);
     mégsegombbeállít(cmd_kilép_);
     elrendez();
     if (!játék_.üres())
         újrakezd();
-}
-
-void választás::menüt_rak() {
-    QMenu *fájl = named(menüsor()->addMenu(QStringLiteral("&Fájl")), u"mnu_fájl");
-    const auto pont = [&](const char16_t *felirat, const char16_t *név, auto mit) {
-        QAction *új = named(fájl->addAction(QString::fromUtf16(felirat)), név);
-        connect(új, &QAction::triggered, this, mit);
-    };
-    pont(u"&Újrakezd", u"mnu_fájl_újrakezd", [this] { újrakezd(); });
-    pont(u"&Beállítások", u"mnu_fájl_beáll", [this] { mnu_fájl_beáll_Click(); });
-    fájl->addSeparator();
-    pont(u"&Kilép", u"mnu_fájl_kilép", [this] { cmd_kilép_Click(); });
 }
 
 void választás::elhelyezés() {
@@ -119,7 +109,7 @@ void választás::kínálatot_rak(int darab) {
     while (pic_kínálat_.size() > 1)
         levesz(pic_kínálat_.takeLast());
     const auto húzás =
-        beállító_.get().húzással() ? CandidatePicture::DragMode::automatic : CandidatePicture::DragMode::manual;
+        beállító_.get().húzással() ? ChoosablePicture::DragMode::automatic : ChoosablePicture::DragMode::manual;
     for (int k = 0; k < darab; ++k) {
         if (k > 0) {
             const QRectF előző = hely(pic_kínálat_.back());
@@ -128,11 +118,11 @@ void választás::kínálatot_rak(int darab) {
             pic_kínálat_.back()->set_background(k_.főablak.háttérszín());
             QWidget::setTabOrder(pic_kínálat_[k - 1], pic_kínálat_[k]);
         }
-        CandidatePicture *kép = pic_kínálat_[k];
+        ChoosablePicture *kép = pic_kínálat_[k];
         kép->disconnect(this);
         kép->set_drag_mode(húzás);
-        connect(kép, &CandidatePicture::chosen, this, [this, k] { pic_kínálat_Click(k); });
-        connect(kép, &CandidatePicture::dropped, this,
+        connect(kép, &ChoosablePicture::chosen, this, [this, k] { pic_kínálat_Click(k); });
+        connect(kép, &ChoosablePicture::dropped, this,
                 [this, k](const QPoint &hová) { pic_megoldás_DragDrop(k, hová); });
     }
 }
@@ -204,7 +194,7 @@ void választás::cmd_ok_Click() {
             break;
         case választójáték::eredmény::hibás:
             if (választott_ >= 0) {
-                CandidatePicture *visszatérő = pic_kínálat_[választott_];
+                ChoosablePicture *visszatérő = pic_kínálat_[választott_];
                 pic_megoldás_Click();
                 visszatérő->setFocus();
             }

@@ -8,7 +8,7 @@
 #include "exercises/exercise_surroundings.h"
 #include "exercises/multiple_choice.h"
 #include "exercises/multiple_choice_settings_window.h"
-#include "ui/candidate_picture.h"
+#include "ui/choosable_picture.h"
 #include "ui/window.h"
 #include "ui/window_reference.h"
 
@@ -27,7 +27,6 @@ class választás final : public ablak {
 
   private:
     void elhelyezés();
-    void menüt_rak();
     void elrendez();
     void újrakezd();
     void kínálatot_rak(int darab);
@@ -50,8 +49,8 @@ class választás final : public ablak {
     QLabel *label_felirat_;
     PictureBox *pic_feladat_;
     PictureBox *pic_kötőjel_;
-    CandidatePicture *pic_megoldás_;
-    QVector<CandidatePicture *> pic_kínálat_;
+    ChoosablePicture *pic_megoldás_;
+    QVector<ChoosablePicture *> pic_kínálat_;
     QLabel *Label_info_;
     QPushButton *cmd_ok_;
     QPushButton *cmd_kilép_;

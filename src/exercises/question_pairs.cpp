@@ -2,6 +2,11 @@
 
 #include <algorithm>
 
+kérdésnyelv kérdés_nyelve(irány merre, RandomNumbers &véletlen) {
+    const int index = merre == irány::változó ? véletlen.pick(2) : static_cast<int>(merre);
+    return index == static_cast<int>(irány::magyarról) ? kérdésnyelv::magyar : kérdésnyelv::angol;
+}
+
 kérdéssor::kérdéssor(const QVector<szópár> &szavak, RandomNumbers &véletlen) : véletlen_(véletlen) {
     párok_.reserve(szavak.size());
     for (const szópár &szó : szavak)

@@ -22,6 +22,9 @@ enum class kérdésnyelv { angol, magyar };
 /// The direction the user has chosen: the index of the option button.
 enum class irány { angolról = 0, magyarról = 1, változó = 2 };
 
+/// The language of the next question; with `irány::változó` it is drawn.
+[[nodiscard]] kérdésnyelv kérdés_nyelve(irány merre, RandomNumbers &véletlen);
+
 /// The pairs of an exercise, each to be asked until it is answered: the pool from which questions are drawn, what has
 /// been asked and what has failed. The quiz, the multiple choice and the puzzle share it.
 class kérdéssor final {

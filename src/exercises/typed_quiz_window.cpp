@@ -68,9 +68,7 @@ void kikérdező::elhelyezés() {
     elhelyez(Pic_kérdés_, kérdéshely);
     elhelyez(txt_megoldás_, megoldáshely);
     elhelyez(cmd_ok_, okhely);
-    for (size_t i = 0; i < irány_.nyelvoptb.size(); ++i) {
-        elhelyez(irány_.nyelvoptb[i], {bal, alsó_sor + static_cast<double>(i) * irányköz, irányszélesség, irányköz});
-    }
+    irány_.elhelyez(*this, [](int i) { return QRectF(bal, alsó_sor + i * irányköz, irányszélesség, irányköz); });
     elhelyez(label_info_, infóhely);
     elhelyez(cmd_kilép_, kiléphely);
     label_info_->setAlignment(Qt::AlignCenter);

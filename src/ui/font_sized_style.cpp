@@ -30,3 +30,17 @@ int FontSizedStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, 
         return usual;
     return std::max(usual, qRound(widget->fontMetrics().height() * indicator_share));
 }
+
+QRect FontSizedStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                                     const QWidget *widget) const {
+    QRect usual = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control != CC_SpinBox || !widget)
+        return usual;
+    const int arrows = QProxyStyle::subControlRect(control, option, SC_SpinBoxUp, widget).width();
+    const int wider = qRound(widget->fontMetrics().height() * indicator_share) - arrows;
+    if (wider > 0 && (part == SC_SpinBoxUp || part == SC_SpinBoxDown))
+        usual.setLeft(usual.left() - wider);
+    else if (wider > 0 && part == SC_SpinBoxEditField)
+        usual.setRight(usual.right() - wider);
+    return usual;
+}

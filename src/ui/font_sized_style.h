@@ -2,10 +2,13 @@
 
 #include <QProxyStyle>
 
-/// The desktop's style with option circles, check boxes and scroll bars that grow with the letters beside them.
+/// The desktop's style with option circles, check boxes, scroll bars and the arrows of spin boxes that grow with the
+/// letters beside them.
 class FontSizedStyle final : public QProxyStyle {
   public:
     using QProxyStyle::QProxyStyle;
 
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                         const QWidget *widget) const override;
 };

@@ -20,6 +20,16 @@ void PictureBox::print(const QPointF &position, const QString &text) {
     update();
 }
 
+void PictureBox::print_centred(const QString &text) {
+    const QSizeF rest = inner_size() - text_size(text, font());
+    print({rest.width() / 2, rest.height() / 2}, text);
+}
+
+void PictureBox::set_picture(const QPixmap &picture) {
+    picture_ = picture;
+    update();
+}
+
 QSizeF PictureBox::inner_size() const {
     return {twips::from_pixels(width()), twips::from_pixels(height())};
 }
@@ -49,6 +59,10 @@ void PictureBox::set_background(const QColor &colour) {
 
 void PictureBox::paintEvent(QPaintEvent *) {
     QPainter painter(this);
+    if (!picture_.isNull()) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawPixmap(rect(), picture_);
+    }
     for (const Printed &one : printed_) {
         painter.setFont(one.font);
         const QFontMetricsF metrics(one.font);

@@ -92,7 +92,7 @@ constexpr double legkisebb_pont = 8;
 /// In a smaller size a line is hard to read from where one sits; a text of several words is broken into lines then.
 constexpr double olvasható_pont = 14;
 /// So is a line that leaves most of a high box empty: one that is lower than this part of it.
-constexpr double legtöbb_sor = 8;
+constexpr double legtöbb_sor = 5;
 /// No picture box holds more letters that could be read.
 constexpr int leghosszabb = 600;
 
@@ -165,10 +165,14 @@ Betördelt sorokban(const QString &szöveg, const QSizeF &hely, double legalább
     return eddig;
 }
 
+QString rövidített(const QString &szöveg) {
+    return szöveg.size() > leghosszabb ? szöveg.left(leghosszabb) + u'…' : szöveg;
+}
+
 void képbe(PictureBox &hova, const QString &szöveg) {
     hova.clear();
     const QString kiírt = szöveg.isEmpty() ? QStringLiteral("Kéne írni ide valamit!") : szöveg;
-    const QString látszó = kiírt.size() > leghosszabb ? kiírt.left(leghosszabb) + u'…' : kiírt;
+    const QString látszó = rövidített(kiírt);
     const QSizeF hely = hova.inner_size();
     Betűpróba próba(hova.font());
     double pont = legkisebb_pont;
@@ -247,6 +251,11 @@ void Module_hasznos::szövegbeigazít(QWidget &hova, const QString &szöveg) {
         képbe(*kép, szöveg);
     else
         feliratba(hova, szöveg);
+}
+
+QString Module_hasznos::sorokra(const PictureBox &hova, const QString &szöveg, double pont) {
+    Betűpróba próba(hova.font());
+    return tördelt(rövidített(szöveg), hova.inner_size().width(), pont, próba);
 }
 
 void Module_hasznos::szövegbeigazít(QWidget &hova, double szám) {

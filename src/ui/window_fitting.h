@@ -32,10 +32,12 @@ class Module_hasznos final {
     ///
     /// A picture box has it printed in its middle, in the last size at which it fits, and keeps it as its property
     /// "tag"; an empty text becomes a reminder, a text without small letters stands a little lower, and one of several
-    /// words that would come out smaller than 14 points, or than an eighth of the box, is broken into lines. A label or
+    /// words that would come out smaller than 14 points, or than a fifth of the box, is broken into lines. A label or
     /// button takes it, or its own caption when it is empty, in the first size in which it reaches 90 % of the
     /// control's width or height.
     static void szövegbeigazít(QWidget &hova, const QString &szöveg);
+    /// `szöveg`, broken into lines where it is wider than a picture box in letters of `pont` points.
+    [[nodiscard]] static QString sorokra(const PictureBox &hova, const QString &szöveg, double pont);
     /// A number is fitted as its text.
     static void szövegbeigazít(QWidget &hova, double szám);
 

@@ -62,7 +62,7 @@ test_the_learning_window_shows_every_pair() {
 test_the_typed_quiz_is_answered_with_one_mistake() {
     # Given two pairs with the same answer, whichever is asked first
     start_with_list "dog:kutya" "dog:eb"
-    practise k "Kikérdezés"
+    practise "$to_quiz" "Kikérdezés"
     # When
     write cat
     wait_for_text cat

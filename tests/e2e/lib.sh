@@ -138,9 +138,10 @@ wait_for_title() {
     wait_until "a window \"$1\" in front" title_in_front_is "$1"
 }
 
-# practise <key of the menu item> <caption of the exercise>: opens an exercise from the main window's menu.
+# practise <keys of the menu item> <caption of the exercise>: opens an exercise from the main window's menu.
 practise() {
-    press alt+f Right "$1"
+    # shellcheck disable=SC2086  # several keys are several words
+    press alt+f Right $1
     wait_for_title "$(title_of_exercise "$2")"
 }
 
@@ -163,6 +164,10 @@ expect_end_with_success() {
     wait "$program" || status=$?
     ((status == 0)) || fail "The program ended with code $status."
 }
+
+# Two items share the key K, which goes from one to the other.
+readonly to_quiz="k Return"
+readonly to_puzzle="k k Return"
 
 # Mouse and keys
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# pictures.sh <program> <folder with the dictionaries> <folder for the pictures>: pictures of the program's windows on
-# small and large screens, to be looked at before a change of a window lands.
+# pictures.sh <program> <folder with the dictionaries> <folder for the pictures> [<scene>...]: pictures of the program's
+# windows on small and large screens, to be looked at before a change of a window lands; of all scenes when none is named.
 set -euo pipefail
 source "$(dirname "$0")/lib.sh"
 
@@ -85,7 +85,7 @@ exercises_in_use() {
     take_picture "learning$2"
     press Escape
     wait_for_title "$(title_of_list "$1")"
-    practise k "Kikérdezés"
+    practise "$to_quiz" "Kikérdezés"
     write "an answer that is bei"
     wait_for_text "an answer that is bei"
     press End
@@ -121,20 +121,76 @@ exercises() {
     multiple_choice_at_its_end
 }
 
+puzzle_at() {
+    start_program "$1"
+    practise "$to_puzzle" "Kirakó"
+    take_picture "puzzle$2"
+}
+
+puzzle() {
+    short_list
+    puzzle_at "$lists/állatok.szs" ""
+    # The first tile has the focus.
+    press ctrl+Right ctrl+Right ctrl+Down Right
+    take_picture puzzle-in-use
+    press space
+    take_picture puzzle-closed-up
+    press alt+f b
+    wait_for_title "$(title_of_exercise "Kirakó - Beállítások")"
+    press Up Return
+    wait_for_title "$(title_of_exercise "Kirakó")"
+    press alt+f j
+    end_program
+    long_list
+    puzzle_at "$lists/hosszú szavak.szs" -long
+    end_program
+}
+
+memory() {
+    make_list "$lists/memória.szs" dog:kutya cat:macska horse:ló "deer:őz, szarvas" bird:madár tree:fa "wood:fa, erdő" \
+        "to look forward to:előre örül valaminek" honey:méz egg:tojás bread:kenyér butter:vaj milk:tej water:víz \
+        "sky:ég, égbolt" earth:föld fire:tűz time:idő window:ablak knee:térd
+    start_program "$lists/memória.szs"
+    practise m "Memória"
+    take_picture memory
+    press space Right Down space
+    take_picture memory-in-use
+    press alt+f b
+    wait_for_title "$(title_of_exercise "Memória - Beállítások")"
+    take_picture memory-settings
+    press Down Down Down Return
+    wait_for_title "$(title_of_exercise "Memória")"
+    press space Right space
+    take_picture memory-36
+    end_program
+}
+
 binary=$(realpath "$1")
 dictionaries=$(realpath "$2")
 pictures=$(realpath "$3")
+scenes=("${@:4}")
 set_up_places /tmp/zimbora
+
+# wanted <scene>
+wanted() {
+    ((${#scenes[@]} == 0)) || [[ " ${scenes[*]} " == *" $1 "* ]]
+}
+
+# scene <function> [<screen>...]: on every screen when none is named.
+scene() {
+    if wanted "$1" && { (($# == 1)) || [[ " ${*:2} " == *" $size "* ]]; }; then
+        "$1"
+    fi
+}
+
 for size in 1024x768 1920x1080 2560x1440; do
     start_screen "$size"
     paint_background
-    empty_main_window
-    main_window_in_use
-    if [[ $size == 1024x768 ]]; then
-        message_about_too_few_pairs
-    fi
-    if [[ $size != 1920x1080 ]]; then
-        exercises
-    fi
+    scene empty_main_window
+    scene main_window_in_use
+    scene message_about_too_few_pairs 1024x768
+    scene exercises 1024x768 2560x1440
+    scene puzzle 1024x768 2560x1440
+    scene memory 1024x768 2560x1440
     end_children
 done

@@ -277,7 +277,7 @@ TEST_F(MultipleChoiceWindow, keeps_its_settings_for_the_next_opening_apart_from_
 
     EXPECT_EQ(candidates(), 4);
     EXPECT_TRUE(question().startsWith(QStringLiteral("word")));
-    EXPECT_EQ(candidate(0)->drag_mode(), CandidatePicture::DragMode::automatic);
+    EXPECT_EQ(candidate(0)->drag_mode(), ChoosablePicture::DragMode::automatic);
     EXPECT_EQ(settings_.beállításolvas(ablak(QStringLiteral("kikérdező")), QStringLiteral("nyelv"), 7), 7);
 }
 

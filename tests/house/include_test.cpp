@@ -16,7 +16,8 @@ std::optional<int> floor_of(const QString &file) {
     static const QStringList ground_of_app{QStringLiteral("app/global"), QStringLiteral("app/settings_store"),
                                            QStringLiteral("app/program_folder")};
     static const QStringList shared_by_windows{QStringLiteral("exercises/direction_buttons"),
-                                               QStringLiteral("exercises/exercise_surroundings")};
+                                               QStringLiteral("exercises/exercise_surroundings"),
+                                               QStringLiteral("exercises/game_menu")};
     static const QMap<QString, int> floors{
         {QStringLiteral("platform"), 0},  {QStringLiteral("wordlist"), 1}, {QStringLiteral("dictionary"), 1},
         {QStringLiteral("exercises"), 1}, {QStringLiteral("lookup"), 1},   {QStringLiteral("media"), 1},

@@ -22,10 +22,10 @@ class MultipleChoiceTest : public ExerciseTest {
         settings_.beállításment(ablak(QStringLiteral("választás_beáll")), QString::fromUtf8(key), value);
     }
 
-    [[nodiscard]] CandidatePicture *candidate(int k) const {
-        return window_->findChild<CandidatePicture *>(QStringLiteral("pic_kínálat(%1)").arg(k));
+    [[nodiscard]] ChoosablePicture *candidate(int k) const {
+        return window_->findChild<ChoosablePicture *>(QStringLiteral("pic_kínálat(%1)").arg(k));
     }
-    [[nodiscard]] CandidatePicture *frame() const { return control<CandidatePicture>(*window_, "pic_megoldás"); }
+    [[nodiscard]] ChoosablePicture *frame() const { return control<ChoosablePicture>(*window_, "pic_megoldás"); }
     [[nodiscard]] QTimer *timer() const { return control<QTimer>(*window_, "Timer1"); }
     [[nodiscard]] QString question() const { return shown(*window_, "pic_feladat"); }
     [[nodiscard]] QString counter() const { return label(*window_, "Label_info"); }

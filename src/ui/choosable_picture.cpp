@@ -1,4 +1,4 @@
-#include "ui/candidate_picture.h"
+#include "ui/choosable_picture.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -9,24 +9,24 @@
 namespace {
 
 constexpr int frame_width = 1;
-constexpr int focused_frame_width = 3;
+constexpr int focused_frame_width = 4;
 
 }  // namespace
 
-CandidatePicture::CandidatePicture(QWidget *parent) : PictureBox(parent) {
+ChoosablePicture::ChoosablePicture(QWidget *parent) : PictureBox(parent) {
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void CandidatePicture::set_drag_mode(DragMode mode) {
+void ChoosablePicture::set_drag_mode(DragMode mode) {
     drag_mode_ = mode;
     setCursor(mode == DragMode::automatic ? Qt::OpenHandCursor : Qt::PointingHandCursor);
 }
 
-CandidatePicture::~CandidatePicture() {
+ChoosablePicture::~ChoosablePicture() {
     end_drag();
 }
 
-void CandidatePicture::mousePressEvent(QMouseEvent *event) {
+void ChoosablePicture::mousePressEvent(QMouseEvent *event) {
     // Another button that goes down during a drag is not the drag's business.
     if (event->button() != Qt::LeftButton)
         return;
@@ -34,7 +34,7 @@ void CandidatePicture::mousePressEvent(QMouseEvent *event) {
     grip_ = event->position().toPoint();
 }
 
-void CandidatePicture::mouseMoveEvent(QMouseEvent *event) {
+void ChoosablePicture::mouseMoveEvent(QMouseEvent *event) {
     if (!pressed_ || drag_mode_ != DragMode::automatic)
         return;
     const QPoint at = event->position().toPoint();
@@ -50,7 +50,7 @@ void CandidatePicture::mouseMoveEvent(QMouseEvent *event) {
     ghost_->move(mapTo(window(), at - grip_));
 }
 
-void CandidatePicture::mouseReleaseEvent(QMouseEvent *event) {
+void ChoosablePicture::mouseReleaseEvent(QMouseEvent *event) {
     if (!pressed_ || event->button() != Qt::LeftButton)
         return;
     const bool was_dragged = ghost_ != nullptr;
@@ -61,18 +61,18 @@ void CandidatePicture::mouseReleaseEvent(QMouseEvent *event) {
         Q_EMIT chosen();
 }
 
-void CandidatePicture::hideEvent(QHideEvent *event) {
+void ChoosablePicture::hideEvent(QHideEvent *event) {
     // The mouse button is let go over what lies behind, which tells this picture nothing.
     end_drag();
     PictureBox::hideEvent(event);
 }
 
-void CandidatePicture::end_drag() {
+void ChoosablePicture::end_drag() {
     pressed_ = false;
     delete ghost_;
 }
 
-void CandidatePicture::keyPressEvent(QKeyEvent *event) {
+void ChoosablePicture::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Escape && ghost_) {
         end_drag();
         return;
@@ -86,20 +86,29 @@ void CandidatePicture::keyPressEvent(QKeyEvent *event) {
         Q_EMIT chosen();
 }
 
-void CandidatePicture::focusInEvent(QFocusEvent *event) {
+void ChoosablePicture::focusInEvent(QFocusEvent *event) {
     PictureBox::focusInEvent(event);
     update();
 }
 
-void CandidatePicture::focusOutEvent(QFocusEvent *event) {
+void ChoosablePicture::focusOutEvent(QFocusEvent *event) {
     PictureBox::focusOutEvent(event);
     update();
 }
 
-void CandidatePicture::paintEvent(QPaintEvent *event) {
+void ChoosablePicture::paintEvent(QPaintEvent *event) {
     PictureBox::paintEvent(event);
     QPainter painter(this);
-    const int width = hasFocus() ? focused_frame_width : frame_width;
-    painter.setPen(QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), width));
-    painter.drawRect(QRectF(rect()).adjusted(width / 2.0, width / 2.0, -width / 2.0, -width / 2.0));
+    const auto draw_frame = [&](const QColor &colour, double inset, double width) {
+        const double middle = inset + width / 2;
+        painter.setPen(QPen(colour, width));
+        painter.drawRect(QRectF(rect()).adjusted(middle, middle, -middle, -middle));
+    };
+    if (!hasFocus()) {
+        draw_frame(palette().color(QPalette::Mid), 0, frame_width);
+        return;
+    }
+    // Two colours, so that one of them stands out from any picture.
+    draw_frame(palette().color(QPalette::Highlight), 0, focused_frame_width);
+    draw_frame(Qt::white, focused_frame_width, frame_width);
 }

@@ -8,14 +8,14 @@
 
 /// A picture that can be chosen by a click or the space key, or dragged: then a ghost of it follows the mouse until the
 /// button is let go. A picture that is hidden or deleted meanwhile is dropped nowhere.
-class CandidatePicture : public PictureBox {
+class ChoosablePicture : public PictureBox {
     Q_OBJECT
 
   public:
     enum class DragMode { manual, automatic };
 
-    explicit CandidatePicture(QWidget *parent = nullptr);
-    ~CandidatePicture() override;
+    explicit ChoosablePicture(QWidget *parent = nullptr);
+    ~ChoosablePicture() override;
 
     /// Automatic: the mouse drags, and a click does nothing. Manual: a click chooses. The space key chooses always.
     void set_drag_mode(DragMode mode);
