@@ -38,7 +38,10 @@ class HideWatch final : public QObject {
 
 }  // namespace
 
-ablak::ablak(const QString &név, menü van_menü) : QWidget(nullptr, Qt::Window), felület_(new QWidget(this)) {
+ablak::ablak(const QString &név, menü van_menü, keret milyen)
+    : QWidget(nullptr, milyen == keret::nincs ? Qt::Window | Qt::FramelessWindowHint : Qt::Window),
+      keret_(milyen),
+      felület_(new QWidget(this)) {
     setObjectName(név);
     setFont(QFont(QStringList{fonts::times_new_roman}));
     if (van_menü == menü::van)
@@ -46,11 +49,13 @@ ablak::ablak(const QString &név, menü van_menü) : QWidget(nullptr, Qt::Window
 }
 
 double ablak::keretmagasság() const {
+    if (keret_ == keret::nincs)
+        return 0;
     return menüsor_ ? title_and_borders + menu_bar : title_and_borders;
 }
 
 double ablak::keretszélesség() const {
-    return side_borders;
+    return keret_ == keret::nincs ? 0 : side_borders;
 }
 
 void ablak::méretez(double szélesség, double magasság) {
@@ -62,11 +67,30 @@ void ablak::méretez(double szélesség, double magasság) {
 void ablak::igazít() {
     const int width = twips::to_pixels(belsőszélesség());
     const int height = twips::to_pixels(belsőmagasság());
-    const int menu = menüsor_ ? menüsor_->sizeHint().height() : 0;
+    const int menu = menümagasság();
     if (menüsor_)
         menüsor_->setGeometry(0, 0, width, menu);
     felület_->setGeometry(0, menu, width, height);
-    setFixedSize(width, menu + height);
+    if (keret_ == keret::átméretezhető)
+        resize(width, menu + height);
+    else
+        setFixedSize(width, menu + height);
+}
+
+int ablak::menümagasság() const {
+    return menüsor_ ? menüsor_->sizeHint().height() : 0;
+}
+
+void ablak::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    // The size in twips that asked for these pixels stays as exact as it is.
+    const QSize kért(twips::to_pixels(belsőszélesség()), twips::to_pixels(belsőmagasság()) + menümagasság());
+    if (keret_ != keret::átméretezhető || size() == kért)
+        return;
+    szélesség_ = twips::from_pixels(width()) + keretszélesség();
+    magasság_ = twips::from_pixels(height() - menümagasság()) + keretmagasság();
+    igazít();
+    Form_Resize();
 }
 
 void ablak::középre(const QRectF &képernyő) {

@@ -14,12 +14,15 @@ class QPushButton;
 /// has a background colour and a caption, can be shown modally, and has a default button that Enter presses.
 ///
 /// Its outer height is the inner height plus a nominal frame (title bar and borders, and the menu bar where there is
-/// one), the same on every system: what the system's own frame takes in pixels never shifts a control.
+/// one), the same on every system: what the system's own frame takes in pixels never shifts a control. A window without
+/// a frame is as large as its inner surface.
 class ablak : public QWidget {
   public:
     enum class menü { nincs, van };
+    /// Frame of a window: one that keeps its size, none at all, or one that the user draws larger and smaller.
+    enum class keret { rögzített, nincs, átméretezhető };
 
-    explicit ablak(const QString &név, menü van_menü = menü::nincs);
+    explicit ablak(const QString &név, menü van_menü = menü::nincs, keret milyen = keret::rögzített);
 
     /// The menu bar; null for a window without one.
     [[nodiscard]] QMenuBar *menüsor() const { return menüsor_; }
@@ -59,10 +62,15 @@ class ablak : public QWidget {
 
   protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    /// The user has given a window `keret::átméretezhető` another size: belsőmagasság() and belsőszélesség() are new.
+    virtual void Form_Resize() {}
 
   private:
     void igazít();
+    [[nodiscard]] int menümagasság() const;
 
+    const keret keret_;
     QMenuBar *menüsor_ = nullptr;
     QWidget *felület_ = nullptr;
     QPushButton *alapgomb_ = nullptr;
