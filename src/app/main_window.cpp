@@ -2,14 +2,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDir>
-#include <QFileInfo>
 #include <QMenuBar>
 #include <algorithm>
 #include <utility>
 
-#include "lookup/mini_window_file.h"
-#include "platform/files.h"
 #include "ui/colour_copy.h"
 #include "ui/fonts.h"
 
@@ -21,8 +17,6 @@ constexpr double teli_magasság = 8220;
 constexpr int lépések = 25;
 /// From the bottom of the lowest control that is seen to the window's outer bottom.
 constexpr double alatta = 850;
-
-const QString kisablakfájl_helye = QStringLiteral("c:\\zbrmk\\angol\\kisablak.ini");
 
 }  // namespace
 
@@ -38,7 +32,11 @@ szótár::szótár(szótárkörnyezet környezet)
       kikérdező_([this] { return std::make_unique<kikérdező>(feladatnak()); }),
       választás_([this] { return std::make_unique<választás>(feladatnak()); }),
       kirakó_([this] { return std::make_unique<frm_kirakó>(feladatnak()); }),
-      memória_([this] { return std::make_unique<frm_memory>(feladatnak()); }) {
+      memória_([this] { return std::make_unique<frm_memory>(feladatnak()); }),
+      kisablak_([this] {
+          return std::make_unique<frm_kisablak>(kisablakkörnyezet{*this, k_.állapot, k_.hasznos, k_.üzenetek,
+                                                                  k_.legfelül, k_.vágólap, k_.képernyők, k_.siklásköz});
+      }) {
     setWindowTitle(QStringLiteral("névtelen szószedet"));
     méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
     háttérszínbeállít(k_.referencia.háttérszín());
@@ -50,7 +48,9 @@ void szótár::eseményeket_köt() {
     lista_eseményeket_köt();
     fájl_eseményeket_köt();
     feladat_eseményeket_köt();
+    info_eseményeket_köt();
     connect(v_.kilép, &QPushButton::clicked, &események_, [this] { kilép_Click(); });
+    connect(v_.cmd_kisablak, &QPushButton::clicked, &események_, [this] { cmd_kisablak_Click(); });
 }
 
 void szótár::Form_Load(const QString &parancssor) {
@@ -66,29 +66,9 @@ void szótár::Form_Load(const QString &parancssor) {
     k_.hasznos.ablakstílus(*this);
     magasságbeállít(hely(v_.Ok).bottom() + 120 + keretmagasság());
     v_.angolszó->setFocus();
+    if (k_.állapot.kisablakmód == 1)
+        cmd_kisablak_Click();
     fájlok_.parancssorból(parancssor);
-}
-
-void szótár::kisablakfájlolvas() {
-    const FileContent tartalom = files::read_whole(k_.meghajtó.path(kisablakfájl_helye));
-    const auto *bytes = std::get_if<QByteArray>(&tartalom);
-    const QSizeF képernyő = k_.hasznos.képernyő().size();
-    const kisablakfájl::értékek alap{qRound(képernyő.width() / 2), qRound(képernyő.height() / 2), 0};
-    const auto olvasott = bytes ? kisablakfájl::olvas(*bytes) : std::nullopt;
-    const kisablakfájl::értékek értékek = olvasott.value_or(alap);
-    k_.állapot.kisablakbal = értékek.bal;
-    k_.állapot.kisablakfent = értékek.fent;
-    k_.állapot.kisablakmód = értékek.mód;
-}
-
-void szótár::kisablakfájlír() {
-    const QString fájl = k_.meghajtó.path(kisablakfájl_helye);
-    if (QFileInfo(fájl).dir().entryList(QDir::Files).isEmpty())
-        return;
-    const auto hiba = files::replace_whole(
-        fájl, kisablakfájl::ír({k_.állapot.kisablakbal, k_.állapot.kisablakfent, k_.állapot.kisablakmód}));
-    if (hiba)
-        k_.üzenetek.tell(hiba->sentence);
 }
 
 void szótár::kilép_Click() {
@@ -103,6 +83,8 @@ void szótár::kilép_Click() {
         return;
     vége_ = true;
     hide();
+    if (kisablak_.loaded())
+        kisablak_.get().hide();
     k_.vége();
 }
 

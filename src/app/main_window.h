@@ -15,9 +15,11 @@
 #include "exercises/multiple_choice_window.h"
 #include "exercises/typed_quiz_window.h"
 #include "exercises/word_list_reader.h"
+#include "lookup/mini_window.h"
 #include "platform/dialogs.h"
 #include "platform/drive_c.h"
 #include "platform/random_numbers.h"
+#include "ui/about_window.h"
 #include "ui/reference_window.h"
 #include "ui/result_message_window.h"
 #include "ui/window.h"
@@ -36,8 +38,14 @@ struct szótárkörnyezet {
     DriveC meghajtó;
     RandomNumbers &véletlen;
     global::beállítástár &beállítások;
-    /// Lets a moment pass between two steps of an animation.
+    TopMost &legfelül;
+    /// Begins to watch the clipboard.
+    std::function<std::unique_ptr<ClipboardWatch>()> vágólap;
+    /// Places of all screens, in twips.
+    std::function<QVector<QRectF>()> képernyők;
+    /// Lets a moment pass between two steps of an animation, and between two of a glide, which has four times as many.
     std::function<void()> lépésköz;
+    std::function<void()> siklásköz;
     /// Ends the program.
     std::function<void()> vége;
 };
@@ -46,8 +54,9 @@ struct szótárkörnyezet {
 /// `szószedet` and `szómagylist` are the word list; its handlers carry the names of their controls and events.
 ///
 /// Sources: main_window.cpp its life, size and exit; main_window_lookup.cpp the dictionary; main_window_list.cpp the
-/// word list; main_window_files.cpp the menu of files; main_window_exercises.cpp the menu of exercises.
-class szótár final : public ablak, private szószedetablak, private szószedetolvasó {
+/// word list; main_window_files.cpp the menu of files; main_window_exercises.cpp the menu of exercises;
+/// main_window_mini.cpp the mini window; main_window_info.cpp the menu of help and information.
+class szótár final : public ablak, private szószedetablak, private szószedetolvasó, private nagyablak {
   public:
     explicit szótár(szótárkörnyezet környezet);
 
@@ -57,16 +66,18 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     // What other windows call.
     /// Adds the selected hit and meaning to the word list, with a beep. With nothing selected it only beeps; a word
     /// that a file would not give back is refused with a message.
-    void hozzáad_Click();
+    void hozzáad_Click() override;
     /// Looks the text of `angolszó` up in the dictionary of the current direction.
-    void Ok_Click();
+    void Ok_Click() override;
     /// Asks about unsaved changes and ends the program unless the user wants to stay.
-    void kilép_Click();
-    void magyarlist_DblClick();
+    void kilép_Click() override;
+    void magyarlist_DblClick() override;
+    /// Hides this window and opens the mini window in its place.
+    void cmd_kisablak_Click();
 
     [[nodiscard]] const szópárlista &szavak() const { return lista_; }
     /// True once the program is to end.
-    [[nodiscard]] bool vége() const { return vége_; }
+    [[nodiscard]] bool vége() const override { return vége_; }
 
   protected:
     void closeEvent(QCloseEvent *event) override;
@@ -74,8 +85,6 @@ class szótár final : public ablak, private szószedetablak, private szószedet
   private:
     // Life and size (main_window.cpp)
     void eseményeket_köt();
-    void kisablakfájlolvas();
-    void kisablakfájlír();
     void Form_QueryUnload(bool &mégse);
     void címbeállít(const QString &cím) override;
     void mentbeállít() override;
@@ -91,7 +100,7 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     void Command2_Click();
     void keresőlisták_ürít();
     void nincs_szótár(const QString &fájl);
-    [[nodiscard]] bool angolról() const { return v_.nyelv[0]->isChecked(); }
+    [[nodiscard]] bool angolról() const override { return v_.nyelv[0]->isChecked(); }
 
     // The word list (main_window_list.cpp)
     void lista_eseményeket_köt();
@@ -108,6 +117,27 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     void fájl_eseményeket_köt();
     void fájllistmutat(const QStringList &fájlok) override;
     [[nodiscard]] QStringList fájllist() const override;
+
+    // The mini window and its file (main_window_mini.cpp)
+    void kisablakfájlolvas();
+    void kisablakfájlír();
+    /// Makes sure that the file can be written when the program ends: only into a folder that holds a file.
+    void kisablakfájlnak_helyet_csinál();
+    void kisablakot_elenged();
+    void angolszóba_ír(const QString &szöveg) override { v_.angolszó->setText(szöveg); }
+    [[nodiscard]] QStringList szólist_elemei() const override { return v_.szólist->items(); }
+    [[nodiscard]] int szólist_kijelölt() const override { return v_.szólist->selected(); }
+    void szólist_kijelöl(int index) override { v_.szólist->select(index); }
+    [[nodiscard]] QStringList magyarlist_elemei() const override { return v_.magyarlist->items(); }
+    void magyarlist_kijelöl(int index) override { v_.magyarlist->select(index); }
+    [[nodiscard]] QRectF helye() const override;
+    void visszatér(const QPointF &közép) override;
+    [[nodiscard]] QRectF képernyője(const QPointF &hol) const;
+
+    // Help and information (main_window_info.cpp)
+    void info_eseményeket_köt();
+    void mnunévjegy_Click();
+    void rendszeradatokat_mutat();
 
     // The exercises (main_window_exercises.cpp)
     void feladat_eseményeket_köt();
@@ -134,6 +164,7 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     WindowReference<választás> választás_;
     WindowReference<frm_kirakó> kirakó_;
     WindowReference<frm_memory> memória_;
+    WindowReference<frm_kisablak> kisablak_;
 
     /// Number of the newest search: an older one that still runs has been taken over.
     int keresés_ = 0;

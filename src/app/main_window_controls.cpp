@@ -24,6 +24,8 @@ constexpr double search_top = caption_top + caption_height;
 constexpr double hits_top = search_top + row_height + 90;
 constexpr double lookup_bottom = 3320;
 constexpr double lookup_buttons_top = 3860 - row_height;
+constexpr double mini_window_top = 1420;
+constexpr double address_top = 2960;
 constexpr double pairs_top = 4060;
 constexpr double pairs_bottom = 6830;
 constexpr double edit_top = 7370 - row_height;
@@ -55,6 +57,17 @@ Control *never_shown(Control *control) {
     return control;
 }
 
+/// What the makers' page is called; its address is nothing that anybody would want to read.
+const QString készítők_lapja = QStringLiteral("A Zimbora lapja");
+
+/// A label that looks like what it is: a click on it opens something.
+QLabel *link(const QString &caption) {
+    auto *label = new QLabel(QStringLiteral("<a href='#'>%1</a>").arg(caption));
+    label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    label->setAlignment(Qt::AlignCenter);
+    return label;
+}
+
 QAction *separator(QMenu &menu, const char16_t *name) {
     return named(menu.addSeparator(), name);
 }
@@ -84,6 +97,10 @@ szótárvezérlők::szótárvezérlők(ablak &mire, szópárlista &lista)
                    {right_column, search_top, button_width, row_height}, u"Angolról magyarra"),
             placed(mire, new QRadioButton(QStringLiteral("Magyarról angolra")), u"nyelv(1)",
                    {right_column, search_top + row_height, button_width, row_height}, u"Magyarról angolra")},
+      cmd_kisablak(placed(mire, new QPushButton(QStringLiteral("Kisablak")), u"cmd_kisablak",
+                          {right_column, mini_window_top, button_width, row_height}, u"Kisablak")),
+      Label4(placed(mire, link(készítők_lapja), u"Label4", {right_column, address_top, button_width, caption_height},
+                    u"A készítők lapja")),
       kilép(placed(mire, new QPushButton(QStringLiteral("Kilép")), u"kilép",
                    {right_column, lookup_buttons_top, button_width, row_height}, u"Kilép")),
       megoldlist(placed(mire, never_shown(new ListBox), u"megoldlist", {left_column, hits_top, list_width, row_height},
@@ -110,8 +127,8 @@ szótárvezérlők::szótárvezérlők(ablak &mire, szópárlista &lista)
     szómagylist->setFocusPolicy(Qt::NoFocus);
     QWidget *előző = angolszó;
     for (QWidget *következő :
-         std::initializer_list<QWidget *>{szólist, Ok, magyarlist, hozzáad, nyelv[0], nyelv[1], kilép, szószedet,
-                                          sztöröl, szóangtext, szómagytext, módosít}) {
+         std::initializer_list<QWidget *>{szólist, Ok, magyarlist, hozzáad, nyelv[0], nyelv[1], cmd_kisablak, Label4,
+                                          kilép, szószedet, sztöröl, szóangtext, szómagytext, módosít}) {
         QWidget::setTabOrder(előző, következő);
         előző = következő;
     }
@@ -131,7 +148,12 @@ szótármenü::szótármenü(QMenuBar &sor)
       mnufeladatkikérd(named(mnufeladat->addAction(QStringLiteral("&Kikérdezés")), u"mnufeladatkikérd")),
       mnufeladatválaszt(named(mnufeladat->addAction(QStringLiteral("&Választás")), u"mnufeladatválaszt")),
       mnu_fájl_kirakó(named(mnufeladat->addAction(QStringLiteral("&Kirakó")), u"mnu_fájl_kirakó")),
-      mnufeladatmemória(named(mnufeladat->addAction(QStringLiteral("&Memória")), u"mnufeladatmemória")) {
+      mnufeladatmemória(named(mnufeladat->addAction(QStringLiteral("&Memória")), u"mnufeladatmemória")),
+      mnu_info(named(sor.addMenu(QStringLiteral("&Info")), u"mnu_info")),
+      mnu_súgó(named(mnu_info->addAction(QStringLiteral("&Súgó")), u"mnu_súgó")),
+      mnunévjegy(named(mnu_info->addAction(QStringLiteral("&Névjegy")), u"mnunévjegy")),
+      mnu_cim(named(mnu_info->addAction(készítők_lapja), u"mnu_cim")) {
+    mnu_súgó->setShortcut(Qt::Key_F1);
     sor.setObjectName(QStringLiteral("menüsor"));
     for (size_t i = 0; i < mnufájlfájl.size(); ++i) {
         mnufájlfájl[i] = mnufájl->addAction(QString());

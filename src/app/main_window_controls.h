@@ -30,6 +30,9 @@ struct szótárvezérlők {
     QPushButton *hozzáad;
     /// 0 "Angolról magyarra", 1 "Magyarról angolra".
     std::array<QRadioButton *, 2> nyelv;
+    QPushButton *cmd_kisablak;
+    /// The address of the program's makers.
+    QLabel *Label4;
     QPushButton *kilép;
 
     // Never shown: the meanings field of each hit, and the conversion tool.
@@ -66,4 +69,9 @@ struct szótármenü {
     QAction *mnufeladatválaszt;
     QAction *mnu_fájl_kirakó;
     QAction *mnufeladatmemória;
+
+    QMenu *mnu_info;
+    QAction *mnu_súgó;
+    QAction *mnunévjegy;
+    QAction *mnu_cim;
 };

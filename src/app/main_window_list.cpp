@@ -11,6 +11,8 @@ void szótár::lista_eseményeket_köt() {
         if (v_.szómagylist->selected() != v_.szószedet->selected())
             v_.szószedet->select(v_.szómagylist->selected());
     });
+    // A pair is chosen there as in the English list, and may be deleted like there.
+    connect(v_.szómagylist, &ListBox::pressed, &események_, [this] { v_.szószedet->setFocus(); });
     connect(v_.szószedet->verticalScrollBar(), &QScrollBar::valueChanged, v_.szómagylist->verticalScrollBar(),
             &QScrollBar::setValue);
     connect(v_.szómagylist->verticalScrollBar(), &QScrollBar::valueChanged, v_.szószedet->verticalScrollBar(),

@@ -4,26 +4,44 @@
 #include <QEventLoop>
 #include <QScreen>
 #include <QSessionManager>
+#include <QSysInfo>
 #include <QTimer>
+#include <chrono>
+#include <optional>
+#include <utility>
 
 #include "ui/font_sized_style.h"
 #include "ui/fonts.h"
+#include "ui/splash_window.h"
 #include "ui/toolkit_texts.h"
 #include "ui/twips.h"
 
 namespace {
 
 /// 25 steps of this length make an animation of a quarter of a second.
-constexpr int animation_step = 10;
+constexpr std::chrono::milliseconds animation_step(10);
+/// 100 make a glide of a quarter of a second.
+constexpr std::chrono::milliseconds glide_step(2);
 
-QRectF screen_in_twips() {
-    const QRectF pixels = QGuiApplication::primaryScreen()->geometry();
+QRectF in_twips(const QScreen &screen) {
+    const QRectF pixels = screen.geometry();
     return {pixels.topLeft() * twips::per_pixel, pixels.size() * twips::per_pixel};
 }
 
-void wait_an_animation_step() {
+QRectF main_screen() {
+    return in_twips(*QGuiApplication::primaryScreen());
+}
+
+QVector<QRectF> all_screens() {
+    QVector<QRectF> places;
+    for (const QScreen *screen : QGuiApplication::screens())
+        places.append(in_twips(*screen));
+    return places;
+}
+
+void wait_without_input(std::chrono::milliseconds time) {
     QEventLoop loop;
-    QTimer::singleShot(animation_step, &loop, &QEventLoop::quit);
+    QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -37,12 +55,13 @@ void set_up_toolkit() {
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-Program::Program(const ProgramFolderPlaces &places)
-    : fitting_(reference_, screen_in_twips),
-      main_window_({state_, reference_, fitting_, message_boxes_, file_dialogs_, drive_, random_, settings_,
-                    wait_an_animation_step, [] { QCoreApplication::quit(); }}),
+Program::Program(ProgramFolderPlaces places)
+    : places_(std::move(places)),
+      fitting_(reference_, main_screen),
+      main_window_({state_, reference_, fitting_, message_boxes_, file_dialogs_, drive_, random_, settings_, *top_most_,
+                    watch_clipboard, all_screens, [] { wait_without_input(animation_step); },
+                    [] { wait_without_input(glide_step); }, [] { QCoreApplication::quit(); }}),
       termination_([this] { main_window_.kilép_Click(); }) {
-    state_.programkönyvtár = find_program_folder(places);
     message_boxes_.set_window(&main_window_);
     file_dialogs_.set_window(&main_window_);
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &main_window_, [this](QSessionManager &session) {
@@ -57,8 +76,15 @@ Program::Program(const ProgramFolderPlaces &places)
 void Program::start(const QString &command_line) {
     // Its files lie there; one that cannot be written is told when it is.
     static_cast<void>(drive_.make_root());
+    std::optional<FrmFolyamat> splash;
+    if (program_folder_is_missing(places_)) {
+        splash.emplace(fitting_, QCoreApplication::applicationVersion(), QSysInfo::prettyProductName());
+        splash->show();
+        QCoreApplication::processEvents();
+    }
+    state_.programkönyvtár = find_program_folder(places_);
     main_window_.Form_Load(command_line);
-    // A message at the start may have been answered by a request to end.
-    if (!main_window_.vége())
+    // A message at the start may have been answered by a request to end; the mini window stands in its place.
+    if (!main_window_.vége() && state_.kisablakmód != 1)
         main_window_.show();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
 #include "app/global.h"
 #include "app/main_window.h"
@@ -9,6 +10,7 @@
 #include "platform/drive_c.h"
 #include "platform/system_random.h"
 #include "platform/termination_signal.h"
+#include "platform/top_most.h"
 #include "ui/qt_dialogs.h"
 #include "ui/reference_window.h"
 #include "ui/window_fitting.h"
@@ -16,7 +18,7 @@
 /// The program's parts, made and wired. One object a process, made after the QApplication.
 class Program final {
   public:
-    explicit Program(const ProgramFolderPlaces &places);
+    explicit Program(ProgramFolderPlaces places);
 
     /// Shows the main window, with the word list that `command_line` names if it names one. To be called from the event
     /// loop: a message that it shows may be answered by a request to end the program.
@@ -25,6 +27,7 @@ class Program final {
     [[nodiscard]] szótár &main_window() { return main_window_; }
 
   private:
+    const ProgramFolderPlaces places_;
     global::programállapot state_;
     QtMessageBoxes message_boxes_;
     QtFileDialogs file_dialogs_;
@@ -33,6 +36,7 @@ class Program final {
     global::beállítástár settings_;
     frm_referencia reference_;
     Module_hasznos fitting_;
+    std::unique_ptr<TopMost> top_most_ = make_top_most();
     szótár main_window_;
     TerminationSignal termination_;
 };

@@ -24,6 +24,9 @@ struct ProgramFolderPlaces {
 /// the same: the missing dictionary is then told at the first search.
 [[nodiscard]] QString find_program_folder(const ProgramFolderPlaces &places);
 
+/// True when the folder in the user's documents applies and has still to be made: at the very first start.
+[[nodiscard]] bool program_folder_is_missing(const ProgramFolderPlaces &places);
+
 /// Names of the two dictionaries in the program folder.
 inline const QString english_hungarian_file = QStringLiteral("am.txt");
 inline const QString hungarian_english_file = QStringLiteral("ma.txt");

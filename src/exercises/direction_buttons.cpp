@@ -27,7 +27,9 @@ irány iránygombok::kijelölt() const {
     return static_cast<irány>(melyik - nyelvoptb.begin());
 }
 
-void iránygombok::kijelöl(int index) {
-    const bool van = index >= 0 && index < static_cast<int>(nyelvoptb.size());
-    nyelvoptb[static_cast<size_t>(van ? index : alap)]->setChecked(true);
+void iránygombok::kijelöl(const QVariant &index) {
+    bool szám = false;
+    const int i = index.toInt(&szám);
+    const bool van = szám && i >= 0 && i < static_cast<int>(nyelvoptb.size());
+    nyelvoptb[static_cast<size_t>(van ? i : alap)]->setChecked(true);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRadioButton>
+#include <QVariant>
 #include <array>
 #include <functional>
 
@@ -17,8 +18,8 @@ struct iránygombok {
     void elhelyez(ablak &mire, const std::function<QRectF(int)> &hol);
 
     [[nodiscard]] irány kijelölt() const;
-    /// Selects the button of this index; of any other, the one of the default direction.
-    void kijelöl(int index);
+    /// Selects the button of this index; of any other and of what is no number, the one of the default direction.
+    void kijelöl(const QVariant &index);
 
     /// Index of the button that is selected when nothing was stored.
     static constexpr int alap = 1;

@@ -6,8 +6,9 @@
 /// A text and, beside it, the letters of the Hungarian alphabet that it is made of: "sz" or "dzs" is one letter. The
 /// letters follow from `value` and `csere` alone; the operations on characters leave them as they are.
 ///
-/// A character is one unit of a QString. Positions count from 1; a length or position that is out of range is limited
-/// to the nearest one in range, so that no operation fails. A property is read without and set with an argument.
+/// Positions and lengths count units of a QString; a letter never ends within what is read as one character, such as
+/// one that needs two units. Positions count from 1; a length or position that is out of range is limited to the
+/// nearest one in range, so that no operation fails. A property is read without and set with an argument.
 ///
 /// Which letters have two and three characters, and how a long one is written ("ssz"), is ruled by A magyar helyesírás
 /// szabályai, the orthography of the Hungarian Academy of Sciences.
@@ -16,9 +17,6 @@ class kszöveg final {
     /// Codes of `szövegnyelv`.
     static constexpr int magyar = 2;
     static constexpr int angol = 4;
-
-    kszöveg() = default;
-    explicit kszöveg(const QString &szöveg) { value(szöveg); }
 
     // The text and its language
     [[nodiscard]] const QString &value() const { return szöveg_; }

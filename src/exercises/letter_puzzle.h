@@ -30,8 +30,6 @@ class kirakójáték final {
 
     /// Holds a word put together from the letters against the answer, exactly. A wrong one marks the pair as failed.
     [[nodiscard]] bool ellenőriz(const QString &kirakott);
-    /// True when every pair has been asked.
-    [[nodiscard]] bool végére_ért() const { return sor_.végére_ért(); }
 
   private:
     kérdéssor sor_;

@@ -19,7 +19,7 @@ frm_kirakó_beáll::frm_kirakó_beáll(const feladatkörnyezet &környezet)
 }
 
 void frm_kirakó_beáll::betölt() {
-    irány_.kijelöl(k_.beállítások.beállításolvas(*this, nyelv_kulcs, iránygombok::alap).toInt());
+    irány_.kijelöl(k_.beállítások.beállításolvas(*this, nyelv_kulcs, iránygombok::alap));
 }
 
 void frm_kirakó_beáll::ment() {

@@ -32,10 +32,6 @@ constexpr int legkisebb_pont = 7;
 /// Ctrl and an arrow key move a tile by this part of its height.
 constexpr double lépés = 0.25;
 
-QPointF egész(const QPointF &hol) {
-    return hol.toPoint();
-}
-
 }  // namespace
 
 frm_kirakó::frm_kirakó(const feladatkörnyezet &környezet)
@@ -57,6 +53,7 @@ frm_kirakó::frm_kirakó(const feladatkörnyezet &környezet)
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
     connect(pic_keret_, &ChoosablePicture::chosen, this, [this] { pic_keret_Click(); });
     alapgombbeállít(cmd_ok_);
+    escapezár();
     elhelyezés();
     elrendez();
     újrakezd();
@@ -71,7 +68,7 @@ void frm_kirakó::elhelyezés() {
     elhelyez(Label_info_, infóhely);
     Label_főcím_->setAlignment(Qt::AlignCenter);
     Label_info_->setAlignment(Qt::AlignCenter);
-    // The keyboard closes the tiles up with the space key on any of them.
+    // A tile leaves the space key to the frame, which closes the tiles up.
     pic_keret_->setFocusPolicy(Qt::NoFocus);
 }
 
@@ -118,18 +115,16 @@ void frm_kirakó::betűket_rak() {
         lap->setObjectName(QStringLiteral("Label_betű(%1)").arg(i));
         lap->setAccessibleName(lap->text() == u"_" ? QStringLiteral("szóköz") : lap->text() + QStringLiteral(" betű"));
         lap->setFont(betűtípus);
-        connect(lap, &LetterTile::mouse_pressed, this,
-                [this](const QPointF &hol) { Label_betű_MouseDown(egész(hol)); });
+        connect(lap, &LetterTile::mouse_pressed, this, [this](const QPointF &hol) { Label_betű_MouseDown(hol); });
         connect(lap, &LetterTile::mouse_moved, this,
                 [this, i](Qt::MouseButtons gombok, const QPointF &hol) { Label_betű_MouseMove(i, gombok, hol); });
         Label_betű_.append(lap);
         lap->show();
     }
-    lapokat_igazít();
-    pic_keret_->nextInFocusChain()->setFocus();
+    lapokat_igazít()->setFocus();
 }
 
-void frm_kirakó::lapokat_igazít() {
+QWidget *frm_kirakó::lapokat_igazít() {
     QVector<LetterTile *> balról;
     for (int i = 0; i < Label_betű_.size(); ++i) {
         Label_betű_[i]->setGeometry(twips::to_pixels(lapok_.lapok()[i].hely));
@@ -137,13 +132,11 @@ void frm_kirakó::lapokat_igazít() {
     }
     // In the order of the letters, Tab and assistive programs would give the answer away.
     std::stable_sort(balról.begin(), balról.end(), [](const auto *a, const auto *b) { return a->x() < b->x(); });
-    QWidget *előző = pic_keret_;
-    for (LetterTile *lap : std::as_const(balról)) {
-        lap->raise();
-        setTabOrder(előző, lap);
-        előző = lap;
+    for (qsizetype i = 0; i < balról.size(); ++i) {
+        balról[i]->raise();
+        setTabOrder(balról[i], i + 1 < balról.size() ? static_cast<QWidget *>(balról[i + 1]) : cmd_ok_);
     }
-    setTabOrder(előző, cmd_ok_);
+    return balról.isEmpty() ? static_cast<QWidget *>(cmd_ok_) : balról.front();
 }
 
 QString frm_kirakó::kirakott_szó() {
@@ -164,9 +157,13 @@ void frm_kirakó::Label_betű_MouseMove(int i, Qt::MouseButtons gombok, const QP
 }
 
 void frm_kirakó::cmd_ok_Click() {
+    if (vége_)
+        return;
     if (játék_.ellenőriz(kirakott_szó())) {
         k_.üzenetmutat(üzenetidő, {játék_.pár().angol + QStringLiteral(" - ") + játék_.pár().magyar});
-        következő();
+        // The program may have ended meanwhile.
+        if (isVisible())
+            következő();
         return;
     }
     k_.üzenetmutat(üzenetidő,
@@ -179,11 +176,7 @@ void frm_kirakó::mnu_fájl_beáll_Click() {
 
 void frm_kirakó::keyPressEvent(QKeyEvent *event) {
     const auto i = static_cast<int>(Label_betű_.indexOf(focusWidget()));
-    if (event->key() == Qt::Key_Escape)
-        close();
-    else if (i >= 0 && event->key() == Qt::Key_Space)
-        kirakott_szó();
-    else if (i < 0 || !nyíl(*event, i))
+    if (i < 0 || !nyíl(*event, i))
         ablak::keyPressEvent(event);
 }
 

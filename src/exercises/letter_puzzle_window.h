@@ -33,14 +33,15 @@ class frm_kirakó final : public ablak {
     /// Asks the next pair; without one the window closes.
     void következő();
     void betűket_rak();
-    /// Moves the tiles to where they lie; the keyboard reaches them from left to right.
-    void lapokat_igazít();
+    /// Moves the tiles to where they lie; Tab goes through them as they lie now, from left to right. Returns the
+    /// leftmost; without tiles, the button.
+    QWidget *lapokat_igazít();
     QString kirakott_szó();
     void mozgat(int i, const QPointF &hová);
     /// Acts on an arrow key while tile `i` has the focus; true when the key was one.
     bool nyíl(const QKeyEvent &billentyű, int i);
 
-    void Label_betű_MouseDown(const QPointF &hol) { fogás_ = hol; }
+    void Label_betű_MouseDown(const QPointF &hol) { fogás_ = hol.toPoint(); }
     void Label_betű_MouseMove(int i, Qt::MouseButtons gombok, const QPointF &hol);
     void pic_keret_Click() { kirakott_szó(); }
     void mnu_fájl_beáll_Click();

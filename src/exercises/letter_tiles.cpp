@@ -36,9 +36,11 @@ double betűlapok::összes_szélesség() const {
 bool betűlapok::kever(RandomNumbers &véletlen) {
     for (int i = 0; i < lapok_.size(); ++i) {
         QRectF &hely = lapok_[i].hely;
+        if (hely.height() > keret_.height())
+            return false;
         int húzás = 0;
         do {
-            if (hely.height() > keret_.height() || húzás++ == legtöbb_húzás)
+            if (húzás++ == legtöbb_húzás)
                 return false;
             const int bal = static_cast<int>(véletlen.next() * (keret_.width() - hely.width()));
             const int fent = static_cast<int>(véletlen.next() * (keret_.height() - hely.height()));
@@ -91,14 +93,17 @@ QString betűlapok::kirakott_szó() {
     // Tiles with equal left edges keep their order.
     std::stable_sort(sorrend.begin(), sorrend.end(),
                      [this](int a, int b) { return lapok_[a].hely.left() < lapok_[b].hely.left(); });
+    const double hossz = összes_szélesség();
+    // A row that is longer than the frame is pushed together until it ends where the frame does.
+    const double sűrítés = hossz > keret_.width() ? keret_.width() / hossz : 1;
     QString szó;
     QPointF hová;
     for (const int i : std::as_const(sorrend)) {
         QRectF &hely = lapok_[i].hely;
         if (i == sorrend.front())
-            hová = {std::min(hely.left(), keret_.width() - összes_szélesség()), hely.top()};
+            hová = {std::max(std::min(hely.left(), keret_.width() - hossz), 0.0), hely.top()};
         hely.moveTo(hová);
-        hová.rx() += hely.width();
+        hová.rx() += hely.width() * sűrítés;
         szó += lapok_[i].betű;
     }
     return szó;

@@ -36,7 +36,8 @@ class betűlapok final {
     void mozgat(int i, const QPointF &hová);
 
     /// Closes the tiles up to a row without gaps, in the order of their left edges, from where the leftmost lies; where
-    /// the row would reach out of the frame on the right, it begins as much further left. Returns the word.
+    /// the row would reach out of the frame on the right, it begins as much further left. In a row that is longer than
+    /// the frame each tile covers part of the one before. Returns the word.
     QString kirakott_szó();
 
     /// Draws for the place of one tile before the letters are made smaller.

@@ -46,22 +46,23 @@ memóriajáték::fordulat memóriajáték::felfordít(int i) {
     kártyák_[i].felfedett = true;
     if (++felfordított_ < 2)
         return fordulat::első;
+    std::array<int, 2> lapok{};
     size_t hányadik = 0;
     for (int k = 0; k < kártyák_.size(); ++k) {
         if (felfedett(k) && játékban(k))
-            pár_.at(hányadik++) = k;
+            lapok.at(hányadik++) = k;
     }
-    if (!párvizsgál())
+    if (!párvizsgál(lapok))
         return fordulat::tévedés;
+    pár_ = lapok;
     for (const int k : pár_)
         kártyák_[k].játékban = false;
     return fordulat::pár;
 }
 
-/// Whether the two cards that are turned up belong together.
-bool memóriajáték::párvizsgál() const {
-    const QString &a = szöveg(pár_[0]);
-    const QString &b = szöveg(pár_[1]);
+bool memóriajáték::párvizsgál(const std::array<int, 2> &lapok) const {
+    const QString &a = szöveg(lapok[0]);
+    const QString &b = szöveg(lapok[1]);
     return std::any_of(játékpárok_.cbegin(), játékpárok_.cend(), [&](const Szópár &egyik) {
         return (egyik.angol == a && egyik.magyar == b) || (egyik.magyar == a && egyik.angol == b);
     });

@@ -24,6 +24,7 @@ class memóriajáték final {
 
     [[nodiscard]] int kártyák() const { return static_cast<int>(kártyák_.size()); }
     [[nodiscard]] const QString &szöveg(int i) const { return kártyák_.at(i).szöveg; }
+    /// Whether the card shows its text; stays true for a card that is out of the game.
     [[nodiscard]] bool felfedett(int i) const { return kártyák_.at(i).felfedett; }
     /// False once the card's pair has been found.
     [[nodiscard]] bool játékban(int i) const { return kártyák_.at(i).játékban; }
@@ -35,7 +36,7 @@ class memóriajáték final {
     /// Turns a card up unless it is up or found already. felfordított() must be below 2. The cards of a found pair are
     /// out of the game from now on.
     fordulat felfordít(int i);
-    /// The two cards that were found last.
+    /// The two cards of the pair that was found last.
     [[nodiscard]] const std::array<int, 2> &pár() const { return pár_; }
     /// Covers every card that is turned up and in the game, and begins the next try.
     void lefed();
@@ -60,7 +61,8 @@ class memóriajáték final {
         bool játékban = true;
     };
 
-    [[nodiscard]] bool párvizsgál() const;
+    /// Whether two cards belong together.
+    [[nodiscard]] bool párvizsgál(const std::array<int, 2> &lapok) const;
 
     QVector<Szópár> szópárok_;
     RandomNumbers &véletlen_;

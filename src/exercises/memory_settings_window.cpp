@@ -19,7 +19,7 @@ constexpr int legrövidebb = 10;
 constexpr int leghosszabb = 40;
 constexpr int alapidő = 20;
 
-/// Shows its arrows alone: the value is told by `label_idő`.
+/// Shows no text: the value is told by `label_idő`.
 class UpDown final : public QSpinBox {
   public:
     UpDown() { lineEdit()->setReadOnly(true); }
@@ -76,13 +76,15 @@ void frm_memory_beáll::elhelyezés() {
 }
 
 void frm_memory_beáll::beállbetölt() {
-    const int tárolt = k_.beállítások.beállításolvas(*this, méret_kulcs, alapméret).toInt();
-    const bool van = tárolt >= 0 && tárolt < static_cast<int>(Option_méret_.size());
+    bool szám = false;
+    const int tárolt = k_.beállítások.beállításolvas(*this, méret_kulcs, alapméret).toInt(&szám);
+    const bool van = szám && tárolt >= 0 && tárolt < static_cast<int>(Option_méret_.size());
     const int index = legnagyobb_játéktér(van ? tárolt : alapméret, párok_);
     for (size_t i = 0; i < Option_méret_.size(); ++i)
         Option_méret_[i]->setEnabled(játékterek[i].párok() <= párok_);
     Option_méret_[static_cast<size_t>(index)]->setChecked(true);
-    UpDown_idő_->setValue(k_.beállítások.beállításolvas(*this, idő_kulcs, alapidő).toInt());
+    const int idő = k_.beállítások.beállításolvas(*this, idő_kulcs, alapidő).toInt(&szám);
+    UpDown_idő_->setValue(szám ? idő : alapidő);
     UpDown_idő_Change();
     label_idő_->setAutoFillBackground(true);
 }

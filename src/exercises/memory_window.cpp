@@ -60,6 +60,7 @@ frm_memory::frm_memory(const feladatkörnyezet &környezet)
     Label_feladat_->setAlignment(Qt::AlignCenter);
     Label_info_->setAlignment(Qt::AlignCenter);
     Picture_minta_->hide();
+    escapezár();
     if (játék_.elég()) {
         újjáték();
         return;
@@ -169,7 +170,9 @@ void frm_memory::Timer_lefed_Timer() {
 
 void frm_memory::páreltüntet() {
     const int játszma = játszma_;
-    for (const int i : játék_.pár()) {
+    // A copy: the next pair may be found while this one shrinks.
+    const std::array<int, 2> pár = játék_.pár();
+    for (const int i : pár) {
         if (!zsugorít(i, játszma))
             return;
     }
@@ -225,10 +228,6 @@ void frm_memory::mnu_fájl_beáll_Click() {
 }
 
 void frm_memory::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Escape) {
-        kilépés();
-        return;
-    }
     QVector<QRect> helyek;
     int innen = -1;
     for (const ChoosablePicture *kártya : std::as_const(pic_kártya_)) {

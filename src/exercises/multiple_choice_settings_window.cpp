@@ -58,7 +58,7 @@ void választás_beáll::elhelyezés() {
 }
 
 void választás_beáll::betölt() {
-    irány_.kijelöl(k_.beállítások.beállításolvas(*this, nyelv_kulcs, iránygombok::alap).toInt());
+    irány_.kijelöl(k_.beállítások.beállításolvas(*this, nyelv_kulcs, iránygombok::alap));
     const int szám = k_.beállítások.beállításolvas(*this, választék_kulcs, választójáték::legtöbb).toInt();
     Slider_választékszám_->setValue(std::min(szám, párok_száma_()));
     Label_választék_száma_->setText(QString::number(Slider_választékszám_->value()));

@@ -216,10 +216,11 @@ void választás::mnu_fájl_beáll_Click() {
 
 void választás::keyPressEvent(QKeyEvent *event) {
     const int k = event->key() - Qt::Key_1;
-    if (k >= 0 && k < pic_kínálat_.size())
-        választ(k);
-    else
+    if (k < 0 || k >= pic_kínálat_.size())
         ablak::keyPressEvent(event);
+    // The repeats of a key that is held down would answer the next question, too.
+    else if (!event->isAutoRepeat())
+        választ(k);
 }
 
 void választás::showEvent(QShowEvent *event) {

@@ -47,12 +47,17 @@ kikérdező::kikérdező(const feladatkörnyezet &környezet)
       Label_felirat_(named(new QLabel, u"Label_felirat")) {
     setWindowTitle(QStringLiteral("Kikérdezés"));
     elhelyezés();
-    irány_.kijelöl(k_.beállítások.beállításolvas(*this, nyelv_kulcs, iránygombok::alap).toInt());
-    for (QRadioButton *gomb : irány_.nyelvoptb)
+    irány_.kijelöl(k_.beállítások.beállításolvas(*this, nyelv_kulcs, iránygombok::alap));
+    for (QRadioButton *gomb : irány_.nyelvoptb) {
         connect(gomb, &QRadioButton::toggled, this, [this](bool kijelölt) {
             if (kijelölt)
                 nyelvoptb_Click();
         });
+        // Whether the quiz begins anew or not. Afterwards, because an arrow key that chooses a button gives it the
+        // focus after its click.
+        connect(
+            gomb, &QRadioButton::clicked, txt_megoldás_, [this] { txt_megoldás_->setFocus(); }, Qt::QueuedConnection);
+    }
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
     connect(cmd_kilép_, &QPushButton::clicked, this, [this] { cmd_kilép_Click(); });
     alapgombbeállít(cmd_ok_);
@@ -139,11 +144,8 @@ void kikérdező::eredmény() {
 }
 
 void kikérdező::nyelvoptb_Click() {
-    if (!quiz_.irányváltás(irány_.kijelölt()))
-        return;
-    kiírás();
-    // Afterwards, because an arrow key that chooses a button gives it the focus after its click.
-    QTimer::singleShot(0, txt_megoldás_, [this] { txt_megoldás_->setFocus(); });
+    if (quiz_.irányváltás(irány_.kijelölt()))
+        kiírás();
 }
 
 void kikérdező::cmd_kilép_Click() {

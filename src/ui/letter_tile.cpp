@@ -20,8 +20,6 @@ constexpr double roundness = 0.12;
 }  // namespace
 
 LetterTile::LetterTile(const QString &letter, QWidget *parent) : QLabel(letter, parent) {
-    setTextFormat(Qt::PlainText);
-    setAlignment(Qt::AlignCenter);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::OpenHandCursor);
 }
@@ -42,14 +40,9 @@ void LetterTile::mouseMoveEvent(QMouseEvent *event) {
     Q_EMIT mouse_moved(event->buttons(), event->position() * twips::per_pixel);
 }
 
-void LetterTile::focusInEvent(QFocusEvent *event) {
-    QLabel::focusInEvent(event);
-    update();
-}
-
-void LetterTile::focusOutEvent(QFocusEvent *event) {
-    QLabel::focusOutEvent(event);
-    update();
+void LetterTile::mouseReleaseEvent(QMouseEvent *event) {
+    // Not the business of what the tile lies on.
+    event->accept();
 }
 
 void LetterTile::paintEvent(QPaintEvent *) {

@@ -100,6 +100,14 @@ QString ListBox::item(int index) const {
     return model()->index(index, modelColumn()).data().toString();
 }
 
+QStringList ListBox::items() const {
+    QStringList all;
+    all.reserve(count());
+    for (int i = 0; i < count(); ++i)
+        all.append(item(i));
+    return all;
+}
+
 int ListBox::selected() const {
     const QModelIndex current = currentIndex();
     return current.isValid() ? current.row() : -1;
@@ -116,6 +124,12 @@ void ListBox::currentChanged(const QModelIndex &current, const QModelIndex &prev
     QListView::currentChanged(current, previous);
     if (!selecting_)
         announce();
+}
+
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex &index, const QEvent *event) const {
+    const auto command = QListView::selectionCommand(index, event);
+    // With Ctrl the toolkit takes the highlight off the selected item, which stays the selected one.
+    return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
 }
 
 void ListBox::mousePressEvent(QMouseEvent *event) {

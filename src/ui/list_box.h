@@ -21,6 +21,7 @@ class ListBox : public QListView {
 
     [[nodiscard]] int count() const;
     [[nodiscard]] QString item(int index) const;
+    [[nodiscard]] QStringList items() const;
     /// Index of the selected item; −1 when there is none.
     [[nodiscard]] int selected() const;
     /// Selects an item; no item when `index` is −1.
@@ -33,6 +34,8 @@ class ListBox : public QListView {
 
   protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                                       const QEvent *event) const override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 

@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "ui/twips.h"
 
@@ -60,8 +61,14 @@ void PictureBox::set_background(const QColor &colour) {
 void PictureBox::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     if (!picture_.isNull()) {
+        // One that fits but for a rounded pixel stays as sharp as it is.
+        const QSizeF rest = size() - picture_.deviceIndependentSize();
+        const bool fits = std::abs(rest.width()) <= 1 && std::abs(rest.height()) <= 1;
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawPixmap(rect(), picture_);
+        if (fits)
+            painter.drawPixmap(QPointF(0, 0), picture_);
+        else
+            painter.drawPixmap(rect(), picture_);
     }
     for (const Printed &one : printed_) {
         painter.setFont(one.font);

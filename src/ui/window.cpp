@@ -36,6 +36,24 @@ class HideWatch final : public QObject {
     std::function<void()> hidden_;
 };
 
+bool is_enter(const QKeyEvent &key) {
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
+/// Lets a button press once for Enter that is held down. A default button that has the focus takes the key itself, and
+/// each repeat of it anew.
+class OneEnter final : public QObject {
+  public:
+    explicit OneEnter(QPushButton *button) : QObject(button) { button->installEventFilter(this); }
+
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        return key.isAutoRepeat() && is_enter(key);
+    }
+};
+
 }  // namespace
 
 ablak::ablak(const QString &név, menü van_menü, keret milyen)
@@ -104,6 +122,8 @@ void ablak::elhelyez(QWidget *vezérlő, const QRectF &hely) {
         vezérlő->setParent(felület_);
         vezérlő->setVisible(látszik);
         vezérlők_.append(vezérlő);
+        if (auto *gomb = qobject_cast<QPushButton *>(vezérlő))
+            new OneEnter(gomb);
     }
     helyek_.insert(vezérlő, hely);
     vezérlő->setGeometry(twips::to_pixels(hely));
@@ -130,13 +150,16 @@ void ablak::levesz(QWidget *vezérlő) {
 }
 
 void ablak::keyPressEvent(QKeyEvent *event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool escape = event->key() == Qt::Key_Escape && mégsegomb_;
+    const bool enter = is_enter(*event);
+    const bool escape = event->key() == Qt::Key_Escape && (mégsegomb_ || escape_zár_);
     // A key that is held down presses a button once: its repeats would answer the next question, too.
     if (event->isAutoRepeat() && (enter || escape))
         return;
     if (escape) {
-        mégsegomb_->click();
+        if (mégsegomb_)
+            mégsegomb_->click();
+        else
+            close();
         return;
     }
     if (!enter) {

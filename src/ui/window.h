@@ -56,6 +56,8 @@ class ablak : public QWidget {
 
     /// The button that Escape presses; null for none.
     void mégsegombbeállít(QPushButton *gomb) { mégsegomb_ = gomb; }
+    /// Escape closes the window, which has no button for it.
+    void escapezár() { escape_zár_ = true; }
 
     /// Shows the window and returns when it is hidden or closed; the program's other windows take no input meanwhile.
     void mutatmodálisan();
@@ -75,6 +77,7 @@ class ablak : public QWidget {
     QWidget *felület_ = nullptr;
     QPushButton *alapgomb_ = nullptr;
     QPushButton *mégsegomb_ = nullptr;
+    bool escape_zár_ = false;
     QList<QWidget *> vezérlők_;
     QHash<const QWidget *, QRectF> helyek_;
     QColor háttérszín_;

@@ -92,7 +92,7 @@ constexpr double legkisebb_pont = 8;
 /// In a smaller size a line is hard to read from where one sits; a text of several words is broken into lines then.
 constexpr double olvasható_pont = 14;
 /// So is a line that leaves most of a high box empty: one that is lower than this part of it.
-constexpr double legtöbb_sor = 5;
+constexpr double olvasható_rész = 1.0 / 5;
 /// No picture box holds more letters that could be read.
 constexpr int leghosszabb = 600;
 
@@ -179,7 +179,7 @@ void képbe(PictureBox &hova, const QString &szöveg) {
     while (elfér(próba.méret(pont, látszó), hely))
         ++pont;
     Betördelt kész{látszó, pont - 1};
-    const double olvasható = std::max(olvasható_pont, hely.height() / twips::per_point / legtöbb_sor);
+    const double olvasható = std::max(olvasható_pont, hely.height() / twips::per_point * olvasható_rész);
     if (kész.pont < olvasható && (látszó.contains(u' ') || kész.pont < legkisebb_pont))
         kész = sorokban(látszó, hely, std::max(kész.pont, legkisebb_pont), próba);
     hova.setFont(próba.betű(kész.pont));

@@ -16,6 +16,7 @@
 
 #include "app/main_window.h"
 #include "support/dictionary_for_tests.h"
+#include "support/fake_desktop.h"
 #include "support/fake_dialogs.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
@@ -39,9 +40,11 @@ class MainWindowTest : public testing::Test {
 
     /// Loads and shows the window, with `command_line`.
     void start(const QString &command_line = {}) {
-        window_ = std::make_unique<szótár>(szótárkörnyezet{state_, reference_, fitting_, boxes_, dialogs_,
-                                                           DriveC(place("c")), random_, settings_,
-                                                           [this] { ++animation_steps_; }, [this] { ended_ = true; }});
+        window_ = std::make_unique<szótár>(
+            szótárkörnyezet{state_, reference_, fitting_, boxes_, dialogs_, DriveC(place("c")), random_, settings_,
+                            top_most_, [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
+                            [this] { return QVector<QRectF>{screen_}; }, [this] { ++animation_steps_; },
+                            [this] { ++glide_steps_; }, [this] { ended_ = true; }});
         window_->Form_Load(command_line);
         window_->show();
         QApplication::setActiveWindow(window_.get());
@@ -102,7 +105,10 @@ class MainWindowTest : public testing::Test {
     FakeFileDialogs dialogs_;
     SeededRandom random_;
     global::beállítástár settings_{place("settings.ini")};
+    FakeTopMost top_most_;
+    FakeClipboard clipboard_;
     int animation_steps_ = 0;
+    int glide_steps_ = 0;
     bool ended_ = false;
     std::unique_ptr<szótár> window_;
 };

@@ -1,0 +1,27 @@
+#include "lookup/screen_place.h"
+
+#include <algorithm>
+#include <limits>
+
+QPointF képernyőre(const QPointF &hol, const QSizeF &ablak, const QVector<QRectF> &képernyők) {
+    QPointF legjobb = hol;
+    double legrövidebb = std::numeric_limits<double>::infinity();
+    for (const QRectF &képernyő : képernyők) {
+        // The right and bottom edges belong to the next screen.
+        if (hol.x() >= képernyő.left() && hol.x() < képernyő.right() && hol.y() >= képernyő.top() &&
+            hol.y() < képernyő.bottom())
+            return hol;
+        const QPointF benne = képernyőbe(hol, ablak, képernyő);
+        const QPointF út = benne - hol;
+        if (const double hossz = QPointF::dotProduct(út, út); hossz < legrövidebb) {
+            legrövidebb = hossz;
+            legjobb = benne;
+        }
+    }
+    return legjobb;
+}
+
+QPointF képernyőbe(const QPointF &hol, const QSizeF &ablak, const QRectF &képernyő) {
+    return {std::max(std::min(hol.x(), képernyő.right() - ablak.width()), képernyő.left()),
+            std::max(std::min(hol.y(), képernyő.bottom() - ablak.height()), képernyő.top())};
+}
