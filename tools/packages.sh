@@ -4,6 +4,7 @@
 build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev libgl-dev qt6-translations-l10n zlib1g-dev
+    qt6-webengine-dev
     pkg-config libxcb1-dev libxcb-xfixes0-dev
     fonts-liberation2 dict-freedict-eng-hun dict-freedict-hun-eng
 )

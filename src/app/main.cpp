@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "app/program.h"
+#include "platform/display_system.h"
 
 namespace {
 
@@ -18,6 +19,7 @@ ProgramFolderPlaces program_folder_places() {
 }  // namespace
 
 int main(int argc, char *argv[]) {
+    choose_display_system();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Zimbora"));
     QApplication::setApplicationVersion(QStringLiteral(ZIMBORA_VERSION));

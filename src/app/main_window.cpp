@@ -36,7 +36,8 @@ szótár::szótár(szótárkörnyezet környezet)
       kisablak_([this] {
           return std::make_unique<frm_kisablak>(kisablakkörnyezet{*this, k_.állapot, k_.hasznos, k_.üzenetek,
                                                                   k_.legfelül, k_.vágólap, k_.képernyők, k_.siklásköz});
-      }) {
+      }),
+      súgó_([this] { return új_súgó(); }) {
     setWindowTitle(QStringLiteral("névtelen szószedet"));
     méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
     háttérszínbeállít(k_.referencia.háttérszín());
@@ -85,6 +86,8 @@ void szótár::kilép_Click() {
     hide();
     if (kisablak_.loaded())
         kisablak_.get().hide();
+    if (súgó_.loaded())
+        súgó_.get().hide();
     k_.vége();
 }
 

@@ -15,11 +15,11 @@
 #include "exercises/multiple_choice_window.h"
 #include "exercises/typed_quiz_window.h"
 #include "exercises/word_list_reader.h"
+#include "lookup/help_window.h"
 #include "lookup/mini_window.h"
 #include "platform/dialogs.h"
 #include "platform/drive_c.h"
 #include "platform/random_numbers.h"
-#include "ui/about_window.h"
 #include "ui/reference_window.h"
 #include "ui/result_message_window.h"
 #include "ui/window.h"
@@ -43,6 +43,8 @@ struct szótárkörnyezet {
     std::function<std::unique_ptr<ClipboardWatch>()> vágólap;
     /// Places of all screens, in twips.
     std::function<QVector<QRectF>()> képernyők;
+    /// Makes the browser of the help viewer.
+    WebBrowserFactory böngésző;
     /// Lets a moment pass between two steps of an animation, and between two of a glide, which has four times as many.
     std::function<void()> lépésköz;
     std::function<void()> siklásköz;
@@ -136,8 +138,13 @@ class szótár final : public ablak, private szószedetablak, private szószedet
 
     // Help and information (main_window_info.cpp)
     void info_eseményeket_köt();
+    void mnu_súgó_Click();
     void mnunévjegy_Click();
+    void mnu_cim_Click();
+    void Label4_Click() { mnu_cim_Click(); }
     void rendszeradatokat_mutat();
+    void rövid_üzenetet_mutat(const QString &szöveg);
+    [[nodiscard]] std::unique_ptr<frm_súgó> új_súgó();
 
     // The exercises (main_window_exercises.cpp)
     void feladat_eseményeket_köt();
@@ -165,6 +172,7 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     WindowReference<frm_kirakó> kirakó_;
     WindowReference<frm_memory> memória_;
     WindowReference<frm_kisablak> kisablak_;
+    WindowReference<frm_súgó> súgó_;
 
     /// Number of the newest search: an older one that still runs has been taken over.
     int keresés_ = 0;

@@ -1,11 +1,39 @@
 #include <QCoreApplication>
 
 #include "app/main_window.h"
+#include "ui/about_window.h"
 #include "ui/system_description.h"
 #include "ui/text_window.h"
+#include "ui/timed_text_window.h"
+
+namespace {
+
+constexpr int rövid_üzenet_ideje = 5000;
+
+}  // namespace
 
 void szótár::info_eseményeket_köt() {
+    connect(m_.mnu_súgó, &QAction::triggered, &események_, [this] { mnu_súgó_Click(); });
     connect(m_.mnunévjegy, &QAction::triggered, &események_, [this] { mnunévjegy_Click(); });
+    connect(m_.mnu_cim, &QAction::triggered, &események_, [this] { mnu_cim_Click(); });
+    connect(v_.Label4, &QLabel::linkActivated, &események_, [this] { Label4_Click(); });
+}
+
+std::unique_ptr<frm_súgó> szótár::új_súgó() {
+    return std::make_unique<frm_súgó>(súgókörnyezet{k_.állapot.programkönyvtár, k_.hasznos, *this, k_.üzenetek,
+                                                    [this](const QString &szöveg) { rövid_üzenetet_mutat(szöveg); },
+                                                    k_.böngésző, [this] { súgó_.unload(); }});
+}
+
+void szótár::mnu_súgó_Click() {
+    súgó_.get().show();
+    súgó_.get().raise();
+    súgó_.get().activateWindow();
+}
+
+void szótár::mnu_cim_Click() {
+    mnu_súgó_Click();
+    súgó_.get().megnyit(súgócímek(k_.állapot.programkönyvtár).készítőcím());
 }
 
 void szótár::mnunévjegy_Click() {
@@ -19,4 +47,8 @@ void szótár::rendszeradatokat_mutat() {
     const QString mappák = QStringLiteral("Programkönyvtár: %1\nA „c:\\” mappa: %2")
                                .arg(k_.állapot.programkönyvtár, k_.meghajtó.path(u"c:\\"));
     frm_üzenet(k_.hasznos, *this).mutat(QStringLiteral("Rendszeradatok"), rendszerleírás(program, mappák));
+}
+
+void szótár::rövid_üzenetet_mutat(const QString &szöveg) {
+    frm_szövegüzenet(k_.hasznos, *this).mutat(szöveg, rövid_üzenet_ideje);
 }

@@ -93,16 +93,20 @@ QString betűlapok::kirakott_szó() {
     // Tiles with equal left edges keep their order.
     std::stable_sort(sorrend.begin(), sorrend.end(),
                      [this](int a, int b) { return lapok_[a].hely.left() < lapok_[b].hely.left(); });
+    if (sorrend.isEmpty())
+        return {};
     const double hossz = összes_szélesség();
-    // A row that is longer than the frame is pushed together until it ends where the frame does.
-    const double sűrítés = hossz > keret_.width() ? keret_.width() / hossz : 1;
+    const double utolsó = lapok_[sorrend.back()].hely.width();
+    // A row that is longer than the frame is pushed together, so that its last tile ends where the frame does.
+    const bool hosszú = hossz > keret_.width() && hossz > utolsó;
+    const double sűrítés = hosszú ? std::max(keret_.width() - utolsó, 0.0) / (hossz - utolsó) : 1;
     QString szó;
-    QPointF hová;
+    QPointF hová(std::max(std::min(lapok_[sorrend.front()].hely.left(), keret_.width() - hossz), 0.0),
+                 lapok_[sorrend.front()].hely.top());
     for (const int i : std::as_const(sorrend)) {
         QRectF &hely = lapok_[i].hely;
-        if (i == sorrend.front())
-            hová = {std::max(std::min(hely.left(), keret_.width() - hossz), 0.0), hely.top()};
-        hely.moveTo(hová);
+        const double legjobbrább = std::max(keret_.width() - hely.width(), 0.0);
+        hely.moveTo(hosszú ? std::min(hová.x(), legjobbrább) : hová.x(), hová.y());
         hová.rx() += hely.width() * sűrítés;
         szó += lapok_[i].betű;
     }

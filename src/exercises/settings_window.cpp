@@ -1,6 +1,7 @@
 #include "exercises/settings_window.h"
 
 #include <QCloseEvent>
+#include <QRadioButton>
 
 #include "ui/colour_copy.h"
 #include "ui/named.h"
@@ -43,6 +44,18 @@ void feladatbeállító::elkészül(double fent) {
     Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, képernyőrész));
     k_.hasznos.ablakstílus(*this);
     betölt();
+}
+
+void feladatbeállító::showEvent(QShowEvent *event) {
+    ablak::showEvent(event);
+    // The arrow keys go on from what is chosen.
+    for (QWidget *vezérlő : vezérlők()) {
+        const auto *gomb = qobject_cast<QRadioButton *>(vezérlő);
+        if (gomb && gomb->isChecked()) {
+            vezérlő->setFocus();
+            return;
+        }
+    }
 }
 
 void feladatbeállító::cmd_ok_Click() {

@@ -34,6 +34,7 @@ class feladatbeállító : public ablak {
     virtual void elfogad() { hide(); }
 
     void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
     const feladatkörnyezet k_;
 

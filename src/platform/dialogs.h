@@ -13,7 +13,8 @@ class MessageBoxes {
 
     /// Tells something; one button.
     virtual void tell(const QString &text) = 0;
-    /// Asks with the buttons Yes and No; closing the box is No.
+    /// Asks with the buttons Yes and No, and cannot be closed in another way. A request to end the program closes it as
+    /// No.
     [[nodiscard]] virtual Answer ask_yes_no(const QString &title, const QString &text) = 0;
     /// Asks with the buttons Yes, No and Cancel; closing the box is Cancel.
     [[nodiscard]] virtual Answer ask_yes_no_cancel(const QString &title, const QString &text) = 0;

@@ -8,15 +8,20 @@
 namespace files {
 namespace {
 
+const QString no_permission = QStringLiteral("nincs jogosultság az írásához.");
+
 QString reason_not_writable(const QSaveFile &file, const QString &path) {
     const QFileInfo place(path);
     if (place.isDir())
         return QStringLiteral("ez egy mappa neve.");
     if (!place.dir().exists())
         return QStringLiteral("a mappa nem létezik.");
+    // Replacing a file needs both; the toolkit tells of either as of any other error.
+    if (!QFileInfo(place.path()).isWritable() || (place.exists() && !place.isWritable()))
+        return no_permission;
     switch (file.error()) {
         case QFileDevice::PermissionsError:
-            return QStringLiteral("nincs jogosultság az írásához.");
+            return no_permission;
         case QFileDevice::ResourceError:
             return QStringLiteral("nincs elég hely a lemezen.");
         case QFileDevice::OpenError:

@@ -15,6 +15,8 @@ constexpr int focused_frame_width = 4;
 
 ChoosablePicture::ChoosablePicture(QWidget *parent) : PictureBox(parent) {
     setFocusPolicy(Qt::StrongFocus);
+    // A move without the button tells that it was let go unseen.
+    setMouseTracking(true);
 }
 
 void ChoosablePicture::set_drag_mode(DragMode mode) {
@@ -26,6 +28,12 @@ ChoosablePicture::~ChoosablePicture() {
     end_drag();
 }
 
+bool ChoosablePicture::event(QEvent *event) {
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowDeactivate)
+        end_drag();
+    return PictureBox::event(event);
+}
+
 void ChoosablePicture::mousePressEvent(QMouseEvent *event) {
     // Another button that goes down during a drag is not the drag's business.
     if (event->button() != Qt::LeftButton)
@@ -35,6 +43,8 @@ void ChoosablePicture::mousePressEvent(QMouseEvent *event) {
 }
 
 void ChoosablePicture::mouseMoveEvent(QMouseEvent *event) {
+    if (!event->buttons().testFlag(Qt::LeftButton))
+        end_drag();
     if (!pressed_ || drag_mode_ != DragMode::automatic)
         return;
     const QPoint at = event->position().toPoint();
@@ -92,6 +102,8 @@ void ChoosablePicture::focusInEvent(QFocusEvent *event) {
 }
 
 void ChoosablePicture::focusOutEvent(QFocusEvent *event) {
+    // A menu that opens takes the mouse, too.
+    end_drag();
     PictureBox::focusOutEvent(event);
     update();
 }

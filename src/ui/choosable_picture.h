@@ -7,7 +7,8 @@
 #include "ui/picture_box.h"
 
 /// A picture that can be chosen by a click or the space key, or dragged: then a ghost of it follows the mouse until the
-/// button is let go. A picture that is hidden or deleted meanwhile is dropped nowhere.
+/// button is let go. A picture that is hidden or deleted meanwhile is dropped nowhere, and so is one that loses the
+/// focus, or whose window is left or blocked: the button may then be let go where nobody tells of it.
 class ChoosablePicture : public PictureBox {
     Q_OBJECT
 
@@ -30,6 +31,7 @@ class ChoosablePicture : public PictureBox {
     void dropped(const QPoint &global_position);
 
   protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

@@ -1,10 +1,13 @@
 #include "ui/qt_dialogs.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <algorithm>
 
 namespace {
 
@@ -21,14 +24,61 @@ Answer answer_of(int button) {
     }
 }
 
-/// A message is plain text: a word that looks like markup must not be taken for it.
-int ask(QWidget *window, const QString &title, const QString &text, QMessageBox::Icon icon,
-        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton escape) {
-    QMessageBox box(icon, title, text, buttons, window);
-    box.setTextFormat(Qt::PlainText);
-    box.setEscapeButton(escape);
-    return box.exec();
+/// What a box stands in front of: `window`, or another window of the program that is seen while that one is hidden.
+QWidget *seen(QWidget *window) {
+    if (window && window->isVisible())
+        return window;
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto visible = std::find_if(windows.begin(), windows.end(),
+                                      [](auto *one) { return one->isVisible() && one->windowType() == Qt::Window; });
+    return visible == windows.end() ? nullptr : *visible;
 }
+
+/// A message is plain text: a word that looks like markup must not be taken for it.
+class Message : public QMessageBox {
+  public:
+    Message(QWidget *window, const QString &title, const QString &text, Icon icon, StandardButtons buttons)
+        : QMessageBox(icon, title, text, buttons, seen(window)) {
+        setTextFormat(Qt::PlainText);
+    }
+};
+
+/// A question without a cancel button: only its buttons answer it, not Escape nor the X of its frame, which could mean
+/// either answer.
+class UnavoidableQuestion final : public Message {
+  public:
+    UnavoidableQuestion(QWidget *window, const QString &title, const QString &text)
+        : Message(window, title, text, Question, Yes | No) {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        // The end of the program closes every window first, and does not come when one of them refuses.
+        if (watched == qApp && event->type() == QEvent::Quit)
+            program_ends_ = true;
+        return Message::eventFilter(watched, event);
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override {
+        if (!event->matches(QKeySequence::Cancel))
+            Message::keyPressEvent(event);
+    }
+
+    void closeEvent(QCloseEvent *event) override {
+        if (program_ends_)
+            Message::closeEvent(event);
+        else
+            event->ignore();
+    }
+
+  private:
+    bool program_ends_ = false;
+};
 
 /// Tells folders from files and looks into neither: the toolkit's own reads every file of a folder to name its kind,
 /// which takes long on a slow drive and does not end for a file that never does.
@@ -45,7 +95,7 @@ class PlainKinds final : public QFileIconProvider {
 
 std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, const QString &proposal) {
     PlainKinds kinds;
-    QFileDialog dialog(window, QString(), QFileInfo(proposal).path(), word_list_filter);
+    QFileDialog dialog(seen(window), QString(), QFileInfo(proposal).path(), word_list_filter);
     dialog.setIconProvider(&kinds);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -60,17 +110,18 @@ std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, con
 }  // namespace
 
 void QtMessageBoxes::tell(const QString &text) {
-    ask(window_, QStringLiteral("Zimbora"), text, QMessageBox::Warning, QMessageBox::Ok, QMessageBox::Ok);
+    Message(window_, QStringLiteral("Zimbora"), text, QMessageBox::Warning, QMessageBox::Ok).exec();
 }
 
 Answer QtMessageBoxes::ask_yes_no(const QString &title, const QString &text) {
-    return answer_of(
-        ask(window_, title, text, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No));
+    // Anything but Yes is No: the end of the program, too.
+    return UnavoidableQuestion(window_, title, text).exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
 }
 
 Answer QtMessageBoxes::ask_yes_no_cancel(const QString &title, const QString &text) {
-    return answer_of(ask(window_, title, text, QMessageBox::Question,
-                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel));
+    return answer_of(
+        Message(window_, title, text, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)
+            .exec());
 }
 
 void QtMessageBoxes::beep() {

@@ -8,7 +8,8 @@
 /// Message boxes of the toolkit, in front of a window of the program.
 class QtMessageBoxes final : public MessageBoxes {
   public:
-    /// The boxes stand in front of `window`, or by themselves while it does not exist.
+    /// The boxes stand in front of `window`; while it is hidden or does not exist, in front of the program's window
+    /// that is used, or of another that is seen.
     void set_window(QWidget *window) { window_ = window; }
 
     void tell(const QString &text) override;
@@ -23,7 +24,7 @@ class QtMessageBoxes final : public MessageBoxes {
 /// The system's file dialogs for word lists.
 class QtFileDialogs final : public FileDialogs {
   public:
-    /// The dialogs stand in front of `window`, or by themselves while it does not exist.
+    /// The dialogs stand in front of `window`, or of another as the boxes do.
     void set_window(QWidget *window) { window_ = window; }
 
     [[nodiscard]] std::optional<QString> open(const QString &proposal) override;

@@ -9,6 +9,14 @@ namespace {
 /// Bytes of a line, roughly.
 constexpr qsizetype usual_line = 32;
 
+/// Letters of a word that a message quotes.
+constexpr qsizetype longest_quoted = 60;
+
+/// A message with the whole of a very long word would not fit on the screen.
+QString idézet(const QString &szó) {
+    return szó.size() <= longest_quoted ? szó : szó.left(longest_quoted) + u'…';
+}
+
 szópár sorból(QByteArrayView sor) {
     const qsizetype kettőspont = sor.indexOf(':');
     if (kettőspont < 0)
@@ -24,7 +32,7 @@ bool van_benne_sorvég(const szópár &pár) {
 Failure nincs_a_kódlapon(const QString &szó) {
     return {QStringLiteral("A(z) „%1” szóban a(z) „%2” jel nem menthető, mert a szószedetfájl közép-európai kódlapján "
                            "nincs meg.")
-                .arg(szó, code_page::first_missing(szó))};
+                .arg(idézet(szó), code_page::first_missing(szó))};
 }
 
 }  // namespace
@@ -57,10 +65,10 @@ QString akadály(const szópár &pár) {
         return QStringLiteral(
                    "A(z) „%1” angol szóban nem lehet kettőspont, mert a szószedetfájlban az választja el az "
                    "angol szót a magyartól.")
-            .arg(pár.angol);
+            .arg(idézet(pár.angol));
     if (van_benne_sorvég(pár))
         return QStringLiteral("A(z) „%1” szópárban nem lehet sortörés.")
-            .arg((pár.angol + u':' + pár.magyar).simplified());
+            .arg(idézet((pár.angol + u':' + pár.magyar).simplified()));
     return {};
 }
 

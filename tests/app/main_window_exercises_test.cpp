@@ -122,10 +122,86 @@ TEST_F(MainWindowExercises, multiple_choice_of_one_pair_is_a_warning_before_the_
     EXPECT_EQ(pairs(), QStringLiteral("dog:kutya"));
 }
 
-TEST_F(MainWindowExercises, exercise_has_the_colour_of_the_program) {
+TEST_F(MainWindowExercises, menu_has_the_five_exercises_in_their_order) {
     start_with_list("dog:kutya\r\n");
 
-    for (const auto &[item, name] : {std::pair{"mnufeladattanul", "tanulás"}, {"mnufeladatkikérd", "kikérdező"}})
+    const auto *menu = control<QMenu>("mnufeladat");
+    QStringList items;
+    for (const QAction *one : menu->actions())
+        items.append(one->objectName() + u' ' + one->text());
+
+    EXPECT_EQ(menu->title(), QStringLiteral("Fel&adatok"));
+    EXPECT_EQ(items,
+              QStringList({QStringLiteral("mnufeladattanul &Tanulás"), QStringLiteral("mnufeladatkikérd &Kikérdezés"),
+                           QStringLiteral("mnufeladatválaszt &Választás"), QStringLiteral("mnu_fájl_kirakó &Kirakó"),
+                           QStringLiteral("mnufeladatmemória &Memória")}));
+}
+
+TEST_F(MainWindowExercises, letter_puzzle_takes_the_place_of_the_main_window) {
+    start_with_list("dog:kutya\r\n");
+
+    practise("mnu_fájl_kirakó", "frm_kirakó", [](const ablak &puzzle) {
+        EXPECT_EQ(shown(puzzle, "pic_feladvány"), QStringLiteral("kutya"));
+        EXPECT_NE(puzzle.findChild<QWidget *>(QStringLiteral("Label_betű(2)")), nullptr);
+        EXPECT_EQ(puzzle.findChild<QWidget *>(QStringLiteral("Label_betű(3)")), nullptr);
+    });
+}
+
+TEST_F(MainWindowExercises, letter_puzzle_that_is_solved_closes_and_the_main_window_is_back) {
+    start_with_list("o:\xf3\r\n");
+    QString result;
+
+    practise("mnu_fájl_kirakó", "frm_kirakó", [&](const ablak &puzzle) {
+        QTimer::singleShot(0, window_.get(), [&result] {
+            auto *message = dynamic_cast<ablak *>(QApplication::activeModalWidget());
+            ASSERT_NE(message, nullptr);
+            result = message->objectName() + u' ' + shown(*message, "Pic_szöveg(0)");
+            message->close();
+        });
+        QTest::keyClick(puzzle.focusWidget(), Qt::Key_Return);
+        EXPECT_FALSE(puzzle.isVisible());
+    });
+
+    EXPECT_EQ(result, QStringLiteral("üzenet o - ó"));
+}
+
+TEST_F(MainWindowExercises, memory_game_takes_the_place_of_the_main_window) {
+    start_with_list("a:1\r\nb:2\r\nc:3\r\nd:4\r\ne:5\r\nf:6\r\ng:7\r\n");
+
+    practise("mnufeladatmemória", "frm_memory", [](const ablak &game) {
+        EXPECT_NE(game.findChild<QWidget *>(QStringLiteral("pic_kártya(11)")), nullptr);
+        EXPECT_EQ(game.findChild<QWidget *>(QStringLiteral("pic_kártya(12)")), nullptr);
+    });
+}
+
+TEST_F(MainWindowExercises, memory_game_of_six_pairs_is_refused_and_the_main_window_is_back) {
+    start_with_list("a:1\r\nb:2\r\nc:3\r\nd:4\r\ne:5\r\nf:6\r\n");
+    const QString before = pairs();
+    QString message;
+    QTimer::singleShot(0, window_.get(), [&] {
+        auto *shown_window = dynamic_cast<ablak *>(QApplication::activeModalWidget());
+        ASSERT_NE(shown_window, nullptr);
+        message = shown_window->objectName() + u' ' + shown(*shown_window, "Pic_szöveg(1)");
+        shown_window->close();
+    });
+
+    action("mnufeladatmemória")->trigger();
+
+    EXPECT_EQ(message, QStringLiteral("üzenet legalább hat szópárra"));
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(pairs(), before);
+    EXPECT_FALSE(ended_);
+}
+
+TEST_F(MainWindowExercises, exercise_has_the_colour_of_the_program) {
+    start_with_list("a:1\r\nb:2\r\nc:3\r\nd:4\r\ne:5\r\nf:6\r\ng:7\r\n");
+
+    for (const auto &[item, name] : {std::pair{"mnufeladattanul", "tanulás"},
+                                     {"mnufeladatkikérd", "kikérdező"},
+                                     {"mnufeladatválaszt", "választás"},
+                                     {"mnu_fájl_kirakó", "frm_kirakó"},
+                                     {"mnufeladatmemória", "frm_memory"}})
         practise(item, name, [this](const ablak &exercise) {
             EXPECT_EQ(exercise.háttérszín(), reference_.háttérszín());
             EXPECT_TRUE(exercise.windowTitle().startsWith(QStringLiteral("Zimbora Angol-Magyar Szótár - ")));
@@ -140,7 +216,9 @@ TEST_F(MainWindowExercises, list_of_five_thousand_pairs_is_practised_in_every_ex
 
     for (const auto &[item, name] : {std::pair{"mnufeladattanul", "tanulás"},
                                      {"mnufeladatkikérd", "kikérdező"},
-                                     {"mnufeladatválaszt", "választás"}})
+                                     {"mnufeladatválaszt", "választás"},
+                                     {"mnu_fájl_kirakó", "frm_kirakó"},
+                                     {"mnufeladatmemória", "frm_memory"}})
         practise(item, name, [](const ablak &) {});
 }
 

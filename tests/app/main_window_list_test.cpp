@@ -92,6 +92,17 @@ TEST_F(MainWindowList, click_on_the_hungarian_side_selects_the_pair) {
     EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("apple"));
 }
 
+TEST_F(MainWindowList, click_on_the_hungarian_side_lets_the_pair_be_deleted_even_if_it_was_selected_already) {
+    add_three();
+    ASSERT_EQ(list("szószedet")->selected(), 2);
+
+    click_item("szómagylist", 2);
+    EXPECT_TRUE(list("szószedet")->hasFocus());
+    click("sztöröl");
+
+    EXPECT_EQ(pairs(), QStringLiteral("apple:alma goat:kecske"));
+}
+
 TEST_F(MainWindowList, modify_is_enabled_only_for_a_real_change_of_two_texts) {
     add_three();
     click_item("szószedet", 0);

@@ -66,4 +66,29 @@ TEST_F(ProgramFolder, mends_a_link_whose_dictionary_has_moved) {
     EXPECT_EQ(read_file(folder + QStringLiteral("/am.txt")), "dictionary");
 }
 
+TEST_F(ProgramFolder, is_missing_only_until_it_is_made_in_the_documents) {
+    const ProgramFolderPlaces places = started_from("other");
+    EXPECT_TRUE(program_folder_is_missing(places));
+
+    static_cast<void>(find_program_folder(places));
+
+    EXPECT_FALSE(program_folder_is_missing(places));
+}
+
+TEST_F(ProgramFolder, is_never_missing_where_another_one_than_that_in_the_documents_applies) {
+    ProgramFolderPlaces named = started_from("other");
+    named.environment = place("not made yet");
+    EXPECT_FALSE(program_folder_is_missing(named));
+    EXPECT_FALSE(program_folder_is_missing(started_from("bin")));
+
+    write_file(place("other/am.txt"), "x");
+    EXPECT_FALSE(program_folder_is_missing(started_from("other")));
+}
+
+TEST_F(ProgramFolder, is_made_by_nobody_who_only_asks_whether_it_is_missing) {
+    static_cast<void>(program_folder_is_missing(started_from("other")));
+
+    EXPECT_FALSE(QFileInfo::exists(place("documents/Zimbora")));
+}
+
 }  // namespace

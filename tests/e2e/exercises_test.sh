@@ -2,46 +2,7 @@
 # Each exercise is practised from the menu to the end.
 set -euo pipefail
 source "$(dirname "$0")/lib.sh"
-
-# start_with_list <line>...: the program with a list of these pairs, of which a copy is kept.
-start_with_list() {
-    list=$lists/practice.szs
-    make_list "$list" "$@"
-    cp -p "$list" "$temp/copy.szs"
-    start_program "$list"
-    wait_for_title "$(title_of_list "$list")"
-}
-
-# A message closes by itself, so none is pressed away: a key that comes late would go to the window behind it.
-wait_for_message() {
-    wait_for_title "$(title_of_exercise "$list szószedet")"
-}
-
-wait_for_exercise() {
-    wait_for_title "$(title_of_exercise "$1")"
-}
-
-# The main window is back with its pairs, of which "$1 - $2" is selected, and neither changed nor written.
-expect_main_window_with_unchanged_list() {
-    wait_for_title "$(title_of_list "$list")"
-    main_window=$(xdotool getactivewindow)
-    expect_selected_pair "$1" "$2"
-    cmp "$list" "$temp/copy.szs" || fail "The list was changed."
-    [[ ! $list -nt $temp/copy.szs ]] || fail "The list was written."
-    # It asks no question, because nothing has to be saved.
-    press alt+F4
-    expect_end_with_success
-    cmp "$list" "$temp/copy.szs" || fail "The list was changed at the end."
-}
-
-take_look() {
-    import -window "$(xdotool getactivewindow)" "$temp/$1.png"
-}
-
-looks_other_than() {
-    take_look now
-    ! compare -metric AE "$temp/$1.png" "$temp/now.png" null: 2>/dev/null
-}
+source "$(dirname "$0")/exercise_lib.sh"
 
 test_the_learning_window_shows_every_pair() {
     # Given
@@ -85,16 +46,8 @@ readonly question="120 860 4500 1000"
 readonly first_candidate="120 2100 6200 640"
 readonly second_candidate="120 2860 6200 640"
 
-# Sets x, y, w and h to the pixels of a place of the design in the window of the multiple choice. Its controls end at
-# 9880 and 5780 twips, 120 before its edges; the menu bar takes the rest.
 find_place_of_choice() {
-    local WIDTH HEIGHT
-    eval "$(xdotool getactivewindow getwindowgeometry --shell | grep -E '^(WIDTH|HEIGHT)=[0-9]+$')"
-    read -r x y w h < <(awk -v width="$WIDTH" -v height="$HEIGHT" -v x="$1" -v y="$2" -v w="$3" -v h="$4" 'BEGIN {
-        ratio = (width * 15 - 120) / 9880 / 15
-        menu_bar = height - int(5780 * ratio + 8.5)
-        printf "%d %d %d %d\n", x * ratio, menu_bar + y * ratio, w * ratio, h * ratio
-    }')
+    find_place_in_exercise 9880 5780 "$@"
 }
 
 # A long word takes more than half of its place.

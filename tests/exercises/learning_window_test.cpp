@@ -1,5 +1,6 @@
 #include "exercises/learning_window.h"
 
+#include <QKeyEvent>
 #include <memory>
 
 #include "support/exercise_fixture.h"
@@ -132,6 +133,20 @@ TEST_F(LearningWindow, turns_the_page_with_enter) {
     QTest::keyClick(window_.get(), Qt::Key_Return);
 
     EXPECT_EQ(page(), QStringLiteral("word1|szó1| 2/ 3"));
+}
+
+TEST_F(LearningWindow, turns_one_page_for_enter_that_is_held_down) {
+    start(numbered_pairs(10));
+    auto *ok = control<QPushButton>(*window_, "Command1");
+    ok->setFocus();
+    QTest::keyClick(ok, Qt::Key_Return);
+
+    for (int i = 0; i < 8; ++i) {
+        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+        QApplication::sendEvent(ok, &repeat);
+    }
+
+    EXPECT_EQ(page(), QStringLiteral("word1|szó1| 2/ 10"));
 }
 
 TEST_F(LearningWindow, puts_english_on_the_left_and_the_buttons_under_the_middles_of_the_halves) {

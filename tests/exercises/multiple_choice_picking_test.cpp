@@ -1,4 +1,8 @@
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMouseEvent>
 
 #include "support/multiple_choice_fixture.h"
 
@@ -198,6 +202,35 @@ TEST_F(MultipleChoicePicking, drag_under_way_comes_to_nothing_when_the_question_
     EXPECT_EQ(answer(), QString());
 }
 
+TEST_F(MultipleChoicePicking, drag_ends_when_the_mouse_button_may_be_let_go_unseen) {
+    store("katt", true);
+    QMessageBox message;
+    message.setWindowModality(Qt::ApplicationModal);
+    ablak another(QStringLiteral("another"));
+    const std::function<void()> ways[] = {
+        [this] { window_->menüsor()->actions().front()->menu()->popup(window_->pos()); }, [&] { message.show(); },
+        [&] { show(another); },
+        [this] {
+            QMouseEvent move(QEvent::MouseMove, {5, 5}, {5, 5}, candidate(0)->mapToGlobal(QPointF(5, 5)), Qt::NoButton,
+                             Qt::NoButton, {});
+            QApplication::sendEvent(candidate(0), &move);
+        }};
+    for (const auto &distract : ways) {
+        start();
+        const QPoint from = middle_of(candidate(0));
+        press_at(from);
+        move_to(middle_of(frame()));
+        ASSERT_EQ(ghosts(), 1);
+
+        distract();
+
+        EXPECT_EQ(ghosts(), 0);
+        message.hide();
+        release_at(middle_of(frame()));
+        EXPECT_EQ(answer(), QString());
+    }
+}
+
 TEST_F(MultipleChoicePicking, escape_ends_a_drag_and_not_the_game) {
     store("katt", true);
     start();
@@ -223,6 +256,18 @@ TEST_F(MultipleChoicePicking, space_that_is_held_down_picks_once) {
     QApplication::sendEvent(candidate(1), &repeat);
 
     EXPECT_EQ(answer(), first);
+}
+
+TEST_F(MultipleChoicePicking, digit_that_is_held_down_picks_once) {
+    start();
+    QTest::keyClick(window_.get(), static_cast<Qt::Key>(Qt::Key_1 + right()));
+    check();
+    ASSERT_EQ(counter(), QStringLiteral(" 2/ 10"));
+
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, QStringLiteral("1"), true);
+    QApplication::sendEvent(window_.get(), &repeat);
+
+    EXPECT_EQ(answer(), QString());
 }
 
 TEST_F(MultipleChoicePicking, next_question_has_the_focus_on_its_first_candidate) {

@@ -269,6 +269,18 @@ TEST_F(TypedQuizWindow, of_one_pair_stays_as_it_is_when_the_direction_is_changed
     EXPECT_EQ(counter(), QStringLiteral(" 1/ 1"));
 }
 
+TEST_F(TypedQuizWindow, has_the_focus_in_the_text_box_after_a_click_on_any_direction) {
+    for (const int pairs : {1, 5}) {
+        for (int i = 0; i < 3; ++i) {
+            start(numbered_pairs(pairs));
+
+            choose_direction(i);
+
+            EXPECT_TRUE(QTest::qWaitFor([this] { return text_box()->hasFocus(); })) << pairs << ' ' << i;
+        }
+    }
+}
+
 TEST_F(TypedQuizWindow, draws_the_changing_direction_for_every_question) {
     start(numbered_pairs(60));
     choose_direction(2);

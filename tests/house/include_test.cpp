@@ -17,7 +17,13 @@ std::optional<int> floor_of(const QString &file) {
                                            QStringLiteral("app/program_folder")};
     static const QStringList shared_by_windows{QStringLiteral("exercises/direction_buttons"),
                                                QStringLiteral("exercises/exercise_surroundings"),
-                                               QStringLiteral("exercises/game_menu")};
+                                               QStringLiteral("exercises/game_menu"),
+                                               QStringLiteral("lookup/browser_plugin"),
+                                               QStringLiteral("lookup/missing_browser"),
+                                               QStringLiteral("lookup/web_browser"),
+                                               QStringLiteral("lookup/webengine/engine_browser"),
+                                               QStringLiteral("lookup/webengine/engine_page"),
+                                               QStringLiteral("lookup/webengine/engine_plugin")};
     static const QMap<QString, int> floors{
         {QStringLiteral("platform"), 0},  {QStringLiteral("wordlist"), 1}, {QStringLiteral("dictionary"), 1},
         {QStringLiteral("exercises"), 1}, {QStringLiteral("lookup"), 1},   {QStringLiteral("media"), 1},

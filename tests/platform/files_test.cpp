@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -18,6 +19,18 @@ constexpr rlim_t small_file = 4096;
 void limit_file_size() {
     const rlimit limit{small_file, RLIM_INFINITY};
     setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+/// Ends the process: with 0 when an ordinary user is told that the right to write `path` is missing. Root has every
+/// right and gives them up here.
+[[noreturn]] void replace_without_the_right(const QString &path) {
+    constexpr uid_t nobody = 65534;
+    if (getuid() == 0 && setuid(nobody) != 0)
+        std::_Exit(2);
+    const auto failure = files::replace_whole(path, "new:\xfaj\r\n");
+    const bool told =
+        failure && failure->sentence.endsWith(QStringLiteral("fájl nem írható: nincs jogosultság az írásához."));
+    std::_Exit(told ? 0 : 1);
 }
 
 class Files : public testing::Test {
@@ -69,6 +82,20 @@ TEST_F(Files, says_so_when_a_folder_takes_no_files) {
 
     ASSERT_TRUE(failure);
     EXPECT_TRUE(failure->sentence.startsWith(QStringLiteral("A(z) „/proc/lista.szs” fájl nem írható: ")));
+}
+
+TEST_F(Files, says_that_the_right_to_write_is_missing_for_a_read_only_file_and_in_a_read_only_folder) {
+    const QString path = in_folder(QStringLiteral("lista.szs"));
+    write_file(path, "old:r\xe9gi\r\n");
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther);
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x7777));
+    EXPECT_EXIT(replace_without_the_right(path), testing::ExitedWithCode(0), "");
+
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x5555));
+    EXPECT_EXIT(replace_without_the_right(in_folder(QStringLiteral("uj.szs"))), testing::ExitedWithCode(0), "");
+
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x7777));
+    EXPECT_EQ(read_file(path), "old:r\xe9gi\r\n");
 }
 
 TEST_F(Files, leaves_the_old_file_whole_when_the_disk_is_full) {

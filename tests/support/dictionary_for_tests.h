@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "dictionary/dictionary_search.h"
+#include "support/headwords.h"
 
 /// What a search told: the hits and how it ended.
 struct Found {
@@ -35,18 +36,6 @@ inline QByteArray dictionary_of(QByteArrayList entries, int notice = 101) {
 
 [[nodiscard]] inline bool bare_begins_with(const QByteArray &headword, const QByteArray &text) {
     return keresőkulcs(QByteArrayView(headword)).startsWith(text);
-}
-
-/// The headwords of every line but the first, in file order.
-inline QByteArrayList headwords_of(const QByteArray &dictionary) {
-    QByteArrayList headwords;
-    const QByteArrayList lines = dictionary.split('\n');
-    for (qsizetype i = 1; i < lines.size(); ++i) {
-        const qsizetype colon = lines[i].indexOf(':');
-        if (colon >= 0)
-            headwords.append(lines[i].first(colon));
-    }
-    return headwords;
 }
 
 /// The definition of a hit of a text without "to ": the headword without its "to " begins with the text.

@@ -16,8 +16,8 @@
 #include "support/fake_dialogs.h"
 #include "support/printing.h"
 #include "support/seeded_random.h"
+#include "support/window_checks.h"
 #include "support/word_pairs.h"
-#include "ui/picture_box.h"
 
 /// A word list that a test fills.
 class WordListForTests final : public szószedetolvasó {
@@ -74,18 +74,6 @@ class ExerciseTest : public testing::Test {
         QApplication::setActiveWindow(&window);
     }
 
-    template <class Control>
-    [[nodiscard]] static Control *control(const ablak &window, const QString &name) {
-        auto *found = dynamic_cast<Control *>(window.findChild<QObject *>(name));
-        if (!found)
-            qFatal("no control %s", qPrintable(name));
-        return found;
-    }
-    template <class Control>
-    [[nodiscard]] static Control *control(const ablak &window, const char *name) {
-        return control<Control>(window, QString::fromUtf8(name));
-    }
-
     static void click(const ablak &window, const char *name) {
         auto *button = control<QAbstractButton>(window, name);
         // The label of an option button takes the click, not the empty space behind it.
@@ -101,72 +89,6 @@ class ExerciseTest : public testing::Test {
     [[nodiscard]] static QString shown(const ablak &window, const char *name) {
         return control<PictureBox>(window, name)->property("tag").toString();
     }
-
-    static void expect_text_inside(const ablak &window, const QString &name) {
-        const auto *picture = control<PictureBox>(window, name);
-        const QRectF text = picture->printed_area();
-        EXPECT_FALSE(text.isEmpty()) << name.toStdString();
-        EXPECT_TRUE(QRectF(QPointF(0, 0), picture->inner_size()).contains(text))
-            << name.toStdString() << ": " << text.left() << ' ' << text.top() << ' ' << text.right() << ' '
-            << text.bottom() << " in " << picture->inner_size().width() << " x " << picture->inner_size().height();
-    }
-
-    /// Nothing of the caption of a button, option button or label is cut off.
-    static void expect_whole_caption(const ablak &window, const QString &name) {
-        const auto *captioned = control<QWidget>(window, name);
-        if (qobject_cast<const QRadioButton *>(captioned)) {
-            EXPECT_LE(captioned->sizeHint().width(), captioned->width()) << name.toStdString();
-            EXPECT_LE(captioned->sizeHint().height(), captioned->height()) << name.toStdString();
-            return;
-        }
-        const auto *text = qobject_cast<const QLabel *>(captioned);
-        const QString caption = text ? text->text() : control<QAbstractButton>(window, name)->text();
-        EXPECT_FALSE(caption.isEmpty()) << name.toStdString();
-        const QFontMetrics letters(captioned->font());
-        EXPECT_LE(letters.horizontalAdvance(caption), captioned->width()) << name.toStdString();
-        EXPECT_LE(letters.height(), captioned->height()) << name.toStdString();
-    }
-
-    /// Every control has its place within the window and covers no other, but for frames round others.
-    static void expect_no_overlap(const ablak &window) {
-        const QRectF inner(0, 0, window.belsőszélesség(), window.belsőmagasság());
-        for (const QWidget *one : window.vezérlők()) {
-            if (one->isHidden() || one->inherits("QGroupBox"))
-                continue;
-            EXPECT_TRUE(inner.contains(window.hely(one))) << one->objectName().toStdString();
-            for (const QWidget *other : window.vezérlők()) {
-                if (one == other || other->isHidden() || other->inherits("QGroupBox"))
-                    continue;
-                EXPECT_FALSE(window.hely(one).intersects(window.hely(other)))
-                    << one->objectName().toStdString() << " and " << other->objectName().toStdString();
-            }
-        }
-    }
-
-    /// Names of the controls that Tab reaches, from the one with the focus on.
-    [[nodiscard]] static QString tab_order(const ablak &window) {
-        QStringList order;
-        const QWidget *first = window.focusWidget();
-        for (QWidget *now = window.focusWidget(); now && order.size() < 20; now = window.focusWidget()) {
-            order.append(now->objectName());
-            QTest::keyClick(now, Qt::Key_Tab);
-            if (window.focusWidget() == first)
-                break;
-        }
-        return order.join(u' ');
-    }
-
-    /// Shows the window modally. `act` is called while it is open, and must make it close.
-    static void show_modally(ablak &window, const std::function<void()> &act) {
-        QTimer::singleShot(0, &window, [&] {
-            act();
-            EXPECT_FALSE(window.isVisible());
-            window.hide();
-        });
-        window.mutatmodálisan();
-    }
-
-    static inline const QList<QSize> screens{{800, 600}, {1024, 768}, {2560, 1440}};
 
     QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
     QRectF screen_{0, 0, 1024 * 15, 768 * 15};

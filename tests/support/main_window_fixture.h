@@ -12,12 +12,14 @@
 #include <QRadioButton>
 #include <QTemporaryDir>
 #include <QtTest/QTest>
+#include <functional>
 #include <memory>
 
 #include "app/main_window.h"
 #include "support/dictionary_for_tests.h"
 #include "support/fake_desktop.h"
 #include "support/fake_dialogs.h"
+#include "support/fake_web_browser.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 #include "support/seeded_random.h"
@@ -40,14 +42,29 @@ class MainWindowTest : public testing::Test {
 
     /// Loads and shows the window, with `command_line`.
     void start(const QString &command_line = {}) {
+        load(command_line);
+        window_->show();
+        QApplication::setActiveWindow(window_.get());
+    }
+
+    /// Loads the window without showing it.
+    void load(const QString &command_line = {}) {
         window_ = std::make_unique<szótár>(
             szótárkörnyezet{state_, reference_, fitting_, boxes_, dialogs_, DriveC(place("c")), random_, settings_,
                             top_most_, [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
-                            [this] { return QVector<QRectF>{screen_}; }, [this] { ++animation_steps_; },
-                            [this] { ++glide_steps_; }, [this] { ended_ = true; }});
+                            [this] { return QVector<QRectF>{screen_}; },
+                            [this](const WebBrowserRules &) -> WebBrowserResult {
+                                auto browser = std::make_unique<FakeWebBrowser>();
+                                browser_ = browser.get();
+                                return browser;
+                            },
+                            [this] { ++animation_steps_; },
+                            [this] {
+                                ++glide_steps_;
+                                between_glide_steps_();
+                            },
+                            [this] { ended_ = true; }});
         window_->Form_Load(command_line);
-        window_->show();
-        QApplication::setActiveWindow(window_.get());
     }
 
     [[nodiscard]] QString place(const char *name) const { return root_.filePath(QString::fromUtf8(name)); }
@@ -107,8 +124,11 @@ class MainWindowTest : public testing::Test {
     global::beállítástár settings_{place("settings.ini")};
     FakeTopMost top_most_;
     FakeClipboard clipboard_;
+    /// The browser of the help viewer, once it has been opened.
+    FakeWebBrowser *browser_ = nullptr;
     int animation_steps_ = 0;
     int glide_steps_ = 0;
+    std::function<void()> between_glide_steps_ = [] {};
     bool ended_ = false;
     std::unique_ptr<szótár> window_;
 };

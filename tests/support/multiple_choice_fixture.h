@@ -1,21 +1,12 @@
 #pragma once
 
-#include <memory>
-
 #include "exercises/multiple_choice_window.h"
-#include "support/exercise_fixture.h"
+#include "support/exercise_window_fixture.h"
 
 /// A multiple choice, what is seen of it, and what a user does with it.
-class MultipleChoiceTest : public ExerciseTest {
+class MultipleChoiceTest : public ExerciseWindowTest<választás, választás_beáll> {
   protected:
-    void load(const QVector<szópár> &pairs) {
-        list_.pairs = pairs;
-        window_ = std::make_unique<választás>(surroundings());
-    }
-    void start(const QVector<szópár> &pairs) {
-        load(pairs);
-        show(*window_);
-    }
+    using ExerciseWindowTest::start;
     void start(int pairs = 10) { start(numbered_pairs(pairs)); }
 
     void store(const char *key, const QVariant &value) {
@@ -77,13 +68,6 @@ class MultipleChoiceTest : public ExerciseTest {
             answer_with(right());
     }
 
-    // The mouse, as the system tells the window of it.
-    [[nodiscard]] QPoint middle_of(const QWidget *widget) const {
-        return widget->mapTo(window_.get(), widget->rect().center());
-    }
-    void press_at(const QPoint &at) { QTest::mousePress(window_->windowHandle(), Qt::LeftButton, {}, at); }
-    void move_to(const QPoint &at) { QTest::mouseMove(window_->windowHandle(), at); }
-    void release_at(const QPoint &at) { QTest::mouseRelease(window_->windowHandle(), Qt::LeftButton, {}, at); }
     void drag(int k, const QPoint &to) {
         const QPoint from = middle_of(candidate(k));
         press_at(from);
@@ -98,21 +82,4 @@ class MultipleChoiceTest : public ExerciseTest {
             count += one->isVisible() ? 1 : 0;
         return count;
     }
-
-    void trigger(const char *menu_item) { control<QAction>(*window_, menu_item)->trigger(); }
-
-    /// Opens the settings from the menu; `act` is called with them.
-    void in_settings(const std::function<void(választás_beáll &)> &act) {
-        bool opened = false;
-        QTimer::singleShot(0, window_.get(), [&] {
-            auto *settings = dynamic_cast<választás_beáll *>(QApplication::activeModalWidget());
-            ASSERT_NE(settings, nullptr);
-            opened = true;
-            act(*settings);
-        });
-        trigger("mnu_fájl_beáll");
-        EXPECT_TRUE(opened);
-    }
-
-    std::unique_ptr<választás> window_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QPointF>
 #include <QString>
 #include <ostream>
 
@@ -11,4 +12,12 @@ inline void PrintTo(const QString &text, std::ostream *to) {
 
 inline void PrintTo(const QByteArray &bytes, std::ostream *to) {
     *to << '"' << bytes.left(300).toPercentEncoding(" :,\r\n").toStdString() << '"';
+}
+
+inline void PrintTo(const QPoint &place, std::ostream *to) {
+    *to << '(' << place.x() << ", " << place.y() << ')';
+}
+
+inline void PrintTo(const QPointF &place, std::ostream *to) {
+    *to << '(' << place.x() << ", " << place.y() << ')';
 }

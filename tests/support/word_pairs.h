@@ -2,6 +2,8 @@
 
 #include <QString>
 #include <QVector>
+#include <initializer_list>
+#include <utility>
 
 #include "wordlist/word_pair_list.h"
 
@@ -10,5 +12,13 @@ inline QVector<szópár> numbered_pairs(int count) {
     QVector<szópár> pairs;
     for (int i = 0; i < count; ++i)
         pairs.append({QStringLiteral("word%1").arg(i), QStringLiteral("szó%1").arg(i)});
+    return pairs;
+}
+
+/// The pairs of these texts, English first.
+inline QVector<szópár> pairs_of(std::initializer_list<std::pair<const char16_t *, const char16_t *>> list) {
+    QVector<szópár> pairs;
+    for (const auto &[english, hungarian] : list)
+        pairs.append({QString::fromUtf16(english), QString::fromUtf16(hungarian)});
     return pairs;
 }

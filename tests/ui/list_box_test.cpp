@@ -62,6 +62,18 @@ TEST_F(ListBoxTest, keeps_its_selection_at_a_click_below_the_items) {
     EXPECT_EQ(selected_.count(), 1);
 }
 
+TEST_F(ListBoxTest, keeps_its_selection_at_a_click_or_space_with_ctrl) {
+    list_.select(1);
+    const QPoint place = list_.visualRect(list_.currentIndex()).center();
+
+    QTest::mouseClick(list_.viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+    EXPECT_TRUE(list_.selectionModel()->isSelected(list_.currentIndex()));
+    QTest::keyClick(&list_, Qt::Key_Space, Qt::ControlModifier);
+
+    EXPECT_EQ(list_.selected(), 1);
+    EXPECT_TRUE(list_.selectionModel()->isSelected(list_.currentIndex()));
+}
+
 TEST_F(ListBoxTest, announces_a_selection_by_key) {
     list_.select(0);
 

@@ -239,6 +239,34 @@ TEST_F(TextFitting, ends_for_a_box_without_room) {
     EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("szótár"));
 }
 
+TEST_F(TextFitting, leaves_a_text_in_one_line_that_a_size_lets_fit) {
+    EXPECT_EQ(Module_hasznos::sorokra(box_, QStringLiteral("egy szó"), 12), QStringLiteral("egy szó"));
+    EXPECT_EQ(Module_hasznos::sorokra(box_, QString(), 12), QString());
+}
+
+TEST_F(TextFitting, breaks_a_text_at_blanks_into_lines_that_fit_in_the_given_size) {
+    const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le");
+    for (const double points : {20.0, 30.0, 40.0}) {
+        const QString lines = Module_hasznos::sorokra(box_, text, points);
+
+        EXPECT_GT(lines.count(u'\n'), 0) << points;
+        EXPECT_EQ(QString(lines).replace(u'\n', u' '), text);
+        EXPECT_LT(size_at(points, lines).width(), box_.inner_size().width());
+    }
+    EXPECT_LT(Module_hasznos::sorokra(box_, text, 20).count(u'\n'),
+              Module_hasznos::sorokra(box_, text, 40).count(u'\n'));
+}
+
+TEST_F(TextFitting, breaks_a_word_inside_that_is_wider_than_the_box_in_the_given_size) {
+    const QString word = QStringLiteral("megszentségteleníthetetlenségeskedéseitekért");
+
+    const QString lines = Module_hasznos::sorokra(box_, QStringLiteral("egy ") + word, 40);
+
+    EXPECT_TRUE(lines.startsWith(QStringLiteral("egy\n")));
+    EXPECT_EQ(QString(lines).remove(u'\n'), QStringLiteral("egy") + word);
+    EXPECT_LT(size_at(40, lines).width(), box_.inner_size().width());
+}
+
 TEST_F(TextFitting, uses_the_first_size_at_which_a_buttons_text_reaches_ninety_percent) {
     QPushButton button(QStringLiteral("&Ok"));
     button.resize(120, 40);

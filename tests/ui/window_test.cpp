@@ -115,6 +115,117 @@ TEST_F(WindowWithButtons, presses_nothing_when_the_default_button_is_disabled_or
     EXPECT_FALSE(ok_->isDefault());
 }
 
+TEST(WindowWithoutFrame, is_as_large_as_its_inner_surface) {
+    ablak window(QStringLiteral("próba"), ablak::menü::nincs, ablak::keret::nincs);
+
+    window.méretez(3000, 1500);
+
+    EXPECT_TRUE(window.windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_EQ(window.keretszélesség(), 0);
+    EXPECT_EQ(window.keretmagasság(), 0);
+    EXPECT_EQ(window.belsőszélesség(), 3000);
+    EXPECT_EQ(window.belsőmagasság(), 1500);
+    EXPECT_EQ(window.size(), QSize(200, 100));
+}
+
+TEST(WindowWithFrame, keeps_the_size_that_the_program_gives_it) {
+    ablak window(QStringLiteral("próba"));
+    window.méretez(3000, 1500);
+    window.show();
+
+    window.resize(500, 500);
+
+    EXPECT_EQ(window.size(),
+              QSize(qRound((3000 - window.keretszélesség()) / 15), qRound((1500 - window.keretmagasság()) / 15)));
+    EXPECT_EQ(window.szélesség(), 3000);
+}
+
+/// A window that the user draws larger and smaller, with a menu bar.
+class ResizableWindow : public ablak {
+  public:
+    ResizableWindow() : ablak(QStringLiteral("próba"), menü::van, keret::átméretezhető) {
+        menüsor()->addMenu(QStringLiteral("&Fájl"));
+        elhelyez(control, {0, 0, 1500, 300});
+        méretez(6000.4, 4500.3);
+        show();
+    }
+
+    QLabel *control = new QLabel(QStringLiteral("x"));
+    int resized = 0;
+
+  protected:
+    void Form_Resize() override {
+        ++resized;
+        elhelyez(control, {0, 0, belsőszélesség(), 300});
+    }
+};
+
+TEST(ResizableWindow, knows_its_new_size_when_the_user_has_drawn_it_larger) {
+    ResizableWindow window;
+
+    window.resize(500, 400);
+
+    EXPECT_EQ(window.resized, 1);
+    EXPECT_EQ(window.size(), QSize(500, 400));
+    EXPECT_EQ(window.belsőszélesség(), 500 * 15);
+    EXPECT_EQ(window.belsőmagasság(), (400 - window.menüsor()->height()) * 15);
+    EXPECT_EQ(window.control->width(), 500);
+    EXPECT_EQ(window.menüsor()->width(), 500);
+}
+
+TEST(ResizableWindow, keeps_the_exact_size_that_the_program_gives_it_and_tells_nothing) {
+    ResizableWindow window;
+
+    EXPECT_EQ(window.szélesség(), 6000.4);
+    EXPECT_EQ(window.magasság(), 4500.3);
+    EXPECT_EQ(window.resized, 0);
+}
+
+TEST(ResizableWindow, can_be_drawn_smaller_and_given_a_size_again) {
+    ResizableWindow window;
+
+    window.resize(210, 150);
+    window.méretez(9000, 6000);
+
+    EXPECT_EQ(window.resized, 1);
+    EXPECT_EQ(window.width(), qRound((9000 - window.keretszélesség()) / 15));
+    EXPECT_EQ(window.szélesség(), 9000);
+}
+
+TEST_F(WindowWithButtons, stays_on_escape_that_nothing_was_said_about) {
+    QTest::keyClick(text_, Qt::Key_Escape);
+
+    EXPECT_TRUE(window_.isVisible());
+}
+
+TEST_F(WindowWithButtons, closes_on_escape_where_no_button_stands_for_it) {
+    window_.escapezár();
+
+    QTest::keyClick(text_, Qt::Key_Escape);
+
+    EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(WindowWithButtons, presses_its_cancel_button_on_escape_before_it_would_close) {
+    window_.escapezár();
+    window_.mégsegombbeállít(other_);
+
+    QTest::keyClick(text_, Qt::Key_Escape);
+
+    EXPECT_EQ(other_clicks_, 1);
+    EXPECT_EQ(ok_clicks_, 0);
+    EXPECT_TRUE(window_.isVisible());
+}
+
+TEST_F(WindowWithButtons, takes_no_notice_of_escape_that_is_held_down) {
+    window_.escapezár();
+
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&window_, &repeat);
+
+    EXPECT_TRUE(window_.isVisible());
+}
+
 TEST(Window, shown_modally_returns_when_it_is_closed) {
     ablak window(QStringLiteral("próba"));
     window.méretez(3000, 3000);

@@ -96,4 +96,14 @@ TEST(SzsFile, refuses_what_would_be_read_as_something_else) {
     EXPECT_TRUE(szsfájl::akadály(pairs({{u"time", u"idő: 3 óra"}})[0]).isEmpty());
 }
 
+TEST(SzsFile, quotes_the_beginning_of_a_word_that_is_too_long_for_a_message) {
+    const QString longest(5000, u'x');
+    const QString sentences[] = {szsfájl::akadály({longest + u':', QStringLiteral("szó")}),
+                                 szsfájl::akadály({longest, QStringLiteral("két\nsor")}),
+                                 std::get<Failure>(szsfájl::ír({{longest, longest + u'火'}})).sentence};
+
+    for (const QString &sentence : sentences)
+        EXPECT_TRUE(sentence.contains(u'„' + longest.left(60) + QStringLiteral("…”"))) << sentence.toStdString();
+}
+
 }  // namespace

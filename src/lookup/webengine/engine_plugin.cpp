@@ -1,0 +1,11 @@
+#include "lookup/webengine/engine_plugin.h"
+
+#include <QQuickWindow>
+
+#include "lookup/webengine/engine_browser.h"
+
+std::unique_ptr<WebBrowser> EnginePlugin::make(const WebBrowserRules &rules) {
+    // Help pages need no graphics processor, and what draws without one works on every machine.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    return std::make_unique<EngineBrowser>(rules);
+}

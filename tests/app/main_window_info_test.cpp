@@ -1,0 +1,87 @@
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include "support/main_window_fixture.h"
+
+namespace {
+
+class MainWindowInfo : public MainWindowTest {
+  protected:
+    MainWindowInfo() {
+        QCoreApplication::setApplicationName(QStringLiteral("Zimbora"));
+        QCoreApplication::setApplicationVersion(QStringLiteral("3.1.4"));
+        start();
+    }
+
+    [[nodiscard]] static QWidget *modal(const char16_t *name) {
+        QWidget *window = QApplication::activeModalWidget();
+        return window && window->objectName() == QString::fromUtf16(name) ? window : nullptr;
+    }
+
+    /// Opens the About box; `look` is called while it is open.
+    void open_about_box(const std::function<void()> &look) {
+        QTimer::singleShot(0, window_.get(), [&look] {
+            look();
+            if (QWidget *left_open = QApplication::activeModalWidget())
+                left_open->close();
+        });
+        action("mnunévjegy")->trigger();
+    }
+};
+
+TEST_F(MainWindowInfo, has_its_menu_with_help_about_box_and_the_makers_page) {
+    EXPECT_EQ(control<QMenu>("mnu_info")->title(), QStringLiteral("&Info"));
+    QStringList captions;
+    for (const QAction *item : control<QMenu>("mnu_info")->actions())
+        captions.append(item->text());
+    EXPECT_EQ(captions,
+              QStringList({QStringLiteral("&Súgó"), QStringLiteral("&Névjegy"), QStringLiteral("A Zimbora lapja")}));
+    EXPECT_EQ(action("mnu_súgó")->shortcut(), QKeySequence(Qt::Key_F1));
+    EXPECT_TRUE(control<QMenu>("mnu_info")->isEnabled());
+}
+
+TEST_F(MainWindowInfo, has_its_button_for_the_mini_window_and_a_link_to_the_makers_page) {
+    EXPECT_EQ(button("cmd_kisablak")->text(), QStringLiteral("Kisablak"));
+    EXPECT_TRUE(button("cmd_kisablak")->isVisible());
+    EXPECT_TRUE(control<QLabel>("Label4")->text().contains(QStringLiteral(">A Zimbora lapja</a>")));
+    EXPECT_TRUE(control<QLabel>("Label4")->isVisible());
+}
+
+TEST_F(MainWindowInfo, opens_the_about_box_with_the_programs_name_and_version) {
+    bool seen = false;
+
+    open_about_box([&] {
+        const QWidget *box = modal(u"frmAbout");
+        ASSERT_NE(box, nullptr);
+        seen = true;
+        EXPECT_EQ(box->windowTitle(), QStringLiteral("About Zimbora"));
+        EXPECT_EQ(box->findChild<QLabel *>(QStringLiteral("lblVersion"))->text(), QStringLiteral("Version: 3.1.4"));
+    });
+
+    EXPECT_TRUE(seen);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(window_->isVisible());
+}
+
+TEST_F(MainWindowInfo, shows_what_is_known_of_the_system_in_front_of_the_about_box) {
+    QString title;
+    QString text;
+
+    open_about_box([&] {
+        QTimer::singleShot(0, window_.get(), [&] {
+            QWidget *message = modal(u"frm_üzenet");
+            ASSERT_NE(message, nullptr);
+            title = message->windowTitle();
+            text = message->findChild<QPlainTextEdit *>(QStringLiteral("txt_üzenet"))->toPlainText();
+            message->close();
+        });
+        QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(QStringLiteral("cmdSysInfo")), Qt::LeftButton);
+    });
+
+    EXPECT_EQ(title, QStringLiteral("Zimbora Angol-Magyar Szótár - Rendszeradatok"));
+    EXPECT_TRUE(text.contains(QStringLiteral("Program: Zimbora 3.1.4")));
+    EXPECT_TRUE(text.contains(place("angol"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(place("c"))) << text.toStdString();
+}
+
+}  // namespace

@@ -1,0 +1,176 @@
+#include "lookup/help_address.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "support/files_for_tests.h"
+#include "support/printing.h"
+
+namespace {
+
+/// A program folder with a dictionary, and the help document beside it.
+class HelpAddress : public testing::Test {
+  protected:
+    HelpAddress() {
+        for (const char *folder : {"program/lists", "programkavaro/help", "other", "programs"})
+            QDir(root_.path()).mkpath(QString::fromLatin1(folder));
+        for (const char *file :
+             {"program/am.txt", "programkavaro/help/Kavaro súgó.mht", "programkavaro/help/keszito.html",
+              "programkavaro/x.html", "other/secret.txt", "programs/x.html"})
+            write_file(path(file), "x");
+    }
+
+    [[nodiscard]] QString path(const char *name) const {
+        return QDir(QFileInfo(root_.path()).canonicalFilePath()).filePath(QString::fromUtf8(name));
+    }
+    [[nodiscard]] bool opens(const QUrl &address) const { return !addresses_.akadály(address); }
+    [[nodiscard]] bool opens(const QString &file) const { return opens(QUrl::fromLocalFile(file)); }
+    [[nodiscard]] QString reason(const QUrl &address) const {
+        const auto obstacle = addresses_.akadály(address);
+        return obstacle ? obstacle->sentence : QString();
+    }
+
+    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    súgócímek addresses_{path("program")};
+};
+
+QString url(const char16_t *text) {
+    return súgócímek::url(QString::fromUtf16(text)).toString();
+}
+
+TEST_F(HelpAddress, of_the_document_is_the_program_folder_text_and_the_name_without_a_separator) {
+    EXPECT_EQ(súgócímek(QStringLiteral("C:\\Zimbora")).kezdőcím(),
+              QStringLiteral("C:\\Zimborakavaro\\help\\Kavaro súgó.mht"));
+    EXPECT_EQ(súgócímek(QString()).kezdőcím(), QStringLiteral("kavaro\\help\\Kavaro súgó.mht"));
+}
+
+TEST_F(HelpAddress, of_the_document_and_of_the_makers_page_can_be_opened) {
+    EXPECT_EQ(súgócímek::url(addresses_.kezdőcím()), QUrl::fromLocalFile(path("programkavaro/help/Kavaro súgó.mht")));
+    EXPECT_EQ(súgócímek::url(addresses_.készítőcím()), QUrl::fromLocalFile(path("programkavaro/help/keszito.html")));
+    EXPECT_TRUE(opens(súgócímek::url(addresses_.kezdőcím())));
+    EXPECT_TRUE(opens(súgócímek::url(addresses_.készítőcím())));
+}
+
+TEST_F(HelpAddress, may_be_a_path_with_slashes_or_backslashes) {
+    EXPECT_EQ(url(u"/a/b c.html"), QStringLiteral("file:///a/b c.html"));
+    EXPECT_EQ(url(u"\\a\\b.html"), QStringLiteral("file:///a/b.html"));
+    EXPECT_EQ(url(u"/a\\b/c.html"), QStringLiteral("file:///a/b/c.html"));
+    EXPECT_EQ(url(u"c:\\a\\b.html"), QStringLiteral("file:///c:/a/b.html"));
+    EXPECT_EQ(url(u"/a/100%25.html"), QStringLiteral("file:///a/100%2525.html"));
+}
+
+TEST_F(HelpAddress, may_be_a_path_with_a_place_in_the_document) {
+    const QUrl place = súgócímek::url(addresses_.kezdőcím() + QStringLiteral("#foablak.kereses"));
+    EXPECT_EQ(place.fragment(), QStringLiteral("foablak.kereses"));
+    EXPECT_EQ(place.toLocalFile(), path("programkavaro/help/Kavaro súgó.mht"));
+    EXPECT_TRUE(opens(place));
+
+    write_file(path("program/c#.txt"), "x");
+    EXPECT_EQ(súgócímek::url(path("program/c#.txt")).toLocalFile(), path("program/c#.txt"));
+}
+
+TEST_F(HelpAddress, of_a_web_page_needs_no_scheme) {
+    EXPECT_EQ(url(u"www.x.hu"), QStringLiteral("http://www.x.hu"));
+    EXPECT_EQ(url(u"  www.x.hu/lap?a=1#b "), QStringLiteral("http://www.x.hu/lap?a=1#b"));
+    EXPECT_EQ(url(u"x.hu:8080/lap"), QStringLiteral("http://x.hu:8080/lap"));
+    EXPECT_EQ(url(u"localhost:8080"), QStringLiteral("http://localhost:8080"));
+    EXPECT_EQ(url(u"https://x.hu"), QStringLiteral("https://x.hu"));
+    EXPECT_EQ(url(u"HTTP://x.hu"), QStringLiteral("http://x.hu"));
+}
+
+TEST_F(HelpAddress, keeps_another_scheme_that_a_text_names) {
+    EXPECT_EQ(url(u"javascript:alert(1)"), QStringLiteral("javascript:alert(1)"));
+    EXPECT_EQ(url(u"file:///etc/passwd"), QStringLiteral("file:///etc/passwd"));
+    EXPECT_EQ(url(u"mailto:a@x.hu"), QStringLiteral("mailto:a@x.hu"));
+}
+
+TEST_F(HelpAddress, is_none_for_other_texts) {
+    EXPECT_TRUE(súgócímek::url(QStringLiteral("  ")).isEmpty());
+    EXPECT_FALSE(súgócímek::url(QStringLiteral("alma körte")).isValid());
+    const auto result = addresses_.nyitható(QStringLiteral(" alma körte "));
+    ASSERT_TRUE(std::holds_alternative<Failure>(result));
+    EXPECT_EQ(std::get<Failure>(result).sentence, QStringLiteral("A(z) „alma körte” nem cím."));
+}
+
+TEST_F(HelpAddress, of_the_web_opens) {
+    EXPECT_TRUE(opens(QUrl(QStringLiteral("http://x.hu/"))));
+    EXPECT_TRUE(opens(QUrl(QStringLiteral("https://x.hu/"))));
+    EXPECT_FALSE(opens(QUrl(QStringLiteral("http:///lap"))));
+}
+
+TEST_F(HelpAddress, of_another_scheme_does_not_open_and_says_so) {
+    for (const char16_t *address :
+         {u"javascript:alert(1)", u"ftp://x.hu/", u"data:text/html,x", u"about:blank", u"mailto:a@x.hu",
+          u"view-source:http://x.hu/", u"chrome://version", u"qrc:/x", u"blob:http://x.hu/1", u"x.html"}) {
+        const QString text = QString::fromUtf16(address);
+        EXPECT_TRUE(reason(QUrl(text)).startsWith(QStringLiteral("A(z) „%1” cím itt nem nyitható meg.").arg(text)))
+            << text.toStdString();
+    }
+}
+
+TEST_F(HelpAddress, of_a_file_opens_in_the_program_folder_and_beside_the_document) {
+    EXPECT_TRUE(opens(path("program/am.txt")));
+    EXPECT_TRUE(opens(path("programkavaro/help/keszito.html")));
+    EXPECT_TRUE(opens(path("other/../program/am.txt")));
+}
+
+TEST_F(HelpAddress, of_a_file_elsewhere_does_not_open_and_says_so) {
+    for (const char *file : {"other/secret.txt", "programs/x.html", "programkavaro/x.html",
+                             "program/../other/secret.txt", "programkavaro/help/../../other/secret.txt"})
+        EXPECT_TRUE(reason(QUrl::fromLocalFile(path(file))).endsWith(QStringLiteral("nem a program mappájában van.")))
+            << file;
+    EXPECT_FALSE(opens(QUrl(QStringLiteral("file:///etc/passwd"))));
+    EXPECT_FALSE(opens(QUrl(QStringLiteral("file:etc/passwd"))));
+}
+
+TEST_F(HelpAddress, of_a_folder_does_not_open) {
+    EXPECT_FALSE(opens(path("program")));
+    EXPECT_FALSE(opens(path("program/lists")));
+}
+
+TEST_F(HelpAddress, of_a_link_opens_where_its_target_may) {
+    QFile::link(path("other/secret.txt"), path("program/link.txt"));
+    QFile::link(path("other"), path("program/out"));
+    QFile::link(path("program/am.txt"), path("other/in.txt"));
+
+    EXPECT_FALSE(opens(path("program/link.txt")));
+    EXPECT_FALSE(opens(path("program/out/secret.txt")));
+    EXPECT_TRUE(opens(path("other/in.txt")));
+}
+
+TEST_F(HelpAddress, of_an_installed_document_opens_through_the_linked_folder) {
+    QDir(path("programkavaro/help")).removeRecursively();
+    QDir(root_.path()).mkpath(QStringLiteral("share/help"));
+    write_file(path("share/help/Kavaro súgó.mht"), "x");
+    QFile::link(path("share/help"), path("programkavaro/help"));
+
+    EXPECT_TRUE(opens(súgócímek::url(addresses_.kezdőcím())));
+}
+
+TEST_F(HelpAddress, with_an_encoded_separator_does_not_open) {
+    const QString program = QUrl::fromLocalFile(path("program")).toString();
+    for (const char16_t *rest : {u"/..%2fother%2Fsecret.txt", u"/lists%2f..%2Fam.txt", u"%5Cam.txt", u"/am.txt%00"})
+        EXPECT_FALSE(opens(QUrl(program + QString::fromUtf16(rest)))) << QString::fromUtf16(rest).toStdString();
+}
+
+TEST_F(HelpAddress, of_another_machine_does_not_open) {
+    EXPECT_FALSE(opens(QUrl(QStringLiteral("file://x.hu") + path("program/am.txt"))));
+    EXPECT_FALSE(opens(súgócímek::url(QStringLiteral("\\\\x.hu\\am.txt"))));
+}
+
+TEST_F(HelpAddress, of_a_missing_file_says_that_it_is_missing_only_where_it_might_open) {
+    EXPECT_EQ(reason(QUrl::fromLocalFile(path("program/nincs.html"))),
+              QStringLiteral("Nem található: „%1”.").arg(path("program/nincs.html")));
+    EXPECT_TRUE(reason(QUrl::fromLocalFile(path("other/nincs.html"))).endsWith(QStringLiteral("mappájában van.")));
+}
+
+TEST_F(HelpAddress, of_no_file_opens_without_a_program_folder) {
+    const súgócímek none{QString()};
+
+    EXPECT_TRUE(none.akadály(QUrl(QStringLiteral("file:///etc/passwd"))));
+    EXPECT_TRUE(none.akadály(QUrl::fromLocalFile(path("program/am.txt"))));
+}
+
+}  // namespace

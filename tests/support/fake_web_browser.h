@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QStringList>
+#include <QWidget>
+#include <memory>
+
+#include "lookup/web_browser.h"
+
+/// A browser that notes what it is told to do, and stands where a test says.
+class FakeWebBrowser final : public WebBrowser {
+  public:
+    QStringList done;
+    Notifications notifications;
+    bool is_busy = false;
+    QString name = QStringLiteral("Zimbora súgó");
+    QString address;
+    double zoom = 0;
+
+    void notify(const Notifications &to) override { notifications = to; }
+    [[nodiscard]] QWidget *widget() override { return widget_.get(); }
+    void set_zoom(double factor) override { zoom = factor; }
+
+    void navigate(const QUrl &to) override { done.append(to.toString()); }
+    void go_back() override { done.append(QStringLiteral("back")); }
+    void go_forward() override { done.append(QStringLiteral("forward")); }
+    void refresh() override { done.append(QStringLiteral("refresh")); }
+    void go_home() override { done.append(QStringLiteral("home")); }
+    void go_search() override { done.append(QStringLiteral("search")); }
+    void stop() override { done.append(QStringLiteral("stop")); }
+    [[nodiscard]] bool busy() const override { return is_busy; }
+    [[nodiscard]] QString location_name() const override { return name; }
+    [[nodiscard]] QString location_address() const override { return address; }
+
+  private:
+    /// Like a page it takes the focus.
+    std::unique_ptr<QWidget> widget_ = std::make_unique<QLineEdit>();
+};

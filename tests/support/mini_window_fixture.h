@@ -1,0 +1,130 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTimer>
+#include <QTimerEvent>
+#include <QtTest/QTest>
+#include <memory>
+
+#include "lookup/mini_window.h"
+#include "support/fake_desktop.h"
+#include "support/fake_dialogs.h"
+#include "support/fake_large_window.h"
+#include "support/printing.h"
+
+/// A mini window beside a main window, a clipboard and a screen of the test's own. Time stands still: the test steps
+/// the glide and the timer.
+class MiniWindowTest : public testing::Test {
+  protected:
+    MiniWindowTest() {
+        large_.dictionary = {{QStringLiteral("alma"), {QStringLiteral("apple")}},
+                             {QStringLiteral("almafa"), {QStringLiteral("apple tree"), QStringLiteral("apple wood")}},
+                             {QStringLiteral("ház"), {QStringLiteral("house"), QStringLiteral("home")}}};
+        state_.kisablakbal = 1234;
+        state_.kisablakfent = 2345;
+        state_.kisablakmód = 1;
+    }
+
+    ~MiniWindowTest() override {
+        large_.ends = true;
+        window_.reset();
+    }
+
+    MiniWindowTest(const MiniWindowTest &) = delete;
+    MiniWindowTest &operator=(const MiniWindowTest &) = delete;
+
+    void load() {
+        window_ = std::make_unique<frm_kisablak>(
+            kisablakkörnyezet{large_, state_, fitting_, boxes_, top_most_,
+                              [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
+                              [this] { return screens_; }, [this] { between_steps_(); }});
+    }
+
+    void open() {
+        load();
+        window_->Form_Activate();
+        QApplication::setActiveWindow(window_.get());
+    }
+
+    template <class Control>
+    [[nodiscard]] Control *control(const char *name) const {
+        auto *found = window_->findChild<Control *>(QString::fromUtf8(name));
+        if (!found)
+            qFatal("no control %s", name);
+        return found;
+    }
+    [[nodiscard]] ListBox *list(const char *name) const { return control<ListBox>(name); }
+    [[nodiscard]] QLabel *label(const char *name) const { return control<QLabel>(name); }
+    [[nodiscard]] QPushButton *button(const char *name) const { return control<QPushButton>(name); }
+    [[nodiscard]] QLineEdit *search_box() const { return control<QLineEdit>("txt_keres"); }
+    [[nodiscard]] QStringList hits() const { return list("lst_találatlista")->items(); }
+    [[nodiscard]] QStringList meanings() const { return list("lst_translate")->items(); }
+    [[nodiscard]] QString focused() const {
+        return window_->focusWidget() ? window_->focusWidget()->objectName() : QString();
+    }
+
+    void type(const char *text) {
+        for (const QChar letter : QString::fromUtf8(text))
+            QTest::sendKeyEvent(QTest::Click, search_box(), Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    }
+    void click(const char *name) { QTest::mouseClick(control<QWidget>(name), Qt::LeftButton); }
+    [[nodiscard]] QPoint middle_of_item(const char *name, int row) const {
+        return list(name)->visualRect(list(name)->model()->index(row, 0)).center();
+    }
+    void click_item(const char *name, int row) {
+        QTest::mouseClick(list(name)->viewport(), Qt::LeftButton, {}, middle_of_item(name, row));
+    }
+
+    /// A clipboard text is copied by another program, and the timer's time comes.
+    void copy(const QString &text) {
+        clipboard_.put(text);
+        tick();
+    }
+    void copy(const char *text) { copy(QString::fromUtf8(text)); }
+    void tick() {
+        auto *timer = window_->findChild<QTimer *>(QStringLiteral("Timer1"));
+        QTimerEvent expired(timer->timerId());
+        QCoreApplication::sendEvent(timer, &expired);
+    }
+
+    // The mouse, at a place on the screen in pixels.
+    static void mouse(QWidget *on, QEvent::Type type, const QPoint &at, Qt::MouseButton button,
+                      Qt::MouseButtons buttons) {
+        QMouseEvent event(type, on->mapFromGlobal(QPointF(at)), QPointF(at), button, buttons, Qt::NoModifier);
+        QCoreApplication::sendEvent(on, &event);
+    }
+    static void press(QWidget *on, const QPoint &at, Qt::MouseButton button = Qt::LeftButton) {
+        mouse(on, QEvent::MouseButtonPress, at, button, button);
+    }
+    static void move(QWidget *on, const QPoint &to, Qt::MouseButtons held = Qt::LeftButton) {
+        mouse(on, QEvent::MouseMove, to, Qt::NoButton, held);
+    }
+    static void release(QWidget *on, const QPoint &at, Qt::MouseButton button = Qt::LeftButton) {
+        mouse(on, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+    }
+    [[nodiscard]] static QPoint middle_of(const QWidget *widget) {
+        return widget->mapToGlobal(widget->rect().center());
+    }
+
+    /// The place that is kept, in twips.
+    [[nodiscard]] QPoint kept_place() const { return {state_.kisablakbal, state_.kisablakfent}; }
+
+    QRectF screen_{0, 0, 1024 * 15, 768 * 15};
+    QVector<QRectF> screens_{screen_};
+    FakeLargeWindow large_;
+    global::programállapot state_;
+    frm_referencia reference_;
+    Module_hasznos fitting_{reference_, [this] { return screen_; }};
+    FakeMessageBoxes boxes_;
+    FakeTopMost top_most_;
+    FakeClipboard clipboard_;
+    /// Called between two steps of a glide.
+    std::function<void()> between_steps_ = [] {};
+    std::unique_ptr<frm_kisablak> window_;
+};
