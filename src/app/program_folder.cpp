@@ -23,6 +23,19 @@ void link_dictionaries(const QDir &from, const QDir &to) {
     }
 }
 
+/// Copied, because the help viewer opens no file whose link leads elsewhere; a copy that an update has made old is made
+/// anew.
+void copy_help(const QDir &from, const QDir &to) {
+    for (const QFileInfo &original : from.entryInfoList(QDir::Files)) {
+        const QFileInfo copy(to.filePath(original.fileName()));
+        if (copy.exists() && copy.lastModified() >= original.lastModified())
+            continue;
+        to.mkpath(QStringLiteral("."));
+        QFile::remove(copy.filePath());
+        QFile::copy(original.filePath(), copy.filePath());
+    }
+}
+
 /// The folder that applies before the user's documents are looked at.
 std::optional<QString> folder_that_is_there(const ProgramFolderPlaces &places) {
     if (!places.environment.isEmpty())
@@ -49,6 +62,10 @@ QString find_program_folder(const ProgramFolderPlaces &places) {
         return *ready;
     const QDir own = own_folder(places);
     QDir().mkpath(own.path());
-    link_dictionaries(QDir(places.installed_dictionaries), own);
+    const QDir installed(places.installed_dictionaries);
+    link_dictionaries(installed, own);
+    // Its address is the text of the folder immediately followed by this one.
+    copy_help(QDir(installed.filePath(QStringLiteral("help"))),
+              QDir(own.absolutePath() + QStringLiteral("kavaro/help")));
     return own.absolutePath();
 }

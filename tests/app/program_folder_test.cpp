@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include "support/files_for_tests.h"
@@ -54,6 +56,36 @@ TEST_F(ProgramFolder, is_made_in_the_documents_and_linked_to_the_installed_dicti
     EXPECT_EQ(read_file(folder + QStringLiteral("/am.txt")), "dictionary");
     EXPECT_TRUE(QFileInfo(folder + QStringLiteral("/am.txt")).isSymLink());
     EXPECT_FALSE(QFileInfo::exists(folder + QStringLiteral("/ma.txt")));
+}
+
+TEST_F(ProgramFolder, is_made_with_a_copy_of_the_help_beside_it) {
+    QDir(root_.path()).mkpath(QStringLiteral("share/help"));
+    write_file(place("share/help/Kavaro súgó.mht"), "help");
+
+    const QString folder = find_program_folder(started_from("other"));
+
+    const QString copy = folder + QStringLiteral("kavaro/help/Kavaro súgó.mht");
+    EXPECT_EQ(read_file(copy), "help");
+    EXPECT_FALSE(QFileInfo(copy).isSymLink());
+}
+
+TEST_F(ProgramFolder, copies_the_help_again_after_an_update_and_only_then) {
+    QDir(root_.path()).mkpath(QStringLiteral("share/help"));
+    const QString installed = place("share/help/Kavaro súgó.mht");
+    write_file(installed, "old");
+    const QString copy = find_program_folder(started_from("other")) + QStringLiteral("kavaro/help/Kavaro súgó.mht");
+
+    write_file(copy, "read");
+    static_cast<void>(find_program_folder(started_from("other")));
+    EXPECT_EQ(read_file(copy), "read");
+
+    write_file(installed, "new");
+    QFile updated(installed);
+    ASSERT_TRUE(updated.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(updated.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime));
+    updated.close();
+    static_cast<void>(find_program_folder(started_from("other")));
+    EXPECT_EQ(read_file(copy), "new");
 }
 
 TEST_F(ProgramFolder, mends_a_link_whose_dictionary_has_moved) {
