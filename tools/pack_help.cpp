@@ -23,14 +23,14 @@ const char *const usage =
 
 int run(const QString &folder, const QString &output_folder) {
     const auto result = help::pack(folder, output_folder);
-    if (const auto *failure = std::get_if<Failure>(&result)) {
+    const auto *packed = std::get_if<help::Packed>(&result);
+    if (const auto *failure = std::get_if<Failure>(&result); packed == nullptr) {
         QTextStream(stderr) << failure->sentence << Qt::endl;
         return failed;
     }
-    const auto &packed = std::get<help::Packed>(result);
     QTextStream(stdout) << QStringLiteral("%1: %2 lap, %3 kép.\n")
-                               .arg(help::archive_name, QString::number(packed.pages),
-                                    QString::number(packed.pictures));
+                               .arg(help::archive_name, QString::number(packed->pages),
+                                    QString::number(packed->pictures));
     return done;
 }
 

@@ -14,4 +14,5 @@ display_packages=(xvfb openbox xdotool x11-utils xclip imagemagick procps)
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
     clang clang-format clang-tidy libclang-rt-14-dev
+    xterm
 )

@@ -138,6 +138,7 @@ class szótár final : public ablak, private szószedetablak, private szószedet
 
     // Help and information (main_window_info.cpp)
     void info_eseményeket_köt();
+    void súgót_előhoz();
     void mnu_súgó_Click();
     void mnunévjegy_Click();
     void mnu_cim_Click();

@@ -25,14 +25,22 @@ std::unique_ptr<frm_súgó> szótár::új_súgó() {
                                                     k_.böngésző, [this] { súgó_.unload(); }});
 }
 
-void szótár::mnu_súgó_Click() {
+void szótár::súgót_előhoz() {
     súgó_.get().show();
     súgó_.get().raise();
     súgó_.get().activateWindow();
 }
 
+void szótár::mnu_súgó_Click() {
+    // A window that is made now opens the help by itself.
+    const bool nyitva_volt = súgó_.loaded();
+    súgót_előhoz();
+    if (nyitva_volt)
+        súgó_.get().súgóhoz();
+}
+
 void szótár::mnu_cim_Click() {
-    mnu_súgó_Click();
+    súgót_előhoz();
     súgó_.get().megnyit(súgócímek(k_.állapot.programkönyvtár).készítőcím());
 }
 

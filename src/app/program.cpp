@@ -23,6 +23,8 @@ namespace {
 constexpr std::chrono::milliseconds animation_step(10);
 /// 100 make a glide of a quarter of a second.
 constexpr std::chrono::milliseconds glide_step(2);
+/// The program folder is made faster than anybody reads.
+constexpr std::chrono::milliseconds splash_time(1500);
 
 QRectF in_twips(const QScreen &screen) {
     const QRectF pixels = screen.geometry();
@@ -85,7 +87,8 @@ void Program::start(const QString &command_line) {
     if (program_folder_is_missing(places_)) {
         splash.emplace(fitting_, QCoreApplication::applicationVersion(), QSysInfo::prettyProductName());
         splash->show();
-        QCoreApplication::processEvents();
+        splash->repaint();
+        wait_without_input(splash_time);
     }
     state_.programkönyvtár = find_program_folder(places_);
     main_window_.Form_Load(command_line);

@@ -4,6 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <optional>
+#include <variant>
+
+#include "platform/files.h"
 
 namespace {
 
@@ -23,16 +26,19 @@ void link_dictionaries(const QDir &from, const QDir &to) {
     }
 }
 
-/// Copied, because the help viewer opens no file whose link leads elsewhere; a copy that an update has made old is made
-/// anew.
+/// Copied, because the help viewer opens no file whose link leads elsewhere; a copy that is another one than the
+/// installed file is made anew.
 void copy_help(const QDir &from, const QDir &to) {
     for (const QFileInfo &original : from.entryInfoList(QDir::Files)) {
-        const QFileInfo copy(to.filePath(original.fileName()));
-        if (copy.exists() && copy.lastModified() >= original.lastModified())
+        const FileContent wanted = files::read_whole(original.filePath());
+        const auto *bytes = std::get_if<QByteArray>(&wanted);
+        const QString copy = to.filePath(original.fileName());
+        const FileContent present = files::read_whole(copy);
+        const auto *old_bytes = std::get_if<QByteArray>(&present);
+        if (!bytes || (old_bytes && *old_bytes == *bytes) || !to.mkpath(QStringLiteral(".")))
             continue;
-        to.mkpath(QStringLiteral("."));
-        QFile::remove(copy.filePath());
-        QFile::copy(original.filePath(), copy.filePath());
+        // Where the copy cannot be written, the viewer tells that it is missing.
+        static_cast<void>(files::replace_whole(copy, *bytes));
     }
 }
 

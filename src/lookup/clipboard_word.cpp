@@ -17,7 +17,8 @@ std::optional<QString> vágólapszó::új_szó(const QString &szöveg) {
     szöveg_ = szöveg;
     if (szöveg.size() > leghosszabb || std::any_of(szöveg.cbegin(), szöveg.cend(), sorvég))
         return std::nullopt;
-    return szöveg.trimmed().toLower();
+    const QString szó = szöveg.trimmed().toLower();
+    return szó.isEmpty() ? std::nullopt : std::optional(szó);
 }
 
 void rövidítve_keres(QString szó, const std::function<std::optional<bool>(const QString &)> &keres) {

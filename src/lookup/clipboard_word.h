@@ -14,7 +14,7 @@ class vágólapszó final {
     void megjegyez(const QString &szöveg) { szöveg_ = szöveg; }
 
     /// The word to look up, when this text is another one than the last time: without blanks round it, in lower case.
-    /// Nothing when it is the same, or no word: too long, or of several lines.
+    /// Nothing when it is the same, or no word: blank, too long, or of several lines.
     [[nodiscard]] std::optional<QString> új_szó(const QString &szöveg);
 
   private:

@@ -182,6 +182,12 @@ void frm_súgó::megnyit(const QString &cím) {
     cboAddress_Click();
 }
 
+void frm_súgó::súgóhoz() {
+    const auto lap = [](const QString &cím) { return súgócímek::url(cím).adjusted(QUrl::RemoveFragment); };
+    if (lap(brwWebBrowser_->location_address()) != lap(kezdőcím_))
+        megnyit(kezdőcím_);
+}
+
 void frm_súgó::navigál() {
     const QString szöveg = cboAddress_->currentText();
     if (szöveg.trimmed().isEmpty())

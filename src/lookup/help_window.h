@@ -37,6 +37,8 @@ class frm_súgó final : public ablak {
 
     /// Puts an address into the address box and opens it.
     void megnyit(const QString &cím);
+    /// Opens the help document unless it is the one that is shown.
+    void súgóhoz();
 
   protected:
     void Form_Resize() override;

@@ -32,6 +32,8 @@ constexpr QRectF nagyhely(szél + 2100, 4110, belső - 2100, 360);
 
 constexpr double képernyőrész = 0.42;
 constexpr int vágólapidő = 300;
+/// No panel of a desktop is wider than this, in twips.
+constexpr double panelméret = 1500;
 
 const QString fejléc_súgója = QStringLiteral(
     "Ha megfogja a fejlécet az egérrel, szabadon áthelyezheti az ablakot.  Az F2 megnyomására az ablak a "
@@ -225,6 +227,16 @@ void frm_kisablak::moveEvent(QMoveEvent *event) {
         hol_ = QPointF(pos()) * twips::per_pixel;
 }
 
+void frm_kisablak::changeEvent(QEvent *event) {
+    ablak::changeEvent(event);
+    // Minimised along with a full-screen window that it stands above, it would be nowhere: it has no button for that.
+    if (event->type() == QEvent::WindowStateChange && isMinimized())
+        QTimer::singleShot(0, this, [this] {
+            setAttribute(Qt::WA_ShowWithoutActivating);
+            showNormal();
+        });
+}
+
 void frm_kisablak::helyet_megjegyez() {
     k_.állapot.kisablakbal = qRound(hol_.x());
     k_.állapot.kisablakfent = qRound(hol_.y());
@@ -312,7 +324,10 @@ void frm_kisablak::cmd_x_Click() {
 
 void frm_kisablak::cmd_lent_Click() {
     const QSizeF képernyő = k_.hasznos.képernyő().size();
-    ablakcsúsztat(hol_, következő_sarok(hol_, {szélesség(), magasság()}, képernyő));
+    // A desktop with a panel keeps the window a little off the corner that it was sent to.
+    const bool ott_van = sarok_ && (*sarok_ - hol_).manhattanLength() < panelméret;
+    sarok_ = következő_sarok(ott_van ? *sarok_ : hol_, {szélesség(), magasság()}, képernyő);
+    ablakcsúsztat(hol_, *sarok_);
     helyet_megjegyez();
 }
 
@@ -328,6 +343,7 @@ void frm_kisablak::label_fejléc_MouseDown(const QPointF &mutató) {
 }
 
 void frm_kisablak::label_fejléc_MouseMove(const QPointF &mutató) {
+    sarok_.reset();
     helyez(mutató * twips::per_pixel - QPointF(fogáspontX_, fogáspontY_));
     helyet_megjegyez();
 }
@@ -375,14 +391,15 @@ bool frm_kisablak::fogás_gombon(QPushButton &gomb, const QMouseEvent &esemény)
 }
 
 bool frm_kisablak::fejlécgomb(QLabel &gomb, const QMouseEvent &esemény) {
+    // What the window sees drags it, and these two do not.
     if (esemény.button() != Qt::LeftButton)
-        return false;
+        return true;
     if (esemény.type() == QEvent::MouseButtonPress || esemény.type() == QEvent::MouseButtonDblClick) {
         háttérszínez(gomb, QColor(255, 0, 0));
         return true;
     }
     if (esemény.type() != QEvent::MouseButtonRelease)
-        return false;
+        return true;
     háttérszínez(gomb, QColor(255, 255, 255));
     if (!gomb.rect().contains(esemény.position().toPoint()))
         return true;
@@ -422,6 +439,8 @@ bool frm_kisablak::eventFilter(QObject *watched, QEvent *event) {
             alapgombbeállít(watched == lst_translate_ ? cmd_szószedethez_ad_ : cmd_keres_);
             break;
         case QEvent::ToolTip:
+            if (static_cast<QWidget *>(watched)->toolTip().isEmpty())
+                break;
             // As rich text a long tip is broken into lines.
             QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
                                QStringLiteral("<p style='white-space:pre-wrap'>%1</p>")

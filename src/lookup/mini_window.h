@@ -8,6 +8,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "app/global.h"
 #include "lookup/clipboard_word.h"
@@ -61,6 +62,7 @@ class frm_kisablak final : public ablak {
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
   private:
@@ -117,6 +119,8 @@ class frm_kisablak final : public ablak {
     vágólapszó vágólapszöveg_;
     /// Place of the top left corner among all screens, in twips; exact where the program has put it.
     QPointF hol_;
+    /// The corner that it was sent to last; nothing once it has been dragged away.
+    std::optional<QPointF> sarok_;
     /// Where the left mouse button went down, in whole twips from the top left corner.
     qint32 fogáspontX_ = 0;
     qint32 fogáspontY_ = 0;

@@ -3,13 +3,18 @@
 #include <algorithm>
 #include <limits>
 
+namespace {
+
+/// So much of the top left corner must be seen for the window to be taken hold of.
+constexpr QPointF fogható(900, 300);
+
+}  // namespace
+
 QPointF képernyőre(const QPointF &hol, const QSizeF &ablak, const QVector<QRectF> &képernyők) {
     QPointF legjobb = hol;
     double legrövidebb = std::numeric_limits<double>::infinity();
     for (const QRectF &képernyő : képernyők) {
-        // The right and bottom edges belong to the next screen.
-        if (hol.x() >= képernyő.left() && hol.x() < képernyő.right() && hol.y() >= képernyő.top() &&
-            hol.y() < képernyő.bottom())
+        if (képernyő.contains(hol) && képernyő.contains(hol + fogható))
             return hol;
         const QPointF benne = képernyőbe(hol, ablak, képernyő);
         const QPointF út = benne - hol;

@@ -16,13 +16,14 @@ class QWidget;
 /// a history, does nothing.
 class WebBrowser {
   public:
-    /// What the browser tells, each from the event loop and while the browser exists.
+    /// What the browser tells while it exists.
     struct Notifications {
         /// A document is there, or will not come.
         std::function<void()> download_finished;
         /// The browser stands at another address.
         std::function<void()> navigation_finished;
-        /// Something was not opened; the sentence in Hungarian says what and why.
+        /// Something was not opened; the sentence in Hungarian says what and why. From the event loop, so that a
+        /// message may be shown; nothing more is refused aloud meanwhile.
         std::function<void(const QString &sentence)> refused;
     };
 

@@ -19,12 +19,12 @@ class ShortText final : public QStyledItemDelegate {
         return text.replace(u'\n', u' ').replace(QChar::Null, u' ');
     }
 
-    /// Shows the whole text of an item that the list cuts off.
+    /// Shows the whole text of an item that the list cuts off; otherwise the tip of the list.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override {
         const QString text = displayText(index.data(), {});
         const bool cut = option.fontMetrics.horizontalAdvance(text) > option.rect.width();
-        QToolTip::showText(event->globalPos(), cut ? text : QString(), view);
+        QToolTip::showText(event->globalPos(), cut ? text : view->toolTip(), view);
         return true;
     }
 };

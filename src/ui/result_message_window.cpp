@@ -25,6 +25,7 @@ constexpr QSizeF gombméret(1500, 600);
     Timer1_->setTimerType(Qt::PreciseTimer);
     connect(Timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
     alapgombbeállít(cmd_ok_);
+    mégsegombbeállít(cmd_ok_);
 }
 
 void üzenet::sorokat_rak(int darab) {

@@ -31,7 +31,6 @@ FrmFolyamat::FrmFolyamat(const Module_hasznos &hasznos, const QString &verzió, 
       lblVersion_(named(new QLabel(verzió + QStringLiteral(" verzió")), u"lblVersion")),
       lblMaker_(named(new QLabel(QStringLiteral("A programkönyvtár első indításkor készül el.")), u"lblMaker")),
       imgLogo_(named(new PictureBox, u"imgLogo", u"A program ikonja")) {
-    setWindowTitle(QStringLiteral("Indulás"));
     Frame1_->setFrameStyle(QFrame::Box | QFrame::Plain);
     elhelyez(Frame1_, kerethely);
     elhelyez(imgLogo_, logóhely);
@@ -48,6 +47,8 @@ FrmFolyamat::FrmFolyamat(const Module_hasznos &hasznos, const QString &verzió, 
     QFont betű = lblMaker_->font();
     betű.setFamilies({fonts::times_new_roman_ce});
     lblMaker_->setFont(betű);
+    // The part of the title that other windows begin with is not known yet.
+    setWindowTitle(QStringLiteral("Zimbora"));
     imgLogo_->set_background(háttérszín());
     imgLogo_->set_picture(windowIcon().pixmap(imgLogo_->size(), devicePixelRatioF()));
 }

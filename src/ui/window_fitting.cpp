@@ -255,7 +255,17 @@ void Module_hasznos::szövegbeigazít(QWidget &hova, const QString &szöveg) {
 
 QString Module_hasznos::sorokra(const PictureBox &hova, const QString &szöveg, double pont) {
     Betűpróba próba(hova.font());
-    return tördelt(rövidített(szöveg), hova.inner_size().width(), pont, próba);
+    const QSizeF hely = hova.inner_size();
+    QStringList sorok = tördelt(rövidített(szöveg), hely.width(), pont, próba).split(u'\n');
+    const auto elférő =
+        std::max<qsizetype>(1, static_cast<qsizetype>(hely.height() / próba.méret(pont, szöveg).height()));
+    if (sorok.size() > elférő) {
+        sorok.resize(elférő);
+        while (!sorok.back().isEmpty() && próba.méret(pont, sorok.back() + u'…').width() >= hely.width())
+            sorok.back().chop(1);
+        sorok.back() += u'…';
+    }
+    return sorok.join(u'\n');
 }
 
 void Module_hasznos::szövegbeigazít(QWidget &hova, double szám) {

@@ -36,7 +36,8 @@ class Module_hasznos final {
     /// button takes it, or its own caption when it is empty, in the first size in which it reaches 90 % of the
     /// control's width or height.
     static void szövegbeigazít(QWidget &hova, const QString &szöveg);
-    /// `szöveg`, broken into lines where it is wider than a picture box in letters of `pont` points.
+    /// `szöveg`, broken into lines where it is wider than a picture box in letters of `pont` points; "…" ends what is
+    /// longer than the box is high.
     [[nodiscard]] static QString sorokra(const PictureBox &hova, const QString &szöveg, double pont);
     /// A number is fitted as its text.
     static void szövegbeigazít(QWidget &hova, double szám);

@@ -1,7 +1,7 @@
 #include <QTimer>
-#include <QTimerEvent>
 
 #include "support/main_window_fixture.h"
+#include "support/timers.h"
 
 namespace {
 
@@ -35,9 +35,7 @@ class MainWindowMini : public MainWindowTest {
 
     void copy(const char *text) {
         clipboard_.put(QString::fromUtf8(text));
-        auto *timer = mini_control<QTimer>("Timer1");
-        QTimerEvent expired(timer->timerId());
-        QCoreApplication::sendEvent(timer, &expired);
+        expire(*mini_control<QTimer>("Timer1"));
     }
 
     [[nodiscard]] static bool mini_window_goes() {

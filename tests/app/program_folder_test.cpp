@@ -4,7 +4,7 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include "support/files_for_tests.h"
@@ -75,15 +75,11 @@ TEST_F(ProgramFolder, copies_the_help_again_after_an_update_and_only_then) {
     write_file(installed, "old");
     const QString copy = find_program_folder(started_from("other")) + QStringLiteral("kavaro/help/Kavaro súgó.mht");
 
-    write_file(copy, "read");
+    const QDateTime copied = QFileInfo(copy).lastModified();
     static_cast<void>(find_program_folder(started_from("other")));
-    EXPECT_EQ(read_file(copy), "read");
+    EXPECT_EQ(QFileInfo(copy).lastModified(), copied);
 
     write_file(installed, "new");
-    QFile updated(installed);
-    ASSERT_TRUE(updated.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(updated.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime));
-    updated.close();
     static_cast<void>(find_program_folder(started_from("other")));
     EXPECT_EQ(read_file(copy), "new");
 }

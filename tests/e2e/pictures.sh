@@ -3,6 +3,7 @@
 # windows on small and large screens, to be looked at before a change of a window lands; of all scenes when none is named.
 set -euo pipefail
 source "$(dirname "$0")/lib.sh"
+source "$(dirname "$0")/mini_window.sh"
 
 # display paints the screen and still ends with 1.
 paint_background() {
@@ -16,10 +17,14 @@ screen_is_grey() {
 
 # Takes a picture when nothing moves any more: two in a row are the same.
 take_picture() {
-    import -window root "$temp/now.png"
-    wait_until "a still screen" screen_is_still
+    wait_for_still_screen
     mv "$temp/now.png" "$pictures/$1-$size.png"
     echo "$pictures/$1-$size.png"
+}
+
+wait_for_still_screen() {
+    import -window root "$temp/now.png"
+    wait_until "a still screen" screen_is_still
 }
 
 screen_is_still() {
@@ -165,6 +170,63 @@ memory() {
     end_program
 }
 
+# Over the window of another program.
+mini_window() {
+    xterm -T "other program" -geometry 60x20+100+100 -e cat 2>"$temp/xterm.log" &
+    local other=$!
+    wait_for_title "other program"
+    start_mini_window 400 150
+    take_picture mini-window-empty
+    write light
+    wait_until "the typed word" typed_text_is light
+    press End
+    take_picture mini-window
+    end_program
+    kill "$other"
+    rm "$(mini_file)"
+}
+
+about_box() {
+    start_program
+    press alt+i n
+    wait_for_title "About Zimbora"
+    take_picture about-box
+    press alt+s
+    wait_for_title "$(title_of_exercise Rendszeradatok)"
+    take_picture text-window
+    end_program
+}
+
+# What the help viewer says about an address that it does not follow.
+timed_message() {
+    start_program
+    press F1
+    wait_until "the help" another_window_is_in_front
+    # A page that has come writes its own address.
+    wait_for_still_screen
+    press alt+a
+    write "mailto:nobody"
+    press Return
+    wait_for_title "$(title_of_exercise Üzenet)"
+    take_picture timed-text-window
+    end_program
+}
+
+# The very first start, of a program that lies outside its build folder. Its message about a list that does not exist
+# holds it in front of the splash.
+splash() {
+    cp "$binary" "$temp/zimbora"
+    env -u ZIMBORA_PROGRAM "$temp/zimbora" "\"/nothing.szs\"" >"$temp/program.log" 2>&1 &
+    program=$!
+    children+=("$program")
+    wait_for_title "Zimbora"
+    xdotool getactivewindow windowmove 0 0
+    take_picture splash
+    end_program
+    rm -r "$HOME"
+    mkdir "$HOME"
+}
+
 binary=$(realpath "$1")
 dictionaries=$(realpath "$2")
 pictures=$(realpath "$3")
@@ -192,5 +254,9 @@ for size in 1024x768 1920x1080 2560x1440; do
     scene exercises 1024x768 2560x1440
     scene puzzle 1024x768 2560x1440
     scene memory 1024x768 2560x1440
+    scene mini_window 1024x768 2560x1440
+    scene about_box 1024x768 2560x1440
+    scene timed_message 1024x768 2560x1440
+    scene splash 1024x768 2560x1440
     end_children
 done

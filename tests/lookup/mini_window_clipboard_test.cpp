@@ -142,6 +142,15 @@ TEST_F(MiniWindowClipboard, gives_way_to_what_the_user_types_meanwhile) {
     EXPECT_EQ(hits(), QStringList({QStringLiteral("alma"), QStringLiteral("almafa")}));
 }
 
+TEST_F(MiniWindowClipboard, leaves_what_the_user_types_meanwhile_even_when_nothing_is_found) {
+    while_searching("qqq", [this] { search_box()->setText(QStringLiteral("xyz")); });
+
+    copy("qqqq");
+
+    EXPECT_EQ(search_box()->text(), QStringLiteral("xyz"));
+    EXPECT_EQ(large_.searched(), QStringList({QStringLiteral("qqqq"), QStringLiteral("qqq"), QStringLiteral("xyz")}));
+}
+
 TEST_F(MiniWindowClipboard, gives_way_to_a_word_that_is_copied_meanwhile) {
     while_searching("qqq", [this] { copy("házak"); });
 

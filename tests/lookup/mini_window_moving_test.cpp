@@ -281,6 +281,31 @@ TEST_F(MiniWindowMoving, still_takes_a_click_with_a_trembling_hand_for_a_click) 
     }
 }
 
+TEST_F(MiniWindowMoving, takes_a_click_for_a_click_after_a_drag_whose_end_it_was_not_told) {
+    open();
+    const QPoint at = middle_of(button("cmd_keres"));
+    press(button("cmd_keres"), at);
+    move(button("cmd_keres"), at + QPoint(40, 40));
+
+    const QPoint again = middle_of(button("cmd_keres"));
+    press(button("cmd_keres"), again);
+    release(button("cmd_keres"), again);
+
+    EXPECT_EQ(large_.calls.value(0), QStringLiteral("Ok_Click"));
+}
+
+TEST_F(MiniWindowMoving, keeps_its_grip_when_another_mouse_button_is_pressed_during_a_drag) {
+    open();
+    QLabel *header = label("label_fejléc");
+    const QPoint at = middle_of(header);
+
+    press(header, at);
+    mouse(header, QEvent::MouseButtonPress, at + QPoint(7, 7), Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    move(header, at + QPoint(20, 20), Qt::LeftButton | Qt::RightButton);
+
+    EXPECT_EQ(kept_place(), QPoint(1234 + 20 * 15, 2345 + 20 * 15));
+}
+
 TEST_F(MiniWindowMoving, follows_a_drag_far_beyond_every_screen) {
     open();
     QLabel *header = label("label_fejléc");

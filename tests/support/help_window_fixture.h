@@ -34,7 +34,10 @@ class HelpWindowTest : public testing::Test {
     /// Loads the viewer, but does not show it.
     void load(WebBrowserFactory browser) {
         window_ = std::make_unique<frm_súgó>(súgókörnyezet{program_, fitting_, main_window_, boxes_,
-                                                           [this](const QString &text) { notes_.append(text); },
+                                                           [this](const QString &text) {
+                                                               notes_.append(text);
+                                                               during_note_();
+                                                           },
                                                            std::move(browser), [this] { ++closed_; }});
     }
 
@@ -79,6 +82,8 @@ class HelpWindowTest : public testing::Test {
     Module_hasznos fitting_{reference_, [this] { return screen_; }};
     FakeMessageBoxes boxes_;
     QStringList notes_;
+    /// Called while a note would be open.
+    std::function<void()> during_note_ = [] {};
     int closed_ = 0;
     std::unique_ptr<frm_súgó> window_;
 };

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTimer>
 #include <algorithm>
 #include <functional>
@@ -27,6 +28,7 @@ class MessageTest : public testing::Test {
         bool looked = false;
         QTimer::singleShot(0, &window, [&] {
             looked = window.isVisible() && window.isModal();
+            QApplication::setActiveWindow(&window);
             look();
             window.close();
         });

@@ -8,7 +8,6 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
-#include <QTimerEvent>
 #include <QtTest/QTest>
 #include <memory>
 
@@ -17,6 +16,7 @@
 #include "support/fake_dialogs.h"
 #include "support/fake_large_window.h"
 #include "support/printing.h"
+#include "support/timers.h"
 
 /// A mini window beside a main window, a clipboard and a screen of the test's own. Time stands still: the test steps
 /// the glide and the timer.
@@ -87,11 +87,7 @@ class MiniWindowTest : public testing::Test {
         tick();
     }
     void copy(const char *text) { copy(QString::fromUtf8(text)); }
-    void tick() {
-        auto *timer = window_->findChild<QTimer *>(QStringLiteral("Timer1"));
-        QTimerEvent expired(timer->timerId());
-        QCoreApplication::sendEvent(timer, &expired);
-    }
+    void tick() { expire(*window_->findChild<QTimer *>(QStringLiteral("Timer1"))); }
 
     // The mouse, at a place on the screen in pixels.
     static void mouse(QWidget *on, QEvent::Type type, const QPoint &at, Qt::MouseButton button,

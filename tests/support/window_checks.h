@@ -70,7 +70,8 @@ inline void expect_no_overlap(const ablak &window) {
         for (const QWidget *other : window.vezérlők()) {
             if (one == other || is_left_out(one) || is_left_out(other))
                 continue;
-            EXPECT_FALSE(window.hely(one).intersects(window.hely(other)))
+            // Places that only touch may differ in the last digit when they are scaled.
+            EXPECT_FALSE(window.hely(one).adjusted(0.01, 0.01, -0.01, -0.01).intersects(window.hely(other)))
                 << one->objectName().toStdString() << " and " << other->objectName().toStdString();
         }
     }

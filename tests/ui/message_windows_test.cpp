@@ -2,10 +2,10 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTimer>
-#include <QTimerEvent>
 #include <memory>
 
 #include "support/message_fixture.h"
+#include "support/timers.h"
 #include "ui/text_window.h"
 #include "ui/timed_text_window.h"
 
@@ -109,10 +109,6 @@ class TimedTextWindow : public MessageTest {
     }
     [[nodiscard]] QPushButton *ok() const { return control<QPushButton>(*window_, "cmd_ok"); }
     [[nodiscard]] QTimer *timer() const { return control<QTimer>(*window_, "timer_bezár"); }
-    void expire() {
-        QTimerEvent expired(timer()->timerId());
-        QCoreApplication::sendEvent(timer(), &expired);
-    }
 
     std::unique_ptr<frm_szövegüzenet> window_;
 };
@@ -131,7 +127,7 @@ TEST_F(TimedTextWindow, closes_when_its_time_is_over) {
         EXPECT_EQ(timer()->interval(), 12345);
         EXPECT_TRUE(timer()->isActive());
 
-        expire();
+        expire(*timer());
 
         EXPECT_FALSE(window_->isVisible());
     });

@@ -245,6 +245,7 @@ TEST_F(TextFitting, leaves_a_text_in_one_line_that_a_size_lets_fit) {
 }
 
 TEST_F(TextFitting, breaks_a_text_at_blanks_into_lines_that_fit_in_the_given_size) {
+    box_.setFont(QFont(QStringList{fonts::times_new_roman}));
     const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le");
     for (const double points : {20.0, 30.0, 40.0}) {
         const QString lines = Module_hasznos::sorokra(box_, text, points);
@@ -258,6 +259,7 @@ TEST_F(TextFitting, breaks_a_text_at_blanks_into_lines_that_fit_in_the_given_siz
 }
 
 TEST_F(TextFitting, breaks_a_word_inside_that_is_wider_than_the_box_in_the_given_size) {
+    box_.setFont(QFont(QStringList{fonts::times_new_roman}));
     const QString word = QStringLiteral("megszentségteleníthetetlenségeskedéseitekért");
 
     const QString lines = Module_hasznos::sorokra(box_, QStringLiteral("egy ") + word, 40);

@@ -1,6 +1,8 @@
 #include "lookup/webengine/engine_browser.h"
 
 #include <QAction>
+#include <QPointer>
+#include <QTimer>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineLoadingInfo>
 
@@ -29,7 +31,7 @@ EngineBrowser::EngineBrowser(const WebBrowserRules &rules)
     profile_->setHttpAcceptLanguage(QStringLiteral("hu-HU,hu;q=0.9,en;q=0.5"));
     connect(profile_.get(), &QWebEngineProfile::downloadRequested, this, [this](QWebEngineDownloadRequest *download) {
         download->cancel();
-        notifications_.refused(QStringLiteral("Innen nem tölthető le fájl: „%1”.").arg(download->suggestedFileName()));
+        refuse(QStringLiteral("Innen nem tölthető le fájl: „%1”.").arg(download->suggestedFileName()));
     });
     watch_page();
     fill_context_menu();
@@ -44,6 +46,7 @@ EngineBrowser::~EngineBrowser() {
 
 void EngineBrowser::watch_page() {
     connect(page_.get(), &QWebEnginePage::loadFinished, this, [this] {
+        renew_focus();
         notifications_.navigation_finished();
         notifications_.download_finished();
     });
@@ -53,11 +56,33 @@ void EngineBrowser::watch_page() {
             notifications_.navigation_finished();
     });
     connect(page_.get(), &QWebEnginePage::loadingChanged, this, &EngineBrowser::tell_failure);
-    connect(page_.get(), &EnginePage::refused, this,
-            [this](const QString &sentence) { notifications_.refused(sentence); });
+    connect(page_.get(), &EnginePage::refused, this, [this](const QString &sentence) { refuse(sentence); });
     connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, [this](auto status) {
         if (status != QWebEnginePage::NormalTerminationStatus)
-            notifications_.refused(QStringLiteral("A lap megjelenítése megszakadt. A Frissítés gomb újra megnyitja."));
+            refuse(QStringLiteral("A lap megjelenítése megszakadt. A Frissítés gomb újra megnyitja."));
+    });
+}
+
+void EngineBrowser::renew_focus() {
+    // A page in a new process does not know that it has the focus of the page before, and would not show which link has
+    // it.
+    QWidget *drawn = view_->focusProxy();
+    if (!drawn || !drawn->hasFocus())
+        return;
+    drawn->clearFocus();
+    drawn->setFocus();
+}
+
+void EngineBrowser::refuse(const QString &sentence) {
+    // A page may try again and again while its reader is being told.
+    if (telling_)
+        return;
+    telling_ = true;
+    // The engine waits for an answer, and who is told may wait for the user, who may have closed the window.
+    QTimer::singleShot(0, this, [self = QPointer<EngineBrowser>(this), tell = notifications_.refused, sentence] {
+        tell(sentence);
+        if (self)
+            self->telling_ = false;
     });
 }
 
@@ -65,8 +90,7 @@ void EngineBrowser::tell_failure(const QWebEngineLoadingInfo &info) {
     // With a status of its own the server has sent a page of its own.
     if (info.status() == QWebEngineLoadingInfo::LoadFailedStatus &&
         info.errorDomain() != QWebEngineLoadingInfo::HttpStatusCodeDomain)
-        notifications_.refused(
-            QStringLiteral("A(z) „%1” lap nem tölthető be: %2").arg(info.url().toDisplayString(), reason_of(info)));
+        refuse(QStringLiteral("A(z) „%1” lap nem tölthető be: %2").arg(info.url().toDisplayString(), reason_of(info)));
 }
 
 void EngineBrowser::fill_context_menu() {

@@ -38,10 +38,13 @@ class EngineBrowser final : public QObject, public WebBrowser {
   private:
     void watch_page();
     void fill_context_menu();
+    void renew_focus();
+    void refuse(const QString &sentence);
     void tell_failure(const QWebEngineLoadingInfo &info);
 
     const WebBrowserRules rules_;
     Notifications notifications_{[] {}, [] {}, [](const QString &) {}};
+    bool telling_ = false;
     // In this order: a page must go before its profile.
     std::unique_ptr<QWebEngineProfile> profile_;
     std::unique_ptr<EnginePage> page_;

@@ -55,13 +55,10 @@ QUrl EnginePage::outside_archive(const QUrl &address) const {
     return real;
 }
 
-void EnginePage::refuse(const QString &sentence) {
-    // The engine waits for its answer.
-    QTimer::singleShot(0, this, [this, sentence] { Q_EMIT refused(sentence); });
-}
-
-bool EnginePage::acceptNavigationRequest(const QUrl &url, NavigationType, bool is_main_frame) {
-    if (url.scheme() == archive_scheme) {
+bool EnginePage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool is_main_frame) {
+    // A page that may not read files may not lead to an archive either; the program may.
+    const bool link_to_file = url.isLocalFile() && type == NavigationTypeLinkClicked && is_main_frame;
+    if (url.scheme() == archive_scheme || link_to_file) {
         QTimer::singleShot(0, this, [this, url] { open(url); });
         return false;
     }
@@ -69,7 +66,7 @@ bool EnginePage::acceptNavigationRequest(const QUrl &url, NavigationType, bool i
         return true;
     const auto obstacle = rules_.obstacle(url);
     if (obstacle && is_main_frame)
-        refuse(obstacle->sentence);
+        Q_EMIT refused(obstacle->sentence);
     return !obstacle;
 }
 
@@ -94,6 +91,7 @@ void EnginePage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const Q
         return;
     const QUrl address(message.mid(blocked.size()));
     const auto obstacle = rules_.obstacle(address);
-    refuse(obstacle ? obstacle->sentence
-                    : QStringLiteral("Erről a lapról nem nyitható meg fájl: „%1”.").arg(address.toDisplayString()));
+    Q_EMIT refused(obstacle
+                       ? obstacle->sentence
+                       : QStringLiteral("Erről a lapról nem nyitható meg fájl: „%1”.").arg(address.toDisplayString()));
 }

@@ -19,7 +19,7 @@ class EnginePage final : public QWebEnginePage {
     void open(const QUrl &address);
 
   Q_SIGNALS:
-    /// From the event loop.
+    /// The engine may be waiting while this is emitted.
     void refused(const QString &sentence);
 
   protected:
@@ -34,7 +34,6 @@ class EnginePage final : public QWebEnginePage {
                                   const QString &source) override;
 
   private:
-    void refuse(const QString &sentence);
     [[nodiscard]] QUrl outside_archive(const QUrl &address) const;
 
     const WebBrowserRules rules_;

@@ -4,8 +4,11 @@
 
 #include "lookup/webengine/engine_browser.h"
 
-std::unique_ptr<WebBrowser> EnginePlugin::make(const WebBrowserRules &rules) {
+EnginePlugin::EnginePlugin() {
     // Help pages need no graphics processor, and what draws without one works on every machine.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+std::unique_ptr<WebBrowser> EnginePlugin::make(const WebBrowserRules &rules) {
     return std::make_unique<EngineBrowser>(rules);
 }

@@ -11,5 +11,7 @@ class EnginePlugin final : public QObject, public WebBrowserPlugin {
     Q_INTERFACES(WebBrowserPlugin)
 
   public:
+    EnginePlugin();
+
     [[nodiscard]] std::unique_ptr<WebBrowser> make(const WebBrowserRules &rules) override;
 };

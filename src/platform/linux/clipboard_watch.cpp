@@ -30,6 +30,7 @@ class X11Clipboard final {
         clipboard_ = x11::atom(c, "CLIPBOARD");
         targets_ = x11::atom(c, "TARGETS");
         utf8_ = x11::atom(c, "UTF8_STRING");
+        pieces_ = x11::atom(c, "INCR");
         answer_ = x11::atom(c, "ZIMBORA_CLIPBOARD");
         secrets_ = {x11::atom(c, "x-kde-passwordManagerHint"),
                     x11::atom(c, "ExcludeClipboardContentFromMonitorProcessing")};
@@ -75,10 +76,15 @@ class X11Clipboard final {
         // A slow answer of the owner before is of no use any more.
         if (answer.time != asked_at_ || answer.property == XCB_ATOM_NONE)
             return std::nullopt;
-        const auto request = xcb_get_property(connection_.get(), 1, window_, answer_, XCB_GET_PROPERTY_TYPE_ANY, 0,
+        const auto request = xcb_get_property(connection_.get(), 0, window_, answer_, XCB_GET_PROPERTY_TYPE_ANY, 0,
                                               longest_in_words_of_4);
         const x11::Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_.get(), request, nullptr));
-        if (!reply || reply->bytes_after > 0)
+        // Deleting an answer that comes in pieces would ask for the first one.
+        if (!reply || reply->type == pieces_)
+            return std::nullopt;
+        xcb_delete_property(connection_.get(), window_, answer_);
+        xcb_flush(connection_.get());
+        if (reply->bytes_after > 0)
             return std::nullopt;
         const auto length = static_cast<size_t>(xcb_get_property_value_length(reply.get()));
         const void *value = xcb_get_property_value(reply.get());
@@ -105,6 +111,7 @@ class X11Clipboard final {
     xcb_atom_t clipboard_ = XCB_ATOM_NONE;
     xcb_atom_t targets_ = XCB_ATOM_NONE;
     xcb_atom_t utf8_ = XCB_ATOM_NONE;
+    xcb_atom_t pieces_ = XCB_ATOM_NONE;
     xcb_atom_t answer_ = XCB_ATOM_NONE;
     std::array<xcb_atom_t, 2> secrets_{};
     int owner_changed_ = -1;
@@ -114,7 +121,8 @@ class X11Clipboard final {
 
 class X11ClipboardWatch final : public ClipboardWatch {
   public:
-    explicit X11ClipboardWatch(x11::Connection connection) : end_(::eventfd(0, EFD_CLOEXEC)) {
+    /// `end` is an event descriptor, which this object closes.
+    X11ClipboardWatch(x11::Connection connection, int end) : end_(end) {
         thread_ = std::thread([this, clipboard = X11Clipboard(std::move(connection))]() mutable { run(clipboard); });
     }
 
@@ -160,7 +168,9 @@ class NoClipboard final : public ClipboardWatch {
 }  // namespace
 
 std::unique_ptr<ClipboardWatch> watch_clipboard() {
-    if (x11::Connection connection = x11::connect())
-        return std::make_unique<X11ClipboardWatch>(std::move(connection));
+    if (x11::Connection connection = x11::connect()) {
+        if (const int end = ::eventfd(0, EFD_CLOEXEC); end >= 0)
+            return std::make_unique<X11ClipboardWatch>(std::move(connection), end);
+    }
     return std::make_unique<NoClipboard>();
 }

@@ -19,9 +19,10 @@ class X11TopMost final : public TopMost {
         full_screen_ = x11::atom(c, "_NET_WM_STATE_FULLSCREEN");
     }
 
-    void make(quintptr) override {}
+    void make(quintptr) override { above_ = XCB_WINDOW_NONE; }
 
     void renew(quintptr window) override {
+        forget_messages();
         const auto ours = static_cast<xcb_window_t>(window);
         const xcb_window_t active = first_value(root_, active_window_, XCB_ATOM_WINDOW);
         if (active == ours)
@@ -39,6 +40,12 @@ class X11TopMost final : public TopMost {
     }
 
   private:
+    /// Nobody reads what the server tells by itself.
+    void forget_messages() {
+        while (const x11::Owned<xcb_generic_event_t> message{xcb_poll_for_event(connection_.get())}) {
+        }
+    }
+
     using Property = x11::Owned<xcb_get_property_reply_t>;
 
     [[nodiscard]] Property property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const {

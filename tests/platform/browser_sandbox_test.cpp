@@ -1,0 +1,26 @@
+#include "platform/browser_sandbox.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr const char *switched_off = "QTWEBENGINE_DISABLE_SANDBOX";
+
+TEST(BrowserSandbox, is_switched_off_for_the_administrator_only) {
+    qunsetenv(switched_off);
+
+    static_cast<void>(prepare_browser_sandbox());
+
+    EXPECT_EQ(qEnvironmentVariableIntValue(switched_off) != 0, geteuid() == 0);
+}
+
+TEST(BrowserSandbox, is_no_obstacle_when_the_user_has_switched_it_off) {
+    qputenv(switched_off, "1");
+
+    EXPECT_FALSE(prepare_browser_sandbox());
+
+    qunsetenv(switched_off);
+}
+
+}  // namespace
