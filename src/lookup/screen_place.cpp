@@ -11,11 +11,15 @@ constexpr QPointF fogható(900, 300);
 }  // namespace
 
 QPointF képernyőre(const QPointF &hol, const QSizeF &ablak, const QVector<QRectF> &képernyők) {
+    const auto látszik = [&képernyők](const QPointF &pont) {
+        return std::any_of(képernyők.cbegin(), képernyők.cend(),
+                           [&pont](const QRectF &képernyő) { return képernyő.contains(pont); });
+    };
+    if (látszik(hol) && látszik(hol + fogható))
+        return hol;
     QPointF legjobb = hol;
     double legrövidebb = std::numeric_limits<double>::infinity();
     for (const QRectF &képernyő : képernyők) {
-        if (képernyő.contains(hol) && képernyő.contains(hol + fogható))
-            return hol;
         const QPointF benne = képernyőbe(hol, ablak, képernyő);
         const QPointF út = benne - hol;
         if (const double hossz = QPointF::dotProduct(út, út); hossz < legrövidebb) {

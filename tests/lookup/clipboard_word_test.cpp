@@ -39,8 +39,9 @@ TEST(ClipboardWord, is_trimmed_and_in_lower_case) {
     EXPECT_EQ(word_of(QStringLiteral("\u00a0Apple\u00a0")), QStringLiteral("apple"));
 }
 
-TEST(ClipboardWord, may_be_nothing_but_blanks_which_leaves_an_empty_word) {
-    EXPECT_EQ(word_of(QStringLiteral("   ")), QString());
+TEST(ClipboardWord, is_never_blank) {
+    for (const char16_t *text : {u"", u" ", u"  \t ", u"\u00a0"})
+        EXPECT_EQ(word_of(QString::fromUtf16(text)), std::nullopt);
 }
 
 TEST(ClipboardWord, is_not_the_text_that_was_there) {

@@ -108,6 +108,37 @@ TEST_F(MiniWindowMoving, walks_on_from_the_corner_that_it_was_left_in) {
     EXPECT_EQ(kept_place(), QPoint(0, qRound(bottom())));
 }
 
+TEST_F(MiniWindowMoving, walks_on_from_a_corner_that_a_panel_of_the_desktop_keeps_it_off) {
+    open();
+    QTest::keyClick(search_box(), Qt::Key_F2);
+    window_->move(window_->pos() + QPoint(-3, 40));
+
+    QTest::keyClick(search_box(), Qt::Key_F2);
+
+    EXPECT_EQ(kept_place(), QPoint(qRound(right()), qRound(bottom())));
+}
+
+TEST_F(MiniWindowMoving, has_left_a_corner_as_soon_as_it_is_dragged_away_from_it) {
+    open();
+    QTest::keyClick(search_box(), Qt::Key_F2);
+    const QPoint at = middle_of(label("label_fejléc"));
+    press(label("label_fejléc"), at);
+    move(label("label_fejléc"), at + QPoint(-3, 40));
+    release(label("label_fejléc"), at + QPoint(-3, 40));
+
+    QTest::keyClick(search_box(), Qt::Key_F2);
+
+    EXPECT_EQ(kept_place(), QPoint(qRound(right()), 0));
+}
+
+TEST_F(MiniWindowMoving, comes_back_when_it_is_minimised) {
+    open();
+
+    window_->showMinimized();
+
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window_->isVisible() && !window_->isMinimized(); }));
+}
+
 TEST_F(MiniWindowMoving, walks_on_f2_whatever_has_the_keyboard) {
     open();
     for (const char *name : {"lst_találatlista", "cmd_kilép"}) {

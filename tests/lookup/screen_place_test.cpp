@@ -23,14 +23,20 @@ TEST(PlaceOnAScreen, is_kept_as_it_is) {
         expect_kept(place, {main_screen});
 }
 
-TEST(PlaceOnAScreen, is_kept_where_most_of_the_window_hangs_over_the_edge) {
-    for (const QPointF &place : {QPointF(15359, 5000), QPointF(5000, 11519), QPointF(15359, 11519)})
+TEST(PlaceOnAScreen, is_kept_where_just_enough_of_the_window_is_seen_to_take_hold_of_it) {
+    for (const QPointF &place : {QPointF(14460, 5000), QPointF(5000, 11220), QPointF(14460, 11220)})
         expect_kept(place, {main_screen});
+    EXPECT_EQ(képernyőre({14461, 5000}, window, {main_screen}), QPointF(12360, 5000));
+    EXPECT_EQ(képernyőre({5000, 11221}, window, {main_screen}), QPointF(5000, 7520));
 }
 
 TEST(PlaceOnAScreen, may_lie_on_any_of_several_and_be_negative) {
-    for (const QPointF &place : {QPointF(15360, 1500), QPointF(44159, 17699), QPointF(-19200, -3000), QPointF(-1, 0)})
+    for (const QPointF &place : {QPointF(15360, 1500), QPointF(43260, 17400), QPointF(-19200, -3000), QPointF(-900, 0)})
         expect_kept(place, three_screens);
+}
+
+TEST(PlaceOnAScreen, is_kept_where_what_is_taken_hold_of_lies_on_two) {
+    expect_kept({-1, 0}, three_screens);
 }
 
 TEST(PlaceOnNoScreen, is_moved_just_far_enough_for_the_whole_window) {

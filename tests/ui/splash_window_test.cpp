@@ -23,6 +23,7 @@ class SplashWindow : public MessageTest {
 TEST_F(SplashWindow, names_the_program_its_version_and_the_system) {
     load();
 
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora"));
     EXPECT_EQ(text("lblProductName"), QStringLiteral("Zimbora"));
     EXPECT_EQ(text("lblCompanyProduct"), QStringLiteral("Angol-Magyar, Magyar-Angol Szótár"));
     EXPECT_EQ(text("lblVersion"), QStringLiteral("1.20.3 verzió"));

@@ -246,6 +246,7 @@ TEST_F(TextFitting, leaves_a_text_in_one_line_that_a_size_lets_fit) {
 
 TEST_F(TextFitting, breaks_a_text_at_blanks_into_lines_that_fit_in_the_given_size) {
     box_.setFont(QFont(QStringList{fonts::times_new_roman}));
+    box_.resize(box_.width(), 2000);
     const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le");
     for (const double points : {20.0, 30.0, 40.0}) {
         const QString lines = Module_hasznos::sorokra(box_, text, points);
@@ -260,6 +261,7 @@ TEST_F(TextFitting, breaks_a_text_at_blanks_into_lines_that_fit_in_the_given_siz
 
 TEST_F(TextFitting, breaks_a_word_inside_that_is_wider_than_the_box_in_the_given_size) {
     box_.setFont(QFont(QStringList{fonts::times_new_roman}));
+    box_.resize(box_.width(), 2000);
     const QString word = QStringLiteral("megszentségteleníthetetlenségeskedéseitekért");
 
     const QString lines = Module_hasznos::sorokra(box_, QStringLiteral("egy ") + word, 40);
@@ -267,6 +269,18 @@ TEST_F(TextFitting, breaks_a_word_inside_that_is_wider_than_the_box_in_the_given
     EXPECT_TRUE(lines.startsWith(QStringLiteral("egy\n")));
     EXPECT_EQ(QString(lines).remove(u'\n'), QStringLiteral("egy") + word);
     EXPECT_LT(size_at(40, lines).width(), box_.inner_size().width());
+}
+
+TEST_F(TextFitting, ends_a_text_that_is_longer_than_the_box_is_high_with_dots) {
+    box_.setFont(QFont(QStringList{fonts::times_new_roman}));
+    const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le ").repeated(20);
+
+    const QString lines = Module_hasznos::sorokra(box_, text, 12);
+
+    EXPECT_TRUE(lines.endsWith(u'…'));
+    EXPECT_TRUE(lines.startsWith(QStringLiteral("valami")));
+    EXPECT_LE(size_at(12, lines).height(), box_.inner_size().height());
+    EXPECT_LT(size_at(12, lines).width(), box_.inner_size().width());
 }
 
 TEST_F(TextFitting, uses_the_first_size_at_which_a_buttons_text_reaches_ninety_percent) {
