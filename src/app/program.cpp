@@ -87,6 +87,8 @@ void Program::start(const QString &command_line) {
     if (program_folder_is_missing(places_)) {
         splash.emplace(fitting_, QCoreApplication::applicationVersion(), QSysInfo::prettyProductName());
         splash->show();
+        // A window without a frame is put into the corner by some window managers.
+        splash->középre(main_screen());
         splash->repaint();
         wait_without_input(splash_time);
     }

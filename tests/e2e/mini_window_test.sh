@@ -169,6 +169,26 @@ test_the_mini_window_stays_above_a_full_screen_window_that_has_the_focus() {
     is_on_top "$mini" || fail "The mini window is not on top any more."
 }
 
+test_the_mini_window_stays_when_the_full_screen_window_under_it_is_minimised() {
+    # Given
+    start_mini_window "${place[@]}"
+    open_full_screen_window
+    wait_until "the mini window on top" is_on_top "$mini"
+    # When
+    xdotool windowminimize "$other"
+    # Then
+    wait_until "the end of the full screen" pixel_is_not_blue 5 5
+    wait_until "the mini window" is_seen "$mini"
+}
+
+pixel_is_not_blue() {
+    [[ $(pixel "$1" "$2") != *"$blue"* ]]
+}
+
+is_seen() {
+    xwininfo -id "$1" | grep -q "Map State: IsViewable"
+}
+
 test_a_word_that_was_copied_before_the_start_is_not_looked_up() {
     # Given
     know_lookup apple

@@ -51,4 +51,26 @@ test_a_recent_file_is_opened_from_the_menu() {
     expect_lines "$ZIMBORA_C/zbrmkfnh.ini" "$lists/űrhajó szavak.szs" "$lists/first.szs"
 }
 
+# In front, and drawn; the main window is another window.
+splash_is_seen() {
+    title_in_front_is "Zimbora" &&
+        (($(import -window "$(xdotool getactivewindow)" -format %k info:) > 50)) &&
+        title_in_front_is "Zimbora"
+}
+
+test_the_very_first_start_shows_what_is_starting_and_makes_the_program_folder() {
+    # Given a program outside its build folder, and a user who has never started it
+    cp "$binary" "$temp/zimbora"
+    binary=$temp/zimbora
+    unset ZIMBORA_PROGRAM
+    # When
+    launch_program
+    # Then
+    wait_until "the splash" splash_is_seen
+    wait_for_main_window
+    [[ -d $HOME/Documents/Zimbora || -d $HOME/Zimbora ]] || fail "There is no program folder: $(find "$HOME")"
+    press alt+F4
+    expect_end_with_success
+}
+
 run_tests "$@"

@@ -198,12 +198,13 @@ about_box() {
 }
 
 # What the help viewer says about an address that it does not follow.
-timed_message() {
+help_and_timed_message() {
     start_program
     press F1
     wait_until "the help" another_window_is_in_front
     # A page that has come writes its own address.
     wait_for_still_screen
+    take_picture help
     press alt+a
     write "mailto:nobody"
     press Return
@@ -212,15 +213,13 @@ timed_message() {
     end_program
 }
 
-# The very first start, of a program that lies outside its build folder. Its message about a list that does not exist
-# holds it in front of the splash.
+# The very first start, of a program that lies outside its build folder.
 splash() {
     cp "$binary" "$temp/zimbora"
-    env -u ZIMBORA_PROGRAM "$temp/zimbora" "\"/nothing.szs\"" >"$temp/program.log" 2>&1 &
+    env -u ZIMBORA_PROGRAM "$temp/zimbora" >"$temp/program.log" 2>&1 &
     program=$!
     children+=("$program")
     wait_for_title "Zimbora"
-    xdotool getactivewindow windowmove 0 0
     take_picture splash
     end_program
     rm -r "$HOME"
@@ -256,7 +255,7 @@ for size in 1024x768 1920x1080 2560x1440; do
     scene memory 1024x768 2560x1440
     scene mini_window 1024x768 2560x1440
     scene about_box 1024x768 2560x1440
-    scene timed_message 1024x768 2560x1440
+    scene help_and_timed_message 1024x768 2560x1440
     scene splash 1024x768 2560x1440
     end_children
 done

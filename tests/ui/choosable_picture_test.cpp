@@ -29,7 +29,10 @@ class ChoosablePictureTest : public testing::Test {
         QApplication::sendEvent(picture_, &move);
     }
     [[nodiscard]] int ghosts() const {
-        return static_cast<int>(window_.findChildren<QLabel *>(Qt::FindDirectChildrenOnly).size());
+        int count = 0;
+        for (const QLabel *one : window_.findChildren<QLabel *>(Qt::FindDirectChildrenOnly))
+            count += one->isVisible() ? 1 : 0;
+        return count;
     }
 
     QWidget window_;

@@ -245,6 +245,7 @@ TEST_F(TextFitting, leaves_a_text_in_one_line_that_a_size_lets_fit) {
 }
 
 TEST_F(TextFitting, breaks_a_text_at_blanks_into_lines_that_fit_in_the_given_size) {
+    box_.resize(400, 400);
     box_.setFont(QFont(QStringList{fonts::times_new_roman}));
     box_.resize(box_.width(), 2000);
     const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le");
@@ -260,6 +261,7 @@ TEST_F(TextFitting, breaks_a_text_at_blanks_into_lines_that_fit_in_the_given_siz
 }
 
 TEST_F(TextFitting, breaks_a_word_inside_that_is_wider_than_the_box_in_the_given_size) {
+    box_.resize(400, 400);
     box_.setFont(QFont(QStringList{fonts::times_new_roman}));
     box_.resize(box_.width(), 2000);
     const QString word = QStringLiteral("megszentségteleníthetetlenségeskedéseitekért");
@@ -281,6 +283,23 @@ TEST_F(TextFitting, ends_a_text_that_is_longer_than_the_box_is_high_with_dots) {
     EXPECT_TRUE(lines.startsWith(QStringLiteral("valami")));
     EXPECT_LE(size_at(12, lines).height(), box_.inner_size().height());
     EXPECT_LT(size_at(12, lines).width(), box_.inner_size().width());
+}
+
+TEST_F(TextFitting, ends_with_three_dots_when_not_all_lines_fit_in_the_given_size) {
+    box_.resize(400, 200);
+    box_.setFont(QFont(QStringList{fonts::times_new_roman}));
+    const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le ").repeated(4).trimmed();
+    for (const QString &one : {text, QString(text).remove(u' ')}) {
+        const QString lines = Module_hasznos::sorokra(box_, one, 40);
+
+        EXPECT_TRUE(lines.endsWith(u'…'));
+        const QString whole = QString(lines).remove(u'\n').chopped(1);
+        EXPECT_TRUE(QString(one).remove(u' ').startsWith(QString(whole).remove(u' ')));
+        EXPECT_LT(size_at(40, lines).width(), box_.inner_size().width());
+        EXPECT_LT(size_at(40, lines).height(), box_.inner_size().height());
+        const double line = size_at(40, QStringLiteral("x")).height();
+        EXPECT_GT(size_at(40, lines).height() + line, box_.inner_size().height());
+    }
 }
 
 TEST_F(TextFitting, uses_the_first_size_at_which_a_buttons_text_reaches_ninety_percent) {
