@@ -232,6 +232,8 @@ void frm_kisablak::changeEvent(QEvent *event) {
     // Minimised along with a full-screen window that it stands above, it would be nowhere: it has no button for that.
     if (event->type() == QEvent::WindowStateChange && isMinimized())
         QTimer::singleShot(0, this, [this] {
+            // As the dialog of that window it would bring that one back.
+            k_.legfelül.make(winId());
             setAttribute(Qt::WA_ShowWithoutActivating);
             showNormal();
         });

@@ -79,7 +79,12 @@ void ChoosablePicture::hideEvent(QHideEvent *event) {
 
 void ChoosablePicture::end_drag() {
     pressed_ = false;
-    delete ghost_;
+    if (!ghost_)
+        return;
+    // Not at once: the window may be in the midst of telling its children something.
+    ghost_->hide();
+    ghost_->deleteLater();
+    ghost_ = nullptr;
 }
 
 void ChoosablePicture::keyPressEvent(QKeyEvent *event) {

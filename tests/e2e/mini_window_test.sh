@@ -38,8 +38,8 @@ wait_for_lookup() {
     wait_until "the hits of \"$1\"" looks_like "$1"
 }
 
-# know_lookup <word>...: a run of the program in which each word is typed; keeps a picture of what is found, with the mini
-# window in the same place.
+# know_lookup <word>...: a run of the program in which each word is typed; keeps a picture of what is found, with the
+# mini window in the same place.
 know_lookup() {
     local word
     start_mini_window "${place[@]}"

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QtTest/QTest>
 
@@ -164,6 +167,27 @@ TEST_F(ChoosablePictureTest, shows_its_picture_inside_its_frame) {
 
     EXPECT_EQ(picture_->grab().toImage().pixelColor(60, 30), QColor(Qt::red));
     EXPECT_NE(picture_->grab().toImage().pixelColor(0, 0), QColor(Qt::red));
+}
+
+TEST_F(ChoosablePictureTest, hides_its_ghost_when_its_window_is_left_and_deletes_it_after_the_event) {
+    for (const QEvent::Type type : {QEvent::WindowDeactivate, QEvent::WindowBlocked}) {
+        picture_->set_drag_mode(ChoosablePicture::DragMode::automatic);
+        press({10, 10});
+        move_with_button({90, 100});
+        const QPointer<QLabel> ghost = window_.findChildren<QLabel *>(Qt::FindDirectChildrenOnly).value(0);
+        ASSERT_TRUE(ghost);
+
+        QEvent left(type);
+        QApplication::sendEvent(picture_, &left);
+
+        // The window is telling its other children, of which the ghost is one.
+        ASSERT_TRUE(ghost);
+        EXPECT_FALSE(ghost->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(ghost);
+        release({90, 100});
+        EXPECT_EQ(dropped_.count(), 0);
+    }
 }
 
 }  // namespace

@@ -19,7 +19,14 @@ class X11TopMost final : public TopMost {
         full_screen_ = x11::atom(c, "_NET_WM_STATE_FULLSCREEN");
     }
 
-    void make(quintptr) override { above_ = XCB_WINDOW_NONE; }
+    void make(quintptr window) override {
+        above_ = XCB_WINDOW_NONE;
+        xcb_delete_property(connection_.get(), static_cast<xcb_window_t>(window), XCB_ATOM_WM_TRANSIENT_FOR);
+        // Done before the caller goes on: the toolkit speaks to the server on another connection.
+        const auto request = xcb_get_input_focus(connection_.get());
+        const x11::Owned<xcb_get_input_focus_reply_t> answered(
+            xcb_get_input_focus_reply(connection_.get(), request, nullptr));
+    }
 
     void renew(quintptr window) override {
         forget_messages();
