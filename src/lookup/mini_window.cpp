@@ -258,9 +258,7 @@ void frm_kisablak::cmd_keres_Click() {
 }
 
 void frm_kisablak::találatokat_másol() {
-    lst_találatlista_->clear();
-    for (const QString &találat : k_.nagy.szólist_elemei())
-        lst_találatlista_->add(találat);
+    lst_találatlista_->set_items(k_.nagy.szólist_elemei());
     if (lst_találatlista_->count() > 0)
         lst_találatlista_->select(k_.nagy.szólist_kijelölt());
     else
@@ -299,9 +297,7 @@ void frm_kisablak::lst_találatlista_Click() {
     const int melyik = lst_találatlista_->selected();
     k_.nagy.szólist_kijelöl(melyik);
     lst_találatlista_->setToolTip(lst_találatlista_->item(melyik));
-    lst_translate_->clear();
-    for (const QString &fordítás : k_.nagy.magyarlist_elemei())
-        lst_translate_->add(fordítás);
+    lst_translate_->set_items(k_.nagy.magyarlist_elemei());
     lst_translate_->select(0);
 }
 

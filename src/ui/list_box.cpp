@@ -51,6 +51,14 @@ class ListBox::Texts final : public QAbstractListModel {
         endResetModel();
     }
 
+    void set(const QStringList &texts) {
+        beginResetModel();
+        texts_ = texts;
+        endResetModel();
+    }
+
+    [[nodiscard]] const QStringList &texts() const { return texts_; }
+
     int rowCount(const QModelIndex &parent) const override {
         return parent.isValid() ? 0 : static_cast<int>(texts_.size());
     }
@@ -92,6 +100,11 @@ void ListBox::clear() {
     texts_->clear();
 }
 
+void ListBox::set_items(const QStringList &texts) {
+    Q_ASSERT(texts_);
+    texts_->set(texts);
+}
+
 int ListBox::count() const {
     return model()->rowCount();
 }
@@ -101,6 +114,8 @@ QString ListBox::item(int index) const {
 }
 
 QStringList ListBox::items() const {
+    if (texts_)
+        return texts_->texts();
     QStringList all;
     all.reserve(count());
     for (int i = 0; i < count(); ++i)

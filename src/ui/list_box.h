@@ -18,6 +18,8 @@ class ListBox : public QListView {
 
     void add(const QString &text);
     void clear();
+    /// Replaces all items at once; none is selected afterwards.
+    void set_items(const QStringList &texts);
 
     [[nodiscard]] int count() const;
     [[nodiscard]] QString item(int index) const;

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <QtTest/QTest>
 
 #include "support/printing.h"
@@ -33,6 +36,30 @@ TEST_F(ListBoxTest, has_nothing_selected_at_first) {
     EXPECT_EQ(list_.count(), 3);
     EXPECT_EQ(list_.item(1), QStringLiteral("barack"));
     EXPECT_EQ(list_.selected(), -1);
+}
+
+TEST_F(ListBoxTest, takes_other_items_at_once_and_selects_none_of_them) {
+    const QStringList others{QStringLiteral("dió"), QStringLiteral("eper")};
+    list_.select(2);
+    selected_.clear();
+
+    list_.set_items(others);
+
+    EXPECT_EQ(list_.items(), others);
+    EXPECT_EQ(list_.count(), 2);
+    EXPECT_EQ(list_.selected(), -1);
+    EXPECT_EQ(selected_.count(), 0);
+}
+
+TEST_F(ListBoxTest, shows_its_own_tip_over_an_item_that_it_does_not_cut_off) {
+    list_.setToolTip(QStringLiteral("Gyümölcsök"));
+    const QPoint at = list_.visualRect(list_.model()->index(0, 0)).center();
+
+    QHelpEvent hover(QEvent::ToolTip, at, list_.viewport()->mapToGlobal(at));
+    QApplication::sendEvent(list_.viewport(), &hover);
+
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("Gyümölcsök"));
+    QToolTip::hideText();
 }
 
 TEST_F(ListBoxTest, announces_a_selection_by_the_program_each_time) {
