@@ -1,0 +1,56 @@
+#include "media/music_settings.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "media/settings_lines.h"
+
+zenebeállítások::zenebeállítások(DriveC meghajtó, QString programkönyvtár)
+    : meghajtó_(std::move(meghajtó)), programkönyvtár_(std::move(programkönyvtár)) {}
+
+QString zenebeállítások::zenemappa() const {
+    return programkönyvtár_ + QStringLiteral("/zenemid");
+}
+
+QString zenebeállítások::saját_fájl() const {
+    return meghajtó_.path(QStringLiteral("c:\\zbrmk\\kavaro\\zenebeáll.ini"));
+}
+
+std::optional<Failure> zenebeállítások::betölt() {
+    engedélyezve = true;
+    lista.feltölt({});
+    const QString saját = saját_fájl();
+    const QString fájl = files::exists(saját) ? saját : programkönyvtár_ + QStringLiteral("/kavaro/zenebeáll.ini");
+    if (!files::exists(fájl))
+        return std::nullopt;
+    const auto olvasott = beállítássorok::olvas(fájl);
+    if (const auto *baj = std::get_if<Failure>(&olvasott))
+        return *baj;
+    QStringList sorok = std::get<QStringList>(olvasott);
+    const auto kapcsoló = sorok.isEmpty() ? std::nullopt : beállítássorok::kapcsoló(sorok.first());
+    if (kapcsoló) {
+        engedélyezve = *kapcsoló;
+        sorok.removeFirst();
+    }
+    QStringList nevek;
+    std::copy_if(sorok.begin(), sorok.end(), std::back_inserter(nevek), mappa_nélküli);
+    lista.feltölt(nevek);
+    if (kapcsoló)
+        return std::nullopt;
+    return Failure{QStringLiteral("A(z) „%1” fájl első sora nem a zene kapcsolója. A zene engedélyezve marad; a fájl "
+                                  "az „Ok” gombbal írható újra.")
+                       .arg(QDir::toNativeSeparators(fájl))};
+}
+
+std::optional<Failure> zenebeállítások::ment() const {
+    const FileContent tartalom =
+        beállítássorok::bájtok(QStringList(beállítássorok::kapcsolósor(engedélyezve)) + lista.nevek());
+    if (const auto *baj = std::get_if<Failure>(&tartalom))
+        return *baj;
+    // Folders that cannot be made are told by the file that cannot be written.
+    QDir().mkpath(QFileInfo(saját_fájl()).path());
+    return files::replace_whole(saját_fájl(), std::get<QByteArray>(tartalom));
+}

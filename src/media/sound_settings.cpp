@@ -1,0 +1,104 @@
+#include "media/sound_settings.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <utility>
+#include <vector>
+
+#include "media/settings_lines.h"
+
+namespace {
+
+const QString gratulafájl = QStringLiteral("grathang.ini");
+const QString helyesfájl = QStringLiteral("helyeshang.ini");
+const QString hibafájl = QStringLiteral("hibahang.ini");
+
+Failure nem_öt_kapcsoló(const QString &fájl) {
+    return {QStringLiteral("A(z) „%1” fájl nem öt kapcsolóval kezdődik. A hiányzó kapcsolók bekapcsolva maradnak; a "
+                           "fájl az „Ok” gombbal írható újra.")
+                .arg(QDir::toNativeSeparators(fájl))};
+}
+
+}  // namespace
+
+QString hangbeállítások::hangmappa() const {
+    return programkönyvtár_ + QStringLiteral("/hangok");
+}
+
+QString hangbeállítások::fájl(const QString &név) const {
+    return programkönyvtár_ + QStringLiteral("/kavaro/") + név;
+}
+
+/// Those of which the folder has a file, each once.
+QStringList hangbeállítások::meglévők(const QStringList &nevek) const {
+    QStringList vannak;
+    for (const QString &név : nevek) {
+        if (!név.isEmpty() && mappa_nélküli(név) && !vannak.contains(név) && files::exists(hangmappa() + u'/' + név))
+            vannak.append(név);
+    }
+    return vannak;
+}
+
+std::optional<Failure> hangbeállítások::betölt() {
+    kapcsolók = be;
+    for (névlista *lista : {&gratula, &helyes, &hiba})
+        lista->feltölt({});
+    const QString gratulaút = fájl(gratulafájl);
+    std::optional<Failure> baj;
+    const auto olvasott = beállítássorok::olvas(gratulaút);
+    if (const auto *sorok = std::get_if<QStringList>(&olvasott)) {
+        size_t hányadik = 0;
+        for (; hányadik < kapcsolók.size() && static_cast<qsizetype>(hányadik) < sorok->size(); ++hányadik) {
+            const auto érték = beállítássorok::kapcsoló(sorok->at(static_cast<qsizetype>(hányadik)));
+            if (!érték)
+                break;
+            kapcsolók[hányadik] = *érték;
+        }
+        gratula.feltölt(meglévők(sorok->sliced(static_cast<qsizetype>(hányadik))));
+        if (hányadik < kapcsolók.size() && files::exists(gratulaút))
+            baj = nem_öt_kapcsoló(gratulaút);
+    } else {
+        baj = std::get<Failure>(olvasott);
+    }
+    for (const auto &[név, lista] : {std::pair(helyesfájl, &helyes), std::pair(hibafájl, &hiba)}) {
+        if (const auto lista_baja = listát_betölt(név, *lista); lista_baja && !baj)
+            baj = lista_baja;
+    }
+    return baj;
+}
+
+std::optional<Failure> hangbeállítások::listát_betölt(const QString &név, névlista &lista) {
+    const auto olvasott = beállítássorok::olvas(fájl(név));
+    if (const auto *baj = std::get_if<Failure>(&olvasott))
+        return *baj;
+    lista.feltölt(meglévők(std::get<QStringList>(olvasott)));
+    return std::nullopt;
+}
+
+std::optional<Failure> hangbeállítások::ment() const {
+    QStringList gratulasorok;
+    for (const bool be_van : kapcsolók)
+        gratulasorok.append(beállítássorok::kapcsolósor(be_van));
+    gratulasorok += gratula.nevek();
+    // Nothing is replaced before everything is known to be writable in this code page.
+    std::vector<std::pair<QString, QByteArray>> mind;
+    for (const auto &[név, sorok] : {std::pair(gratulafájl, gratulasorok), std::pair(helyesfájl, helyes.nevek()),
+                                     std::pair(hibafájl, hiba.nevek())}) {
+        const FileContent tartalom = beállítássorok::bájtok(sorok);
+        if (const auto *baj = std::get_if<Failure>(&tartalom))
+            return *baj;
+        mind.emplace_back(fájl(név), std::get<QByteArray>(tartalom));
+    }
+    // A folder that cannot be made is told by the first file that cannot be written.
+    QDir().mkpath(QFileInfo(fájl(gratulafájl)).path());
+    for (const auto &[út, bájtok] : mind) {
+        if (auto baj = files::replace_whole(út, bájtok))
+            return baj;
+    }
+    return std::nullopt;
+}
+
+void hangbeállítások::elfelejt(const QString &név) {
+    for (névlista *lista : {&gratula, &helyes, &hiba})
+        lista->töröl(név);
+}

@@ -1,0 +1,133 @@
+#include "platform/linux/sdl/sdl_player.h"
+
+#include <SDL.h>
+#include <SDL_mixer.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+#include <utility>
+
+namespace {
+
+constexpr int rate = 44100;
+constexpr int stereo = 2;
+/// Frames that are mixed at a time: 46 ms.
+constexpr int buffer = 2048;
+constexpr int music_volume = MIX_MAX_VOLUME * 60 / 100;
+constexpr int once = 1;
+constexpr int any_channel = -1;
+/// A wave is decoded whole, and the mixer's form may take sixteen times its bytes.
+constexpr qint64 largest_wave = 128 * 1024 * 1024;
+
+/// Where Debian, Fedora and Arch put what their packages of General MIDI sounds agree on, then single fonts.
+const QStringList sound_fonts{
+    QStringLiteral("/usr/share/sounds/sf2/default-GM.sf2"), QStringLiteral("/usr/share/sounds/sf3/default-GM.sf3"),
+    QStringLiteral("/usr/share/soundfonts/default.sf2"),    QStringLiteral("/usr/share/sounds/sf2/TimGM6mb.sf2"),
+    QStringLiteral("/usr/share/sounds/sf2/FluidR3_GM.sf2"), QStringLiteral("/usr/share/soundfonts/FluidR3_GM.sf2"),
+};
+
+void choose_sound_font() {
+    // What the user's environment names goes before.
+    if (qEnvironmentVariableIsSet("SDL_SOUNDFONTS"))
+        return;
+    for (const QString &font : sound_fonts) {
+        if (!QFileInfo(font).isFile())
+            continue;
+        Mix_SetSoundFonts(QFile::encodeName(font).constData());
+        return;
+    }
+}
+
+/// A wave, which is decoded when it is opened.
+class Wave final : public Sound {
+  public:
+    explicit Wave(Mix_Chunk *chunk) : chunk_(chunk) {}
+    ~Wave() override {
+        silence();
+        Mix_FreeChunk(chunk_);
+    }
+
+    bool play() override {
+        silence();
+        channel_ = Mix_PlayChannel(any_channel, chunk_, 0);
+        return channel_ >= 0;
+    }
+
+    [[nodiscard]] bool playing() const override { return has_channel() && Mix_Playing(channel_) != 0; }
+
+  private:
+    /// A channel that has fallen silent may have been given to another wave.
+    [[nodiscard]] bool has_channel() const { return channel_ >= 0 && Mix_GetChunk(channel_) == chunk_; }
+
+    void silence() {
+        if (has_channel())
+            Mix_HaltChannel(channel_);
+        channel_ = -1;
+    }
+
+    Mix_Chunk *const chunk_;
+    int channel_ = -1;
+};
+
+/// A MIDI piece. The mixer plays one at a time.
+class Piece final : public Sound {
+  public:
+    /// `music` is null for a file that cannot be played.
+    explicit Piece(Mix_Music *music) : music_(music) {}
+    ~Piece() override {
+        if (heard_ == this) {
+            Mix_HaltMusic();
+            heard_ = nullptr;
+        }
+        Mix_FreeMusic(music_);
+    }
+
+    /// The mixer takes other music, too.
+    [[nodiscard]] bool is_midi() const { return music_ && Mix_GetMusicType(music_) == MUS_MID; }
+
+    bool play() override {
+        heard_ = Mix_PlayMusic(music_, once) == 0 ? this : nullptr;
+        return heard_ == this;
+    }
+
+    [[nodiscard]] bool playing() const override { return heard_ == this && Mix_PlayingMusic() != 0; }
+
+  private:
+    Mix_Music *const music_;
+    static inline const Piece *heard_ = nullptr;
+};
+
+}  // namespace
+
+std::unique_ptr<SdlPlayer> SdlPlayer::open_device() {
+    // The program ends at a signal in its own way.
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
+        return nullptr;
+    // What a file is not in, the mixer converts.
+    if (Mix_OpenAudio(rate, MIX_DEFAULT_FORMAT, stereo, buffer) != 0) {
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        return nullptr;
+    }
+    choose_sound_font();
+    Mix_VolumeMusic(music_volume);
+    return std::unique_ptr<SdlPlayer>(new SdlPlayer);
+}
+
+SdlPlayer::~SdlPlayer() {
+    Mix_CloseAudio();
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+std::unique_ptr<Sound> SdlPlayer::open(SoundType type, const QString &path) {
+    const QByteArray name = QFile::encodeName(path);
+    if (type == SoundType::midi) {
+        auto piece = std::make_unique<Piece>(Mix_LoadMUS(name.constData()));
+        return piece->is_midi() ? std::move(piece) : nullptr;
+    }
+    if (QFileInfo(path).size() > largest_wave)
+        return nullptr;
+    Mix_Chunk *const chunk = Mix_LoadWAV(name.constData());
+    return chunk ? std::make_unique<Wave>(chunk) : nullptr;
+}
