@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QTimer>
 #include <algorithm>
 #include <utility>
 
@@ -37,7 +38,13 @@ szótár::szótár(szótárkörnyezet környezet)
           return std::make_unique<frm_kisablak>(kisablakkörnyezet{*this, k_.állapot, k_.hasznos, k_.üzenetek,
                                                                   k_.legfelül, k_.vágólap, k_.képernyők, k_.siklásköz});
       }),
-      súgó_([this] { return új_súgó(); }) {
+      súgó_([this] { return új_súgó(); }),
+      játszó_(k_.multimédia, k_.állapot),
+      hangbeáll_([this] { return std::make_unique<frm_hangbeáll>(hangoknak()); }),
+      zenebeáll_([this] { return std::make_unique<frm_zenebeáll>(hangoknak()); }),
+      zeneóra_(
+          játszó_, [this]() -> lejátszólista & { return zenebeáll_.get(); },
+          [this](const QString &név) { k_.referencia.feliratbeállít(név); }) {
     setWindowTitle(QStringLiteral("névtelen szószedet"));
     méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
     háttérszínbeállít(k_.referencia.háttérszín());
@@ -50,6 +57,7 @@ void szótár::eseményeket_köt() {
     fájl_eseményeket_köt();
     feladat_eseményeket_köt();
     info_eseményeket_köt();
+    hang_eseményeket_köt();
     connect(v_.kilép, &QPushButton::clicked, &események_, [this] { kilép_Click(); });
     connect(v_.cmd_kisablak, &QPushButton::clicked, &események_, [this] { cmd_kisablak_Click(); });
 }
@@ -69,6 +77,8 @@ void szótár::Form_Load(const QString &parancssor) {
     v_.angolszó->setFocus();
     if (k_.állapot.kisablakmód == 1)
         cmd_kisablak_Click();
+    // From here on, when the program folder is known.
+    connect(&k_.referencia.Timer_zene(), &QTimer::timeout, &események_, [this] { zeneóra_.Timer_zene_Timer(); });
     fájlok_.parancssorból(parancssor);
 }
 

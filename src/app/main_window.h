@@ -17,8 +17,13 @@
 #include "exercises/word_list_reader.h"
 #include "lookup/help_window.h"
 #include "lookup/mini_window.h"
+#include "media/music_settings_window.h"
+#include "media/music_timer.h"
+#include "media/playback.h"
+#include "media/sound_settings_window.h"
 #include "platform/dialogs.h"
 #include "platform/drive_c.h"
+#include "platform/multimedia_commands.h"
 #include "platform/random_numbers.h"
 #include "ui/reference_window.h"
 #include "ui/result_message_window.h"
@@ -39,6 +44,7 @@ struct szótárkörnyezet {
     RandomNumbers &véletlen;
     global::beállítástár &beállítások;
     TopMost &legfelül;
+    MultimediaCommands &multimédia;
     /// Begins to watch the clipboard.
     std::function<std::unique_ptr<ClipboardWatch>()> vágólap;
     /// Places of all screens, in twips.
@@ -57,7 +63,8 @@ struct szótárkörnyezet {
 ///
 /// Sources: main_window.cpp its life, size and exit; main_window_lookup.cpp the dictionary; main_window_list.cpp the
 /// word list; main_window_files.cpp the menu of files; main_window_exercises.cpp the menu of exercises;
-/// main_window_mini.cpp the mini window; main_window_info.cpp the menu of help and information.
+/// main_window_mini.cpp the mini window; main_window_media.cpp sounds and music; main_window_info.cpp the menu of help
+/// and information.
 class szótár final : public ablak, private szószedetablak, private szószedetolvasó, private nagyablak {
   public:
     explicit szótár(szótárkörnyezet környezet);
@@ -136,6 +143,12 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     void visszatér(const QPointF &közép) override;
     [[nodiscard]] QRectF képernyője(const QPointF &hol) const;
 
+    // Sounds and music (main_window_media.cpp)
+    void hang_eseményeket_köt();
+    void mnubeállításhang_Click();
+    void mnubeállítászene_Click();
+    [[nodiscard]] hangkörnyezet hangoknak();
+
     // Help and information (main_window_info.cpp)
     void info_eseményeket_köt();
     void súgót_előhoz();
@@ -174,6 +187,10 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     WindowReference<frm_memory> memória_;
     WindowReference<frm_kisablak> kisablak_;
     WindowReference<frm_súgó> súgó_;
+    lejátszó játszó_;
+    WindowReference<frm_hangbeáll> hangbeáll_;
+    WindowReference<frm_zenebeáll> zenebeáll_;
+    zeneóra zeneóra_;
 
     /// Number of the newest search: an older one that still runs has been taken over.
     int keresés_ = 0;

@@ -152,7 +152,10 @@ szótármenü::szótármenü(QMenuBar &sor)
       mnu_info(named(sor.addMenu(QStringLiteral("&Info")), u"mnu_info")),
       mnu_súgó(named(mnu_info->addAction(QStringLiteral("&Súgó")), u"mnu_súgó")),
       mnunévjegy(named(mnu_info->addAction(QStringLiteral("&Névjegy")), u"mnunévjegy")),
-      mnu_cim(named(mnu_info->addAction(készítők_lapja), u"mnu_cim")) {
+      mnu_cim(named(mnu_info->addAction(készítők_lapja), u"mnu_cim")),
+      mnubeállítás(named(sor.addMenu(QStringLiteral("&Beállítások")), u"mnubeállítás")),
+      mnubeállításhang(named(mnubeállítás->addAction(QStringLiteral("&Hangok...")), u"mnubeállításhang")),
+      mnubeállítászene(named(mnubeállítás->addAction(QStringLiteral("&Zene...")), u"mnubeállítászene")) {
     mnu_súgó->setShortcut(Qt::Key_F1);
     sor.setObjectName(QStringLiteral("menüsor"));
     for (size_t i = 0; i < mnufájlfájl.size(); ++i) {

@@ -74,4 +74,8 @@ struct szótármenü {
     QAction *mnu_súgó;
     QAction *mnunévjegy;
     QAction *mnu_cim;
+
+    QMenu *mnubeállítás;
+    QAction *mnubeállításhang;
+    QAction *mnubeállítászene;
 };

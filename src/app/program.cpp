@@ -66,8 +66,9 @@ Program::Program(ProgramFolderPlaces places)
     : places_(std::move(places)),
       fitting_(reference_, main_screen),
       main_window_({state_, reference_, fitting_, message_boxes_, file_dialogs_, drive_, random_, settings_, *top_most_,
-                    watch_clipboard, all_screens, browser_of_plugin, [] { wait_without_input(animation_step); },
-                    [] { wait_without_input(glide_step); }, [] { QCoreApplication::quit(); }}),
+                    *multimedia_, watch_clipboard, all_screens, browser_of_plugin,
+                    [] { wait_without_input(animation_step); }, [] { wait_without_input(glide_step); },
+                    [] { QCoreApplication::quit(); }}),
       termination_([this] { main_window_.kilép_Click(); }) {
     message_boxes_.set_window(&main_window_);
     file_dialogs_.set_window(&main_window_);

@@ -8,6 +8,7 @@
 #include "app/program_folder.h"
 #include "app/settings_store.h"
 #include "platform/drive_c.h"
+#include "platform/multimedia_commands.h"
 #include "platform/system_random.h"
 #include "platform/termination_signal.h"
 #include "platform/top_most.h"
@@ -37,6 +38,7 @@ class Program final {
     frm_referencia reference_;
     Module_hasznos fitting_;
     std::unique_ptr<TopMost> top_most_ = make_top_most();
+    std::unique_ptr<MultimediaCommands> multimedia_ = make_multimedia_commands();
     szótár main_window_;
     TerminationSignal termination_;
 };

@@ -16,7 +16,10 @@ class lejátszó final {
     /// Plays the wave `fájl`. "" only silences; "*", which becomes its path, is the silence that lies at the text of
     /// the program folder immediately followed by "null.wav".
     void hanglejátszás(QString &fájl);
-    void hanglejátszás(QString &&fájl) { hanglejátszás(fájl); }
+    void hanglejátszás(const QString &fájl) {
+        QString út = fájl;
+        hanglejátszás(út);
+    }
     /// Stops the wave that is heard.
     void hangot_leállít() { hanglejátszás(QString()); }
 

@@ -52,6 +52,17 @@ std::optional<Failure> replace_whole(const QString &path, const QByteArray &byte
                        .arg(QDir::toNativeSeparators(path), reason_not_writable(file, path))};
 }
 
+std::optional<Failure> remove(const QString &path) {
+    const QFileInfo place(path);
+    if (QFile::remove(path) || (!place.exists() && !place.isSymLink()))
+        return std::nullopt;
+    const bool allowed = QFileInfo(place.path()).isWritable() && !place.isDir();
+    return Failure{QStringLiteral("A(z) „%1” fájl nem törölhető: %2")
+                       .arg(QDir::toNativeSeparators(path),
+                            allowed ? QStringLiteral("egy másik program használja, vagy hiba történt.")
+                                    : QStringLiteral("nincs jogosultság a törléséhez."))};
+}
+
 bool exists(const QString &path) {
     return QFileInfo(path).isFile();
 }

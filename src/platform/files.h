@@ -22,6 +22,9 @@ namespace files {
 /// old file stands as it was. Returns the failure, nothing on success.
 [[nodiscard]] std::optional<Failure> replace_whole(const QString &path, const QByteArray &bytes);
 
+/// Deletes the file `path`; one that is not there any more is no failure.
+[[nodiscard]] std::optional<Failure> remove(const QString &path);
+
 /// True when `path` names a file, directly or through a link; false for a folder.
 [[nodiscard]] bool exists(const QString &path);
 

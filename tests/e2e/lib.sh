@@ -28,6 +28,7 @@ set_up_places() {
     mkdir -p "$HOME" "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$XDG_CACHE_HOME" "$ZIMBORA_C" "$ZIMBORA_PROGRAM" "$lists"
     mkdir -m 700 "$XDG_RUNTIME_DIR"
     ln -s "$dictionaries"/{am,ma}.txt "$ZIMBORA_PROGRAM"
+    cp -r "$dictionaries"/{hangok,zenemid,kavaro} "$ZIMBORA_PROGRAM"
     # The help document stands beside the program folder.
     cp -r "${dictionaries}kavaro" "${ZIMBORA_PROGRAM}kavaro"
     children=()

@@ -197,6 +197,24 @@ about_box() {
     end_program
 }
 
+sound_settings() {
+    start_program
+    press alt+b h
+    wait_for_title "$(title_of_exercise "Kavaro Hangbeállítások")"
+    # Three sounds for a congratulation, one for a right answer.
+    press Down Down Tab Tab Tab Tab space
+    take_picture sound-settings
+    end_program
+}
+
+music_settings() {
+    start_program
+    press alt+b z
+    wait_for_title "$(title_of_exercise "Zenei beállítások")"
+    take_picture music-settings
+    end_program
+}
+
 # What the help viewer says about an address that it does not follow.
 help_and_timed_message() {
     start_program
@@ -256,6 +274,8 @@ for size in 1024x768 1920x1080 2560x1440; do
     scene mini_window 1024x768 2560x1440
     scene about_box 1024x768 2560x1440
     scene help_and_timed_message 1024x768 2560x1440
+    scene sound_settings 1024x768 2560x1440
+    scene music_settings 1024x768 2560x1440
     scene splash 1024x768 2560x1440
     end_children
 done

@@ -19,6 +19,7 @@
 #include "support/dictionary_for_tests.h"
 #include "support/fake_desktop.h"
 #include "support/fake_dialogs.h"
+#include "support/fake_multimedia.h"
 #include "support/fake_web_browser.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
@@ -51,7 +52,7 @@ class MainWindowTest : public testing::Test {
     void load(const QString &command_line = {}) {
         window_ = std::make_unique<szótár>(
             szótárkörnyezet{state_, reference_, fitting_, boxes_, dialogs_, DriveC(place("c")), random_, settings_,
-                            top_most_, [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
+                            top_most_, multimedia_, [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
                             [this] { return QVector<QRectF>{screen_}; },
                             [this](const WebBrowserRules &) -> WebBrowserResult {
                                 auto browser = std::make_unique<FakeWebBrowser>();
@@ -123,6 +124,7 @@ class MainWindowTest : public testing::Test {
     SeededRandom random_;
     global::beállítástár settings_{place("settings.ini")};
     FakeTopMost top_most_;
+    FakeMultimedia multimedia_;
     FakeClipboard clipboard_;
     /// The browser of the help viewer, once it has been opened.
     FakeWebBrowser *browser_ = nullptr;

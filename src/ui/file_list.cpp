@@ -1,0 +1,46 @@
+#include "ui/file_list.h"
+
+#include <QDir>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+FileListBox::FileListBox(const QString &pattern, QWidget *parent) : ListBox(parent), pattern_(pattern) {}
+
+void FileListBox::set_folder(const QString &folder) {
+    folder_ = folder;
+    refresh();
+}
+
+void FileListBox::refresh() {
+    QStringList names;
+    // A pipe passes for a file there, as a device would.
+    for (const QFileInfo &file : QDir(folder_).entryInfoList({pattern_}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
+        if (file.isFile())
+            names.append(file.fileName());
+    }
+    set_items(names);
+}
+
+void FileListBox::refresh_keeping_selection() {
+    const QString name = file_name();
+    refresh();
+    const QSignalBlocker silence(this);
+    select(static_cast<int>(items().indexOf(name)));
+}
+
+QString FileListBox::file_name() const {
+    return selected() < 0 ? QString() : item(selected());
+}
+
+QString FileListBox::path_of(const QString &name) const {
+    return folder_ + u'/' + name;
+}
+
+void FileListBox::keyPressEvent(QKeyEvent *event) {
+    if (event->key() != Qt::Key_Delete || event->modifiers() != Qt::NoModifier) {
+        ListBox::keyPressEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat())
+        Q_EMIT deletePressed();
+}
