@@ -6,7 +6,7 @@ build_packages=(
     qt6-base-dev qt6-svg-dev libgl-dev qt6-translations-l10n zlib1g-dev
     qt6-webengine-dev
     pkg-config libxcb1-dev libxcb-xfixes0-dev
-    libsdl2-mixer-dev timgm6mb-soundfont
+    libasound2-dev libsdl2-mixer-dev timgm6mb-soundfont
     fonts-liberation2 dict-freedict-eng-hun dict-freedict-hun-eng
 )
 # What a virtual display takes.

@@ -2,6 +2,7 @@
 
 #include <SDL.h>
 #include <SDL_mixer.h>
+#include <alsa/asoundlib.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -26,6 +27,9 @@ const QStringList sound_fonts{
     QStringLiteral("/usr/share/soundfonts/default.sf2"),    QStringLiteral("/usr/share/sounds/sf2/TimGM6mb.sf2"),
     QStringLiteral("/usr/share/sounds/sf2/FluidR3_GM.sf2"), QStringLiteral("/usr/share/soundfonts/FluidR3_GM.sf2"),
 };
+
+/// A machine without a device is nothing to write about to the terminal.
+void say_nothing(const char *, int, const char *, int, const char *, ...) {}
 
 void choose_sound_font() {
     // What the user's environment names goes before.
@@ -103,6 +107,9 @@ class Piece final : public Sound {
 std::unique_ptr<SdlPlayer> SdlPlayer::open_device() {
     // The program ends at a signal in its own way.
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    // Under this name the volume control of the desktop shows it.
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Zimbora");
+    snd_lib_error_set_handler(say_nothing);
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
         return nullptr;
     // What a file is not in, the mixer converts.
