@@ -19,7 +19,7 @@ constexpr int music_volume = MIX_MAX_VOLUME * 60 / 100;
 constexpr int once = 1;
 constexpr int any_channel = -1;
 /// A wave is decoded whole, and the mixer's form may take sixteen times its bytes.
-constexpr qint64 largest_wave = 128 * 1024 * 1024;
+constexpr qint64 largest_wave = qint64{128} * 1024 * 1024;
 
 /// Where Debian, Fedora and Arch put what their packages of General MIDI sounds agree on, then single fonts.
 const QStringList sound_fonts{
