@@ -7,6 +7,7 @@ build_packages=(
     qt6-webengine-dev
     pkg-config libxcb1-dev libxcb-xfixes0-dev
     fonts-liberation2 dict-freedict-eng-hun dict-freedict-hun-eng
+    sox abcmidi
 )
 # What a virtual display takes.
 display_packages=(xvfb openbox xdotool x11-utils xclip imagemagick procps)
