@@ -6,6 +6,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <chrono>
+#include <filesystem>
+#include <string>
 
 #include "support/files_for_tests.h"
 #include "support/printing.h"
@@ -24,6 +27,27 @@ class ProgramFolder : public testing::Test {
     /// A program started from `executable`, which was built in the folder "bin".
     [[nodiscard]] ProgramFolderPlaces started_from(const char *executable) const {
         return {QString(), place(executable), place("bin"), place("staged"), place("share"), place("documents")};
+    }
+
+    void make_installed(const char *name, const QByteArray &bytes) {
+        const QString path = place("share") + u'/' + QString::fromUtf8(name);
+        QDir().mkpath(QFileInfo(path).path());
+        write_file(path, bytes);
+    }
+
+    /// An installation with two sounds, a piece of music, the initial settings and the silence.
+    void install_sounds_and_music() {
+        make_installed("hangok/csengő.wav", "bell");
+        make_installed("hangok/mély duda.wav", "horn");
+        make_installed("zenemid/Érik a szőlő.mid", "song");
+        make_installed("kavaro/zenebeáll.ini", " 0\r\n");
+        make_installed("null.wav", "silence");
+    }
+
+    /// The names of all that is in the folder, with ", " between them.
+    [[nodiscard]] std::string names_in(const char *folder) const {
+        const QDir::Filters all = QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot;
+        return QDir(place(folder)).entryList(all).join(QStringLiteral(", ")).toStdString();
     }
 
     QTemporaryDir root_;
@@ -92,6 +116,149 @@ TEST_F(ProgramFolder, mends_a_link_whose_dictionary_has_moved) {
     const QString folder = find_program_folder(started_from("other"));
 
     EXPECT_EQ(read_file(folder + QStringLiteral("/am.txt")), "dictionary");
+}
+
+TEST_F(ProgramFolder, is_made_with_copies_of_the_sounds_the_music_and_the_initial_settings) {
+    install_sounds_and_music();
+
+    const QString folder = find_program_folder(started_from("other"));
+
+    EXPECT_EQ(read_file(folder + QStringLiteral("/hangok/csengő.wav")), "bell");
+    EXPECT_EQ(read_file(folder + QStringLiteral("/hangok/mély duda.wav")), "horn");
+    EXPECT_EQ(read_file(folder + QStringLiteral("/zenemid/Érik a szőlő.mid")), "song");
+    EXPECT_EQ(read_file(folder + QStringLiteral("/kavaro/zenebeáll.ini")), " 0\r\n");
+    EXPECT_FALSE(QFileInfo(folder + QStringLiteral("/hangok/csengő.wav")).isSymLink());
+}
+
+TEST_F(ProgramFolder, has_copies_in_folders_that_are_as_open_as_itself_and_nothing_else_beside_them) {
+    install_sounds_and_music();
+
+    const QString folder = find_program_folder(started_from("other"));
+
+    EXPECT_EQ(names_in("documents/Zimbora"), "hangok, kavaro, zenemid");
+    EXPECT_EQ(QFile::permissions(folder + QStringLiteral("/hangok")), QFile::permissions(folder));
+}
+
+TEST_F(ProgramFolder, is_made_with_the_silence_where_its_name_directly_follows_the_folders) {
+    install_sounds_and_music();
+
+    const QString folder = find_program_folder(started_from("other"));
+
+    EXPECT_EQ(read_file(folder + QStringLiteral("null.wav")), "silence");
+    EXPECT_EQ(read_file(place("documents/Zimboranull.wav")), "silence");
+}
+
+TEST_F(ProgramFolder, gets_the_silence_back_when_it_is_gone) {
+    install_sounds_and_music();
+    const QString silence = find_program_folder(started_from("other")) + QStringLiteral("null.wav");
+    QFile::remove(silence);
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(read_file(silence), "silence");
+}
+
+TEST_F(ProgramFolder, does_not_get_a_sound_back_that_the_user_has_deleted) {
+    install_sounds_and_music();
+    QFile::remove(find_program_folder(started_from("other")) + QStringLiteral("/hangok/csengő.wav"));
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(names_in("documents/Zimbora/hangok"), "mély duda.wav");
+}
+
+TEST_F(ProgramFolder, does_not_get_the_sounds_back_when_the_user_has_deleted_them_all) {
+    install_sounds_and_music();
+    const QDir sounds(find_program_folder(started_from("other")) + QStringLiteral("/hangok"));
+    for (const QString &name : sounds.entryList(QDir::Files))
+        QFile::remove(sounds.filePath(name));
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(names_in("documents/Zimbora/hangok"), "");
+}
+
+TEST_F(ProgramFolder, keeps_the_users_settings_and_gets_only_the_folders_that_it_lacks) {
+    install_sounds_and_music();
+    QDir(root_.path()).mkpath(QStringLiteral("documents/Zimbora/kavaro"));
+    write_file(place("documents/Zimbora/kavaro/zenebeáll.ini"), " 1\r\n");
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(read_file(place("documents/Zimbora/kavaro/zenebeáll.ini")), " 1\r\n");
+    EXPECT_EQ(read_file(place("documents/Zimbora/zenemid/Érik a szőlő.mid")), "song");
+}
+
+TEST_F(ProgramFolder, has_no_sounds_where_none_are_installed_and_gets_them_when_they_are) {
+    make_installed("am.txt", "dictionary");
+    QDir(root_.path()).mkpath(QStringLiteral("share/hangok"));
+    static_cast<void>(find_program_folder(started_from("other")));
+    EXPECT_EQ(names_in("documents/Zimbora"), "am.txt");
+
+    install_sounds_and_music();
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(names_in("documents/Zimbora/hangok"), "csengő.wav, mély duda.wav");
+}
+
+TEST_F(ProgramFolder, has_no_sounds_rather_than_half_of_them) {
+    install_sounds_and_music();
+    // The system refuses to read this one's first byte, to an administrator too.
+    const QString unreadable = place("share/hangok/unreadable.wav");
+    QFile::link(QStringLiteral("/proc/self/mem"), unreadable);
+    ASSERT_TRUE(QFileInfo(unreadable).isFile());
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(names_in("documents/Zimbora"), "kavaro, zenemid");
+
+    QFile::remove(unreadable);
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(names_in("documents/Zimbora/hangok"), "csengő.wav, mély duda.wav");
+}
+
+TEST_F(ProgramFolder, is_filled_anew_when_the_first_copy_was_interrupted) {
+    install_sounds_and_music();
+    QDir(root_.path()).mkpath(QStringLiteral("documents/Zimbora/.hangok-a1B2c3"));
+    const QString half = place("documents/Zimbora/.hangok-a1B2c3");
+    write_file(half + QStringLiteral("/csengő.wav"), "bell");
+    std::filesystem::last_write_time(half.toStdString(),
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(2));
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(names_in("documents/Zimbora"), "hangok, kavaro, zenemid");
+    EXPECT_EQ(names_in("documents/Zimbora/hangok"), "csengő.wav, mély duda.wav");
+}
+
+TEST_F(ProgramFolder, leaves_the_copy_alone_that_another_start_is_making) {
+    install_sounds_and_music();
+    QDir(root_.path()).mkpath(QStringLiteral("documents/Zimbora/.hangok-a1B2c3"));
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_TRUE(QFileInfo::exists(place("documents/Zimbora/.hangok-a1B2c3")));
+}
+
+TEST_F(ProgramFolder, is_returned_without_sounds_where_it_cannot_be_made) {
+    install_sounds_and_music();
+    // A file in the place of the folder keeps even an administrator from making it.
+    write_file(place("documents/Zimbora"), "a file");
+
+    EXPECT_EQ(find_program_folder(started_from("other")), place("documents/Zimbora"));
+    EXPECT_EQ(read_file(place("documents/Zimbora")), "a file");
+}
+
+TEST_F(ProgramFolder, leaves_a_file_alone_that_stands_where_its_sounds_would) {
+    install_sounds_and_music();
+    QDir(root_.path()).mkpath(QStringLiteral("documents/Zimbora"));
+    write_file(place("documents/Zimbora/hangok"), "a file");
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(read_file(place("documents/Zimbora/hangok")), "a file");
+    EXPECT_EQ(names_in("documents/Zimbora"), "hangok, kavaro, zenemid");
 }
 
 TEST_F(ProgramFolder, is_missing_only_until_it_is_made_in_the_documents) {
