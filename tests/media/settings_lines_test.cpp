@@ -95,4 +95,12 @@ TEST_F(SettingsLines, name_the_line_and_the_letter_that_the_code_page_lacks) {
                        "a közép-európai kódlapon."));
 }
 
+TEST_F(SettingsLines, refuse_a_name_that_would_be_read_as_two) {
+    const FileContent bytes = beállítássorok::bájtok({QStringLiteral("a.wav"), QStringLiteral("b\nc.wav")});
+
+    ASSERT_TRUE(std::holds_alternative<Failure>(bytes));
+    EXPECT_EQ(std::get<Failure>(bytes).sentence,
+              QStringLiteral("A(z) „b c.wav” nevű fájl nem kerülhet a listára, mert a nevében sortörés van."));
+}
+
 }  // namespace
