@@ -30,6 +30,10 @@ std::variant<QStringList, Failure> olvas(const QString &fájl) {
 FileContent bájtok(const QStringList &sorok) {
     QByteArray bytes;
     for (const QString &sor : sorok) {
+        if (sor.contains(u'\n')) {
+            return Failure{QStringLiteral("A(z) „%1” nevű fájl nem kerülhet a listára, mert a nevében sortörés van.")
+                               .arg(sor.simplified())};
+        }
         const auto kódolt = code_page::encode(sor);
         if (!kódolt) {
             return Failure{QStringLiteral("A(z) „%1” nevű fájl nem kerülhet a listára, mert a nevében a(z) „%2” betű "

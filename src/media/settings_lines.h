@@ -20,7 +20,7 @@ namespace beállítássorok {
 /// The lines of the file `fájl`, read whole; of a missing file, none.
 [[nodiscard]] std::variant<QStringList, Failure> olvas(const QString &fájl);
 
-/// The bytes of a file of these lines; a failure that names the line which the code page cannot hold.
+/// The bytes of a file of these lines; a failure that names the line which the code page cannot hold, or which is two.
 [[nodiscard]] FileContent bájtok(const QStringList &sorok);
 
 }  // namespace beállítássorok

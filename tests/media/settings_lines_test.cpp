@@ -1,0 +1,106 @@
+#include "media/settings_lines.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "support/files_for_tests.h"
+#include "support/printing.h"
+
+namespace {
+
+class SettingsLines : public testing::Test {
+  protected:
+    /// The lines of a file that has `bytes`.
+    [[nodiscard]] QStringList lines_of(const QByteArray &bytes) const {
+        write_file(file_, bytes);
+        return std::get<QStringList>(beállítássorok::olvas(file_));
+    }
+
+    QTemporaryDir folder_;
+    QString file_ = folder_.filePath(QStringLiteral("grathang.ini"));
+};
+
+TEST_F(SettingsLines, write_a_switch_as_a_digit_behind_a_blank) {
+    EXPECT_EQ(beállítássorok::kapcsolósor(true), QStringLiteral(" 1"));
+    EXPECT_EQ(beállítássorok::kapcsolósor(false), QStringLiteral(" 0"));
+}
+
+TEST_F(SettingsLines, read_a_switch_with_blanks_or_without) {
+    for (const char *on : {" 1", "1", "1 ", "\t1", " 2", "-1"})
+        EXPECT_EQ(beállítássorok::kapcsoló(QString::fromLatin1(on)), true) << on;
+    for (const char *off : {" 0", "0", " 0 ", "00", "-0"})
+        EXPECT_EQ(beállítássorok::kapcsoló(QString::fromLatin1(off)), false) << off;
+}
+
+TEST_F(SettingsLines, read_no_switch_where_there_is_no_whole_number) {
+    for (const char *line : {"", " ", "x", "1x", "taps.wav", "1 0", "0.5", "99999999999", "--1", "igen"})
+        EXPECT_EQ(beállítássorok::kapcsoló(QString::fromLatin1(line)), std::nullopt) << line;
+}
+
+TEST_F(SettingsLines, are_none_in_a_missing_file_and_in_one_of_zero_bytes) {
+    EXPECT_EQ(std::get<QStringList>(beállítássorok::olvas(file_)), QStringList());
+    EXPECT_EQ(lines_of(""), QStringList());
+}
+
+TEST_F(SettingsLines, are_none_where_a_folder_has_the_name_of_the_file) {
+    EXPECT_EQ(std::get<QStringList>(beállítássorok::olvas(folder_.path())), QStringList());
+}
+
+TEST_F(SettingsLines, end_with_cr_lf_or_lf_and_the_last_one_with_nothing_too) {
+    const QStringList lines{QStringLiteral(" 1"), QStringLiteral("a.wav")};
+
+    for (const char *bytes : {" 1\r\na.wav\r\n", " 1\na.wav\n", " 1\r\na.wav"})
+        EXPECT_EQ(lines_of(bytes), lines) << bytes;
+}
+
+TEST_F(SettingsLines, keep_their_blanks) {
+    EXPECT_EQ(lines_of(" két  szó .wav \r\n"), QStringList(code_page::decode(" két  szó .wav ")));
+}
+
+TEST_F(SettingsLines, are_read_in_the_code_page) {
+    EXPECT_EQ(lines_of("\xf5sz \xfb.wav\r\n"), QStringList(QStringLiteral("ősz ű.wav")));
+}
+
+TEST_F(SettingsLines, tell_of_a_file_that_cannot_be_read) {
+    // The memory of a process opens, but its first page cannot be read.
+    const auto read = beállítássorok::olvas(QStringLiteral("/proc/self/mem"));
+
+    ASSERT_TRUE(std::holds_alternative<Failure>(read));
+    EXPECT_EQ(std::get<Failure>(read).sentence,
+              QStringLiteral("A(z) „/proc/self/mem” fájl nem olvasható: olvasási hiba történt."));
+}
+
+TEST_F(SettingsLines, are_written_in_the_code_page_with_cr_lf) {
+    const FileContent bytes = beállítássorok::bájtok({QStringLiteral(" 0"), QStringLiteral("ősz ű.wav")});
+
+    EXPECT_EQ(std::get<QByteArray>(bytes), " 0\r\n\xf5sz \xfb.wav\r\n");
+}
+
+TEST_F(SettingsLines, read_as_they_were_written) {
+    QStringList every_letter;
+    for (int byte = 32; byte < 256; ++byte)
+        every_letter.append(code_page::decode(QByteArray(3, static_cast<char>(byte))));
+
+    EXPECT_EQ(lines_of(std::get<QByteArray>(beállítássorok::bájtok(every_letter))), every_letter);
+}
+
+TEST_F(SettingsLines, name_the_line_and_the_letter_that_the_code_page_lacks) {
+    const FileContent bytes = beállítássorok::bájtok({QStringLiteral("a.wav"), QStringLiteral("Ω.wav")});
+
+    ASSERT_TRUE(std::holds_alternative<Failure>(bytes));
+    EXPECT_EQ(
+        std::get<Failure>(bytes).sentence,
+        QStringLiteral("A(z) „Ω.wav” nevű fájl nem kerülhet a listára, mert a nevében a(z) „Ω” betű nem írható le "
+                       "a közép-európai kódlapon."));
+}
+
+TEST_F(SettingsLines, refuse_a_name_that_would_be_read_as_two) {
+    const FileContent bytes = beállítássorok::bájtok({QStringLiteral("a.wav"), QStringLiteral("b\nc.wav")});
+
+    ASSERT_TRUE(std::holds_alternative<Failure>(bytes));
+    EXPECT_EQ(std::get<Failure>(bytes).sentence,
+              QStringLiteral("A(z) „b c.wav” nevű fájl nem kerülhet a listára, mert a nevében sortörés van."));
+}
+
+}  // namespace
