@@ -15,3 +15,29 @@ function(zimbora_library name)
   target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE zimbora_options)
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
 endfunction()
+
+# zimbora_drawings(<target> <drawing>...)
+# Puts drawings of the folder resources into a target, under their names there. Where the toolkit has no reader of SVG,
+# they are recorded ones (ui/svg_picture_recorded.cpp).
+function(zimbora_drawings target)
+  set(base "${CMAKE_SOURCE_DIR}/resources")
+  if(WIN32)
+    set(base "${CMAKE_BINARY_DIR}/drawings")
+  endif()
+  set(files "")
+  foreach(drawing IN LISTS ARGN)
+    set(file "${base}/${drawing}")
+    list(APPEND files "${file}")
+    if(WIN32)
+      get_filename_component(folder "${file}" DIRECTORY)
+      file(MAKE_DIRECTORY "${folder}")
+      set(svg "${CMAKE_SOURCE_DIR}/resources/${drawing}")
+      add_custom_command(
+        OUTPUT "${file}"
+        COMMAND zimbora-draw "${svg}" "${file}"
+        DEPENDS zimbora-draw "${svg}"
+        VERBATIM)
+    endif()
+  endforeach()
+  qt_add_resources(${target} "${target}_drawings" PREFIX "/" BASE "${base}" FILES ${files})
+endfunction()

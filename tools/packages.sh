@@ -1,4 +1,4 @@
-# Debian 12 packages, sourced by ./run and ./test.
+# Debian 12 packages, sourced by ./run, ./test and ./build-windows.
 
 # What building and running the program takes.
 build_packages=(
@@ -18,3 +18,7 @@ test_packages=(
     clang clang-format clang-tidy libclang-rt-14-dev
     xterm
 )
+# What building for Windows takes besides.
+windows_packages=(g++-mingw-w64-x86-64-posix dpkg-dev xz-utils icoutils debian-archive-keyring ca-certificates)
+# What the tests of that build take besides.
+windows_test_packages=(wine64 googletest)

@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "app/program.h"
+#include "platform/command_line.h"
 #include "platform/display_system.h"
 
 namespace {
@@ -26,6 +27,6 @@ int main(int argc, char *argv[]) {
     QApplication::setDesktopFileName(QStringLiteral("zimbora"));
     set_up_toolkit();
     Program program(program_folder_places());
-    QTimer::singleShot(0, &application, [&] { program.start(QCoreApplication::arguments().mid(1).join(u' ')); });
+    QTimer::singleShot(0, &application, [&] { program.start(command_line_text()); });
     return QApplication::exec();
 }

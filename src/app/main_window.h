@@ -23,6 +23,7 @@
 #include "media/sound_settings_window.h"
 #include "platform/dialogs.h"
 #include "platform/drive_c.h"
+#include "platform/information_tool.h"
 #include "platform/multimedia_commands.h"
 #include "platform/random_numbers.h"
 #include "ui/reference_window.h"
@@ -51,6 +52,8 @@ struct szótárkörnyezet {
     std::function<QVector<QRectF>()> képernyők;
     /// Makes the browser of the help viewer.
     WebBrowserFactory böngésző;
+    /// Starts the system's information tool.
+    std::function<InformationTool()> rendszeradatok;
     /// Lets a moment pass between two steps of an animation, and between two of a glide, which has four times as many.
     std::function<void()> lépésköz;
     std::function<void()> siklásköz;

@@ -51,6 +51,11 @@ void szótár::mnunévjegy_Click() {
 }
 
 void szótár::rendszeradatokat_mutat() {
+    const InformationTool indult = k_.rendszeradatok();
+    if (indult == InformationTool::unavailable)
+        k_.üzenetek.tell(QStringLiteral("System Information Is Unavailable At This Time"));
+    if (indult != InformationTool::unknown)
+        return;
     const QString program = QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion();
     const QString mappák = QStringLiteral("Programkönyvtár: %1\nA „c:\\” mappa: %2")
                                .arg(k_.állapot.programkönyvtár, k_.meghajtó.path(u"c:\\"));

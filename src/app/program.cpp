@@ -10,7 +10,8 @@
 #include <optional>
 #include <utility>
 
-#include "lookup/browser_plugin.h"
+#include "lookup/system_browser.h"
+#include "platform/information_tool.h"
 #include "ui/font_sized_style.h"
 #include "ui/fonts.h"
 #include "ui/splash_window.h"
@@ -42,10 +43,6 @@ QVector<QRectF> all_screens() {
     return places;
 }
 
-WebBrowserResult browser_of_plugin(const WebBrowserRules &rules) {
-    return make_browser_of_plugin(browser_plugin_folders(QCoreApplication::applicationDirPath()), rules);
-}
-
 void wait_without_input(std::chrono::milliseconds time) {
     QEventLoop loop;
     QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
@@ -66,7 +63,7 @@ Program::Program(ProgramFolderPlaces places)
     : places_(std::move(places)),
       fitting_(reference_, main_screen),
       main_window_({state_, reference_, fitting_, message_boxes_, file_dialogs_, drive_, random_, settings_, *top_most_,
-                    *multimedia_, watch_clipboard, all_screens, browser_of_plugin,
+                    *multimedia_, watch_clipboard, all_screens, make_system_browser, start_information_tool,
                     [] { wait_without_input(animation_step); }, [] { wait_without_input(glide_step); },
                     [] { QCoreApplication::quit(); }}),
       termination_([this] { main_window_.kilép_Click(); }) {

@@ -114,6 +114,8 @@ QString find_program_folder(const ProgramFolderPlaces &places) {
         return *ready;
     const QDir own = own_folder(places);
     QDir().mkpath(own.path());
+    if (places.installed_dictionaries.isEmpty())
+        return own.absolutePath();
     const QDir installed(places.installed_dictionaries);
     link_dictionaries(installed, own);
     // Its address is the text of the folder immediately followed by this one.

@@ -1,10 +1,12 @@
 #include "lookup/browser_plugin.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QLoggingCategory>
 #include <QOpenGLContext>
 #include <QPluginLoader>
 
+#include "lookup/system_browser.h"
 #include "platform/browser_sandbox.h"
 
 QT_BEGIN_NAMESPACE
@@ -58,4 +60,8 @@ WebBrowserResult make_browser_of_plugin(const QStringList &folders, const WebBro
     if (!plugin)
         return not_loaded(loader.errorString());
     return plugin->make(rules);
+}
+
+WebBrowserResult make_system_browser(const WebBrowserRules &rules) {
+    return make_browser_of_plugin(browser_plugin_folders(QCoreApplication::applicationDirPath()), rules);
 }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
@@ -98,13 +99,16 @@ std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, con
     QFileDialog dialog(seen(window), QString(), QFileInfo(proposal).path(), word_list_filter);
     dialog.setIconProvider(&kinds);
     dialog.setAcceptMode(mode);
+    // The system's own dialog has no title otherwise.
+    dialog.setWindowTitle(mode == QFileDialog::AcceptOpen ? QStringLiteral("Megnyitás")
+                                                          : QStringLiteral("Mentés másként"));
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     if (!proposal.contains(u'*'))
         dialog.selectFile(proposal);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return dialog.selectedFiles().front();
+    return QDir::toNativeSeparators(dialog.selectedFiles().front());
 }
 
 }  // namespace

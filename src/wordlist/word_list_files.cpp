@@ -1,5 +1,6 @@
 #include "wordlist/word_list_files.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <algorithm>
@@ -56,7 +57,7 @@ void szószedetfájlok::parancssorból(const QString &parancssor) {
         return;
     }
     if (const auto párok = párokat(út))
-        fájlmegnyit(QFileInfo(út).absoluteFilePath(), *párok);
+        fájlmegnyit(QDir::toNativeSeparators(QFileInfo(út).absoluteFilePath()), *párok);
 }
 
 bool szószedetfájlok::elengedhető() {

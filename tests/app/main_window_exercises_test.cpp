@@ -82,7 +82,7 @@ TEST_F(MainWindowExercises, typed_quiz_is_won_to_the_end_and_the_main_window_is_
             ASSERT_NE(message, nullptr);
             EXPECT_EQ(message->objectName(), QStringLiteral("üzenet"));
             for (int i = 0; i < 3; ++i)
-                result.append(shown(*message, qPrintable(QStringLiteral("Pic_szöveg(%1)").arg(i))));
+                result.append(shown(*message, qUtf8Printable(QStringLiteral("Pic_szöveg(%1)").arg(i))));
             message->close();
         });
         auto *answer = quiz.findChild<QLineEdit *>(QStringLiteral("txt_megoldás"));

@@ -63,6 +63,27 @@ TEST_F(MainWindowInfo, opens_the_about_box_with_the_programs_name_and_version) {
     EXPECT_TRUE(window_->isVisible());
 }
 
+TEST_F(MainWindowInfo, says_nothing_itself_when_the_systems_information_tool_has_started) {
+    information_tool_ = InformationTool::started;
+
+    open_about_box([&] {
+        QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(QStringLiteral("cmdSysInfo")), Qt::LeftButton);
+        EXPECT_NE(modal(u"frmAbout"), nullptr);
+    });
+
+    EXPECT_TRUE(boxes_.told.isEmpty());
+}
+
+TEST_F(MainWindowInfo, tells_when_the_systems_information_tool_is_not_to_be_had) {
+    information_tool_ = InformationTool::unavailable;
+
+    open_about_box([&] {
+        QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(QStringLiteral("cmdSysInfo")), Qt::LeftButton);
+    });
+
+    EXPECT_EQ(boxes_.told, QStringList{QStringLiteral("System Information Is Unavailable At This Time")});
+}
+
 TEST_F(MainWindowInfo, shows_what_is_known_of_the_system_in_front_of_the_about_box) {
     QString title;
     QString text;

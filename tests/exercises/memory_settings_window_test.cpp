@@ -251,7 +251,7 @@ class MemorySettings : public MemoryTest {
     void choose_board(int size) {
         in_settings([&](frm_memory_beáll &settings) {
             EXPECT_EQ(settings.windowModality(), Qt::ApplicationModal);
-            click(settings, qPrintable(QStringLiteral("Option_méret(%1)").arg(size)));
+            click(settings, qUtf8Printable(QStringLiteral("Option_méret(%1)").arg(size)));
             click(settings, "cmd_ok");
         });
     }

@@ -48,7 +48,7 @@ class TypedQuizWindow : public ExerciseTest {
     [[nodiscard]] QRadioButton *direction(int i) const {
         return control<QRadioButton>(*window_, QStringLiteral("nyelvoptb(%1)").arg(i));
     }
-    void choose_direction(int i) { click(*window_, qPrintable(QStringLiteral("nyelvoptb(%1)").arg(i))); }
+    void choose_direction(int i) { click(*window_, qUtf8Printable(QStringLiteral("nyelvoptb(%1)").arg(i))); }
 
     /// The last message's line with the error ratio.
     [[nodiscard]] QString ratio() const { return messages_.isEmpty() ? QString() : messages_.back().lines.back(); }

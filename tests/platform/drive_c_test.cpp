@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -10,17 +11,18 @@
 namespace {
 
 TEST(DriveC, puts_a_fixed_place_under_its_root) {
-    const DriveC drive(QStringLiteral("/tmp/meghajtó"));
+    const DriveC drive(QStringLiteral("/hely/meghajtó"));
 
-    EXPECT_EQ(drive.path(u"c:\\zbrmk\\angol\\kisablak.ini"), QStringLiteral("/tmp/meghajtó/zbrmk/angol/kisablak.ini"));
+    EXPECT_EQ(drive.path(u"c:\\zbrmk\\angol\\kisablak.ini"), QStringLiteral("/hely/meghajtó/zbrmk/angol/kisablak.ini"));
 }
 
 TEST(DriveC, is_the_folder_that_the_environment_names) {
-    qputenv("ZIMBORA_C", "/tmp/másik");
+    const QString named = QDir::tempPath() + QStringLiteral("/másik");
+    qputenv("ZIMBORA_C", named.toLocal8Bit());
     const DriveC drive = DriveC::of_this_user();
     qunsetenv("ZIMBORA_C");
 
-    EXPECT_EQ(drive.path(u"c:\\zbrmkfnh.ini"), QStringLiteral("/tmp/másik/zbrmkfnh.ini"));
+    EXPECT_EQ(drive.path(u"c:\\zbrmkfnh.ini"), named + QStringLiteral("/zbrmkfnh.ini"));
 }
 
 TEST(DriveC, makes_its_root_with_the_folders_above_it) {

@@ -1,37 +1,14 @@
 #include "platform/files.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <csignal>
 
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
 namespace {
-
-constexpr rlim_t small_file = 4096;
-
-/// From here on the process can write no file larger than small_file, as on a full disk.
-void limit_file_size() {
-    const rlimit limit{small_file, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &limit);
-}
-
-/// Ends the process: with 0 when an ordinary user is told that the right to write `path` is missing. Root has every
-/// right and gives them up here.
-[[noreturn]] void replace_without_the_right(const QString &path) {
-    constexpr uid_t nobody = 65534;
-    if (getuid() == 0 && setuid(nobody) != 0)
-        std::_Exit(2);
-    const auto failure = files::replace_whole(path, "new:\xfaj\r\n");
-    const bool told =
-        failure && failure->sentence.endsWith(QStringLiteral("fájl nem írható: nincs jogosultság az írásához."));
-    std::_Exit(told ? 0 : 1);
-}
 
 class Files : public testing::Test {
   protected:
@@ -62,73 +39,11 @@ TEST_F(Files, says_why_a_folder_cannot_be_read) {
     EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(QStringLiteral("ez egy mappa.")));
 }
 
-TEST_F(Files, says_so_when_reading_fails_half_way) {
-    // The memory of a process opens, but its first page cannot be read.
-    const FileContent content = files::read_whole(QStringLiteral("/proc/self/mem"));
-
-    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(QStringLiteral("olvasási hiba történt.")));
-}
-
 TEST_F(Files, says_why_a_file_cannot_be_written_into_a_missing_folder) {
     const auto failure = files::replace_whole(in_folder(QStringLiteral("nincs/lista.szs")), "a:b\r\n");
 
     ASSERT_TRUE(failure);
     EXPECT_TRUE(failure->sentence.endsWith(QStringLiteral("fájl nem írható: a mappa nem létezik.")));
-}
-
-TEST_F(Files, says_so_when_a_folder_takes_no_files) {
-    // Nobody, not even root, can make a file there.
-    const auto failure = files::replace_whole(QStringLiteral("/proc/lista.szs"), "a:b\r\n");
-
-    ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->sentence.startsWith(QStringLiteral("A(z) „/proc/lista.szs” fájl nem írható: ")));
-}
-
-TEST_F(Files, says_that_the_right_to_write_is_missing_for_a_read_only_file_and_in_a_read_only_folder) {
-    const QString path = in_folder(QStringLiteral("lista.szs"));
-    write_file(path, "old:r\xe9gi\r\n");
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther);
-    QFile::setPermissions(folder_.path(), QFile::Permissions(0x7777));
-    EXPECT_EXIT(replace_without_the_right(path), testing::ExitedWithCode(0), "");
-
-    QFile::setPermissions(folder_.path(), QFile::Permissions(0x5555));
-    EXPECT_EXIT(replace_without_the_right(in_folder(QStringLiteral("uj.szs"))), testing::ExitedWithCode(0), "");
-
-    QFile::setPermissions(folder_.path(), QFile::Permissions(0x7777));
-    EXPECT_EQ(read_file(path), "old:r\xe9gi\r\n");
-}
-
-TEST_F(Files, leaves_the_old_file_whole_when_the_disk_is_full) {
-    const QString path = in_folder(QStringLiteral("lista.szs"));
-    write_file(path, "old:régi\r\n");
-    // A small file fails only when its one buffer is written out, a large one earlier.
-    for (const qsizetype size : {10000, 1 << 20}) {
-        EXPECT_EXIT(
-            {
-                std::signal(SIGXFSZ, SIG_IGN);
-                limit_file_size();
-                const auto failure = files::replace_whole(path, QByteArray(size, 'x'));
-                std::exit(failure ? 0 : 1);
-            },
-            testing::ExitedWithCode(0), "");
-
-        EXPECT_EQ(read_file(path), "old:régi\r\n");
-        EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{QStringLiteral("lista.szs")});
-    }
-}
-
-TEST_F(Files, leaves_the_old_file_whole_when_the_process_is_killed_in_the_middle) {
-    const QString path = in_folder(QStringLiteral("lista.szs"));
-    write_file(path, "old:régi\r\n");
-    EXPECT_EXIT(
-        {
-            limit_file_size();
-            static_cast<void>(files::replace_whole(path, QByteArray(1 << 20, 'x')));
-            std::exit(0);
-        },
-        testing::KilledBySignal(SIGXFSZ), "");
-
-    EXPECT_EQ(read_file(path), "old:régi\r\n");
 }
 
 TEST_F(Files, takes_only_a_file_for_an_existing_file) {

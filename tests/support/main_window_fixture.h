@@ -59,7 +59,7 @@ class MainWindowTest : public testing::Test {
                                 browser_ = browser.get();
                                 return browser;
                             },
-                            [this] { ++animation_steps_; },
+                            [this] { return information_tool_; }, [this] { ++animation_steps_; },
                             [this] {
                                 ++glide_steps_;
                                 between_glide_steps_();
@@ -128,6 +128,7 @@ class MainWindowTest : public testing::Test {
     FakeClipboard clipboard_;
     /// The browser of the help viewer, once it has been opened.
     FakeWebBrowser *browser_ = nullptr;
+    InformationTool information_tool_ = InformationTool::unknown;
     int animation_steps_ = 0;
     int glide_steps_ = 0;
     std::function<void()> between_glide_steps_ = [] {};

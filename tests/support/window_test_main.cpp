@@ -9,6 +9,9 @@
 // Style, type face and locale are those of the tests, whatever desktop they run on.
 int main(int argc, char *argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Wine hands no variable of the toolkit on, and the offscreen platform needs a folder of type faces there.
+    if (qEnvironmentVariableIsSet("ZIMBORA_TEST_FACES"))
+        qputenv("QT_QPA_FONTDIR", qgetenv("ZIMBORA_TEST_FACES"));
     QStandardPaths::setTestModeEnabled(true);
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileIconProvider>
 #include <QLineEdit>
 #include <QMenu>
@@ -39,7 +40,7 @@ TEST_F(ToolkitTexts, of_a_text_boxs_menu_are_hungarian) {
 TEST_F(ToolkitTexts, of_the_file_dialogs_kinds_of_files_are_hungarian) {
     const QFileIconProvider kinds;
 
-    EXPECT_EQ(kinds.type(QFileInfo(QStringLiteral("/tmp"))), QStringLiteral("Mappa"));
+    EXPECT_EQ(kinds.type(QFileInfo(QDir::tempPath())), QStringLiteral("Mappa"));
     EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Unknown"), QStringLiteral("Ismeretlen"));
 }
 
