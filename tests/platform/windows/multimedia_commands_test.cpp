@@ -1,0 +1,102 @@
+#include "platform/multimedia_commands.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <mmsystem.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include "support/files_for_tests.h"
+#include "support/printing.h"
+
+namespace {
+
+/// The smallest MIDI file that lasts: one track with a rest of half a minute.
+QByteArray rest_of_half_a_minute() {
+    return QByteArray::fromHex(
+        "4d546864"
+        "00000006"
+        "0000"
+        "0001"
+        "0060"
+        "4d54726b"
+        "0000000c"
+        "00c000"
+        "ad40903c00"
+        "00ff2f00");
+}
+
+class SystemMultimedia : public testing::Test {
+  protected:
+    ~SystemMultimedia() override { static_cast<void>(commands_->send(QStringLiteral("close midi"), 0)); }
+
+    [[nodiscard]] QString piece(const char16_t *name) const {
+        const QString path = folder_.filePath(QString::fromUtf16(name));
+        write_file(path, rest_of_half_a_minute());
+        return path;
+    }
+
+    quint32 open(const QString &path) {
+        return commands_->send(QStringLiteral("open %1 type sequencer alias midi").arg(quoted_for_command(path)), 0)
+            .code;
+    }
+
+    QString mode() { return commands_->send(QStringLiteral("Status midi mode"), 255).text; }
+
+    QTemporaryDir folder_;
+    std::unique_ptr<MultimediaCommands> commands_ = make_multimedia_commands();
+};
+
+TEST_F(SystemMultimedia, plays_a_midi_file_and_tells_so) {
+    ASSERT_EQ(open(piece(u"Érik a szőlő.mid")), 0U);
+    EXPECT_EQ(mode(), QStringLiteral("stopped"));
+
+    EXPECT_EQ(commands_->send(QStringLiteral("play midi "), 0).code, 0U);
+
+    EXPECT_EQ(mode(), QStringLiteral("playing"));
+}
+
+TEST_F(SystemMultimedia, is_silent_after_the_device_is_closed) {
+    ASSERT_EQ(open(piece(u"a.mid")), 0U);
+    static_cast<void>(commands_->send(QStringLiteral("play midi "), 0));
+
+    EXPECT_EQ(commands_->send(QStringLiteral("close midi"), 0).code, 0U);
+
+    EXPECT_EQ(mode(), QString());
+}
+
+TEST_F(SystemMultimedia, takes_slashes_for_backslashes_in_the_path) {
+    const QString path = piece(u"a b.mid");
+    ASSERT_TRUE(path.contains(u'/'));
+
+    EXPECT_EQ(open(path), 0U);
+}
+
+TEST_F(SystemMultimedia, fails_for_a_missing_file_with_a_code) {
+    EXPECT_NE(open(folder_.filePath(QStringLiteral("nincs.mid"))), 0U);
+    EXPECT_EQ(mode(), QString());
+}
+
+TEST_F(SystemMultimedia, sends_no_command_whose_path_holds_a_quotation_mark) {
+    const QString path = piece(u"a.mid") + QStringLiteral("\" type sequencer alias midi");
+
+    EXPECT_EQ(open(path), static_cast<quint32>(MCIERR_FILE_NOT_FOUND));
+
+    EXPECT_EQ(mode(), QString());
+}
+
+TEST_F(SystemMultimedia, fails_when_the_answer_does_not_fit) {
+    ASSERT_EQ(open(piece(u"a.mid")), 0U);
+
+    const MultimediaAnswer answer = commands_->send(QStringLiteral("status midi mode"), 3);
+
+    EXPECT_NE(answer.code, 0U);
+    EXPECT_EQ(answer.text, QString());
+}
+
+}  // namespace

@@ -1,0 +1,195 @@
+#!/usr/bin/env bash
+# whole_program_test.sh <Wine prefix> <folder of the program> [<test>...]: the program for Windows with the real
+# dictionaries, used by mouse and keys. It lies on the drive C of the prefix, as an installed one does, and keeps its
+# files and settings there.
+set -euo pipefail
+here=$(dirname "$(realpath "$0")")
+source "$here/wine.sh"
+source "$here/../e2e/lib.sh"
+source "$here/../e2e/exercise_lib.sh"
+
+readonly settings_key='HKCU\Software\Zimbora\szotar'
+
+set_up_windows() {
+    unset DISPLAY WAYLAND_DISPLAY ZIMBORA_C ZIMBORA_PROGRAM
+    export LC_ALL=C.UTF-8
+    use_prefix "$prefix"
+    temp=$(mktemp -d /tmp/zimbora_e2e_XXXXXX)
+    children=()
+    trap tidy_up_windows EXIT
+    trap 'exit 1' INT TERM HUP
+    drive=$prefix/drive_c
+    lists='C:\lists'
+    forget_former_runs
+    mkdir "$drive/lists"
+    cp -r "$program_folder" "$drive/Zimbora"
+    cp -r "${program_folder}kavaro" "$drive/Zimborakavaro"
+    cp "${program_folder}null.wav" "$drive/Zimboranull.wav"
+    binary=$temp/zimbora
+    printf '#!/bin/sh\nexec %q %q "$@"\n' "$wine" 'C:\Zimbora\zimbora.exe' >"$binary"
+    chmod +x "$binary"
+}
+
+forget_former_runs() {
+    rm -rf "$drive"/{lists,Zimbora,Zimborakavaro,Zimboranull.wav,zbrmk,zbrmkfnh.ini}
+    "$wine" reg delete 'HKCU\Software\Zimbora' /f >/dev/null 2>&1 || true
+}
+
+tidy_up_windows() {
+    local status=$?
+    set +e
+    if ((status != 0)); then
+        show_what_was_seen
+    fi
+    "$wineserver" --kill
+    "$wineserver" --wait
+    end_children
+    rm -rf "$temp"
+    exit "$status"
+}
+
+# unix_path <path on drive C>
+unix_path() {
+    local path=${1#C:}
+    echo "$drive${path//\\//}"
+}
+
+# Keys that come faster than Wine hands them on are lost.
+press() {
+    xdotool key --delay 100 "$@"
+}
+
+main_window_names() {
+    [[ $(xdotool getwindowname "$main_window") == "$(title_of_list "$1")" ]]
+}
+
+# save_in_dialog <path>: the dialog is the system's own, which selects the proposed name when it is ready.
+save_in_dialog() {
+    press alt+f m
+    wait_for_title "Mentés másként"
+    press ctrl+a
+    write "$1"
+    press Return
+    wait_until "the saved list" main_window_names "$1"
+    # On Windows the window behind the dialog is in front again by itself.
+    xdotool windowactivate --sync "$main_window"
+}
+
+setting() {
+    "$wine" reg query "$settings_key\\$1" /v "$2" 2>/dev/null | tr -d '\r' | awk -v key="$2" '$1 == key { print $3 }'
+}
+
+setting_is() {
+    [[ $(setting "$1" "$2") == "$3" ]]
+}
+
+test_the_main_job_ends_with_the_exact_bytes_in_the_file() {
+    # Given
+    start_program
+    # When
+    add_apple
+    save_in_dialog "$lists\\fruit.szs"
+    # Then
+    expect_lines "$(unix_path "$lists\\fruit.szs")" apple:alma
+    expect_lines "$drive/zbrmkfnh.ini" "$lists\\fruit.szs"
+    import -window root "${ZIMBORA_E2E_PICTURES:-$temp}/windows-main-window.png"
+    press alt+F4
+    expect_end_with_success
+}
+
+test_a_path_in_quotation_marks_on_the_command_line_is_opened() {
+    # Given
+    make_list "$(unix_path "$lists\\my list.szs")" dog:kutya cat:macska
+    # When
+    start_program "$lists\\my list.szs"
+    # Then
+    wait_for_title "$(title_of_list "$lists\\my list.szs")"
+    click "$first_pair"
+    expect_selected_pair dog kutya
+}
+
+test_music_is_playing_until_the_piece_ends() {
+    # Given
+    start_program
+    # When
+    press alt+b z
+    wait_for_exercise "Zenei beállítások"
+    press Tab Tab space Return
+    wait_for_exercise "névtelen szószedet"
+    # Then
+    wait_until "the first piece" piece_is "Tavaszi szél vizet áraszt.mid"
+    # The program asks each second, and goes on to the next piece as soon as the answer is not "playing".
+    sleep 4
+    piece_is "Tavaszi szél vizet áraszt.mid" || fail "The piece did not go on."
+    [[ $(head -n 1 "$drive/zbrmk/kavaro/zenebeáll.ini") == $' 1\r' ]] || fail "The switch was not kept."
+}
+
+# The window of the sounds, when it opens, has the name of the piece in its title.
+piece_is() {
+    local title
+    press alt+b h
+    wait_until "the window of the sounds" sounds_are_in_front
+    title=$(title_in_front)
+    press Escape
+    wait_until "the main window in front" main_window_is_in_front
+    [[ $title == "$1 - Kavaro Hangbeállítások" ]]
+}
+
+sounds_are_in_front() {
+    [[ $(title_in_front) == *" - Kavaro Hangbeállítások" ]]
+}
+
+test_settings_are_kept_in_the_registry_over_a_restart() {
+    # Given
+    make_list "$(unix_path "$lists\\animals.szs")" dog:kutya cat:macska horse:ló
+    open_puzzle_settings
+    setting_is frm_kirakó_beáll nyelv "" || fail "There is a setting before any was made."
+    # When: from the second direction, which is the default, to the first.
+    press Up Return
+    wait_until "the setting in the registry" setting_is frm_kirakó_beáll nyelv 0
+    wait_for_exercise "Kirakó"
+    leave_puzzle
+    # Then: from the first direction to the second.
+    open_puzzle_settings
+    press Down Return
+    wait_until "the setting in the registry" setting_is frm_kirakó_beáll nyelv 1
+    wait_for_exercise "Kirakó"
+    leave_puzzle
+}
+
+open_puzzle_settings() {
+    start_program "$lists\\animals.szs"
+    wait_for_title "$(title_of_list "$lists\\animals.szs")"
+    practise "$to_puzzle" "Kirakó"
+    press alt+f b
+    wait_for_exercise "Kirakó - Beállítások"
+}
+
+leave_puzzle() {
+    press Escape
+    wait_for_title "$(title_of_list "$lists\\animals.szs")"
+    press alt+F4
+    expect_end_with_success
+}
+
+run_windows_tests() {
+    local one failed=0 all
+    prefix=$(realpath "$1")
+    program_folder=$(realpath "$2")
+    shift 2
+    if (($# == 1)); then
+        name=$1
+        declare -F "$name" >/dev/null || fail "No such test: $name"
+        set_up_windows
+        start_screen
+        "$name"
+        return
+    fi
+    mapfile -t all < <(declare -F | sed -n 's/^declare -f \(test_.*\)/\1/p')
+    for one in "${@:-${all[@]}}"; do
+        "$0" "$prefix" "$program_folder" "$one" && echo "ok $one" || failed=1
+    done
+    return "$failed"
+}
+
+run_windows_tests "$@"
