@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QEventLoop>
 #include <QScreen>
 #include <QSessionManager>
@@ -90,7 +91,8 @@ void Program::start(const QString &command_line) {
         splash->repaint();
         wait_without_input(splash_time);
     }
-    state_.programkönyvtár = find_program_folder(places_);
+    // Addresses that begin with it are shown.
+    state_.programkönyvtár = QDir::toNativeSeparators(find_program_folder(places_));
     main_window_.Form_Load(command_line);
     // A message at the start may have been answered by a request to end; the mini window stands in its place.
     if (!main_window_.vége() && state_.kisablakmód != 1)

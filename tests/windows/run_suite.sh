@@ -14,12 +14,22 @@ if (($# == 0)); then
     arguments=("--gtest_filter=-$(sed '/^#/d; /^$/d' "$here/left_out.txt" | tr '\n' ':')")
 fi
 
+end_suite() {
+    local status=$?
+    set +e
+    "$wineserver" --kill
+    "$wineserver" --wait
+    end_children
+    rm -rf "$temp"
+    exit "$status"
+}
+
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 export LC_ALL=C.UTF-8
 # The offscreen platform takes its type faces from a folder.
 export ZIMBORA_TEST_FACES=/usr/share/fonts/truetype/liberation2
 temp=$(mktemp -d)
-trap tidy_up EXIT
+trap end_suite EXIT
 trap 'exit 1' INT TERM HUP
 children=()
 start_screen 1280x1024

@@ -139,6 +139,28 @@ sounds_are_in_front() {
     [[ $(title_in_front) == *" - Kavaro Hangbeállítások" ]]
 }
 
+# Wine's control is there, what draws pages is not installed: the program tells so, and goes on.
+test_the_help_opens_in_the_systems_browser_control() {
+    # Given
+    start_program
+    # When
+    press F1
+    # Then
+    wait_for_exercise "Üzenet"
+    press Return
+    wait_until "the help viewer" viewer_is_in_front
+    press alt+a
+    wait_for_text 'C:\Zimborakavaro\help\Kavaro súgó.mht'
+    press alt+F4
+    xdotool windowactivate --sync "$main_window"
+    press alt+F4
+    expect_end_with_success
+}
+
+viewer_is_in_front() {
+    [[ $(title_in_front) == "Zimbora" || $(title_in_front) == "Kavaro - Súgó" ]]
+}
+
 test_settings_are_kept_in_the_registry_over_a_restart() {
     # Given
     make_list "$(unix_path "$lists\\animals.szs")" dog:kutya cat:macska horse:ló
