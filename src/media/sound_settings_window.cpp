@@ -145,10 +145,8 @@ void frm_hangbeáll::Form_Load() {
     k_.hasznos.ablakstílus(*this);
     Filelist_->set_folder(beállítások_.hangmappa());
     betölt();
-    for (const Hangsor &sor : sorok_) {
-        rajzol(*sor.hozzáad, u"add");
-        rajzol(*sor.töröl, u"remove");
-    }
+    rajzol({sorok_[0].hozzáad, sorok_[1].hozzáad, sorok_[2].hozzáad}, u"add");
+    rajzol({sorok_[0].töröl, sorok_[1].töröl, sorok_[2].töröl}, u"remove");
 }
 
 void frm_hangbeáll::mutat() {
