@@ -118,8 +118,8 @@ void frm_zenebeáll::Form_Load() {
     engedélyezés();
     for (QPushButton *gomb : {cmd_add_, cmd_törl_, cmd_ok_, cmd_mégsem_})
         Module_hasznos::szövegbeigazít(*gomb, gomb->text());
-    rajzol(*fel_, u"up");
-    rajzol(*le_, u"down");
+    rajzol({fel_}, u"up");
+    rajzol({le_}, u"down");
 }
 
 void frm_zenebeáll::mutat() {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QPushButton>
-#include <QString>
 
-/// Gives a button the drawing resources/media/`rajz`.svg. To be called when the button has its place: the drawing is
-/// as large as fits beside its caption.
-void rajzol(QPushButton &gomb, const char16_t *rajz);
+/// Gives buttons the drawing resources/media/`rajz`.svg, one for all of them. To be called when the buttons have their
+/// places: the drawing is as large as fits beside their captions.
+void rajzol(const QList<QPushButton *> &gombok, const char16_t *rajz);

@@ -105,7 +105,7 @@ void frm_hangbeáll::elhelyezés() {
     for (size_t i = 0; i < chk_.size(); ++i) {
         elhelyez(chk_[i], {szél * 2 + helyek[i].x() * (gombok - szél),
                            keret_fent + keret_teteje + helyek[i].y() * kapcsoló_magas,
-                           helyek[i].x() == 0 ? gombok - 2 * szél : gomb_széles - szél, kapcsoló_magas});
+                           helyek[i].x() == 0 ? gombok - 2 * szél : gomb_széles - 2 * szél, kapcsoló_magas});
     }
     const double alul = keret_fent + keret_magas + 2 * sorköz;
     constexpr double zárógomb = 2200;
@@ -145,10 +145,8 @@ void frm_hangbeáll::Form_Load() {
     k_.hasznos.ablakstílus(*this);
     Filelist_->set_folder(beállítások_.hangmappa());
     betölt();
-    for (const Hangsor &sor : sorok_) {
-        rajzol(*sor.hozzáad, u"add");
-        rajzol(*sor.töröl, u"remove");
-    }
+    rajzol({sorok_[0].hozzáad, sorok_[1].hozzáad, sorok_[2].hozzáad}, u"add");
+    rajzol({sorok_[0].töröl, sorok_[1].töröl, sorok_[2].töröl}, u"remove");
 }
 
 void frm_hangbeáll::mutat() {

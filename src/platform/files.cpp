@@ -56,11 +56,12 @@ std::optional<Failure> remove(const QString &path) {
     const QFileInfo place(path);
     if (QFile::remove(path) || (!place.exists() && !place.isSymLink()))
         return std::nullopt;
-    const bool allowed = QFileInfo(place.path()).isWritable() && !place.isDir();
-    return Failure{QStringLiteral("A(z) „%1” fájl nem törölhető: %2")
-                       .arg(QDir::toNativeSeparators(path),
-                            allowed ? QStringLiteral("egy másik program használja, vagy hiba történt.")
-                                    : QStringLiteral("nincs jogosultság a törléséhez."))};
+    QString reason = QStringLiteral("egy másik program használja, vagy hiba történt.");
+    if (place.isDir())
+        reason = QStringLiteral("ez egy mappa.");
+    else if (!QFileInfo(place.path()).isWritable())
+        reason = QStringLiteral("nincs jogosultság a törléséhez.");
+    return Failure{QStringLiteral("A(z) „%1” fájl nem törölhető: %2").arg(QDir::toNativeSeparators(path), reason)};
 }
 
 bool exists(const QString &path) {

@@ -33,6 +33,17 @@ void limit_file_size() {
     std::_Exit(told ? 0 : 1);
 }
 
+/// The same for the right to delete it.
+[[noreturn]] void remove_without_the_right(const QString &path) {
+    constexpr uid_t nobody = 65534;
+    if (getuid() == 0 && setuid(nobody) != 0)
+        std::_Exit(2);
+    const auto failure = files::remove(path);
+    const bool told =
+        failure && failure->sentence.endsWith(QStringLiteral("fájl nem törölhető: nincs jogosultság a törléséhez."));
+    std::_Exit(told ? 0 : 1);
+}
+
 class Files : public testing::Test {
   protected:
     [[nodiscard]] QString in_folder(const QString &name) const { return folder_.filePath(name); }
@@ -137,6 +148,66 @@ TEST_F(Files, takes_only_a_file_for_an_existing_file) {
     EXPECT_TRUE(files::exists(in_folder(QStringLiteral("van.szs"))));
     EXPECT_FALSE(files::exists(in_folder(QStringLiteral("nincs.szs"))));
     EXPECT_FALSE(files::exists(folder_.path()));
+}
+
+TEST_F(Files, deletes_a_file_and_no_other) {
+    const QString path = in_folder(QStringLiteral("két hang ő.wav"));
+    write_file(path, "RIFF");
+    write_file(in_folder(QStringLiteral("más.wav")), "RIFF");
+
+    EXPECT_FALSE(files::remove(path));
+
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{QStringLiteral("más.wav")});
+}
+
+TEST_F(Files, deletes_a_read_only_file) {
+    const QString path = in_folder(QStringLiteral("hang.wav"));
+    write_file(path, "RIFF");
+    QFile::setPermissions(path, QFile::ReadOwner);
+
+    EXPECT_FALSE(files::remove(path));
+
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(Files, takes_a_file_that_has_gone_already_for_deleted) {
+    EXPECT_FALSE(files::remove(in_folder(QStringLiteral("nincs.wav"))));
+    EXPECT_FALSE(files::remove(in_folder(QStringLiteral("nincs/hang.wav"))));
+}
+
+TEST_F(Files, deletes_a_link_and_not_what_it_leads_to) {
+    write_file(in_folder(QStringLiteral("hang.wav")), "RIFF");
+    for (const char *target : {"hang.wav", "nincs.wav"}) {
+        const QString link = in_folder(QStringLiteral("hanghoz.wav"));
+        ASSERT_TRUE(QFile::link(in_folder(QString::fromLatin1(target)), link));
+
+        EXPECT_FALSE(files::remove(link));
+
+        EXPECT_FALSE(QFileInfo(link).isSymLink()) << target;
+    }
+    EXPECT_TRUE(QFile::exists(in_folder(QStringLiteral("hang.wav"))));
+}
+
+TEST_F(Files, says_so_when_a_folder_stands_in_the_place_of_a_file_to_be_deleted) {
+    QDir(folder_.path()).mkdir(QStringLiteral("hang.wav"));
+    const QString path = in_folder(QStringLiteral("hang.wav"));
+
+    const auto failure = files::remove(path);
+
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->sentence, QStringLiteral("A(z) „%1” fájl nem törölhető: ez egy mappa.").arg(path));
+    EXPECT_TRUE(QFileInfo(path).isDir());
+}
+
+TEST_F(Files, says_that_the_right_to_delete_is_missing_in_a_read_only_folder) {
+    const QString path = in_folder(QStringLiteral("hang.wav"));
+    write_file(path, "RIFF");
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x5555));
+
+    EXPECT_EXIT(remove_without_the_right(path), testing::ExitedWithCode(0), "");
+
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x7777));
+    EXPECT_TRUE(QFile::exists(path));
 }
 
 }  // namespace
