@@ -18,3 +18,5 @@ test_packages=(
     clang clang-format clang-tidy libclang-rt-14-dev
     xterm
 )
+# What making and checking the Debian package takes.
+deb_packages=(dpkg-dev file lintian desktop-file-utils appstream)
