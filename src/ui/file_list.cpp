@@ -1,8 +1,11 @@
 #include "ui/file_list.h"
 
+#include <QCollator>
 #include <QDir>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QSignalBlocker>
+#include <algorithm>
 
 FileListBox::FileListBox(const QString &pattern, QWidget *parent) : ListBox(parent), pattern_(pattern) {}
 
@@ -14,10 +17,12 @@ void FileListBox::set_folder(const QString &folder) {
 void FileListBox::refresh() {
     QStringList names;
     // A pipe passes for a file there, as a device would.
-    for (const QFileInfo &file : QDir(folder_).entryInfoList({pattern_}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
+    for (const QFileInfo &file : QDir(folder_).entryInfoList({pattern_}, QDir::Files, QDir::Name)) {
         if (file.isFile())
             names.append(file.fileName());
     }
+    const QCollator alphabet(QLocale(QLocale::Hungarian, QLocale::Hungary));
+    std::stable_sort(names.begin(), names.end(), alphabet);
     set_items(names);
 }
 

@@ -265,6 +265,7 @@ class MusicNotice : public MusicSettingsTest {
 
 TEST_F(MusicNotice, stands_in_front_while_the_file_is_opened_and_goes_then) {
     start_with({march, dance});
+    notice()->lower();
 
     click_item("list_playlist", dance);
 

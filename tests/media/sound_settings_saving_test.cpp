@@ -317,7 +317,7 @@ TEST_F(SoundSettingsSaving, lists_files_that_came_and_went_while_it_was_hidden) 
 
     open([this] {
         EXPECT_EQ(list("Filelist")->items(),
-                  QStringList({QStringLiteral("alarm.wav"), bell, QStringLiteral("béka.wav"), chime, gong}));
+                  QStringList({QStringLiteral("alarm.wav"), QStringLiteral("béka.wav"), bell, chime, gong}));
         EXPECT_EQ(selected("Filelist"), chime);
         EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 4\\ 5"));
     });

@@ -58,6 +58,16 @@ TEST_F(FileList, orders_names_by_their_letters_whether_small_or_capital) {
     EXPECT_EQ(list_.items(), names({"alma 10.wav", "alma 2.wav", "Barack.wav", "citrom.wav", "DIÓ.wav"}));
 }
 
+TEST_F(FileList, orders_accented_letters_beside_those_without_an_accent) {
+    for (const char *name : {"Őszi eső.wav", "zene.wav", "Érik a szőlő.wav", "öröm.wav", "este.wav", "ostor.wav"})
+        make(name);
+
+    list_.set_folder(folder_.path());
+
+    EXPECT_EQ(list_.items(),
+              names({"Érik a szőlő.wav", "este.wav", "ostor.wav", "öröm.wav", "Őszi eső.wav", "zene.wav"}));
+}
+
 TEST_F(FileList, shows_neither_folders_nor_pipes_nor_links_to_nothing) {
     make("hang.wav");
     QDir(folder_.path()).mkdir(QStringLiteral("mappa.wav"));
