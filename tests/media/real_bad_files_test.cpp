@@ -193,22 +193,18 @@ TEST_F(RealBadFiles, passes_over_a_midi_piece_of_a_hundred_mebibytes_of_notes) {
     EXPECT_TRUE(can_play_a_piece());
 }
 
-TEST_F(RealBadFiles, is_silent_and_soon_back_on_a_machine_without_a_sound_device) {
+TEST_F(RealBadFiles, plays_in_silence_on_a_machine_without_a_sound_device) {
     qputenv("SDL_AUDIODRIVER", "nonexistent");
-    const QString wave = file("tone.wav", wave_of(1000, 1));
-    const QString piece = file("piece.mid", midi_of({69}, 1));
     QElapsedTimer clock;
     clock.start();
 
-    for (int i = 0; i < 1000; ++i) {
-        player_.hanglejátszás(QString(wave));
-        player_.midilejátszás(piece);
-    }
+    player_.hanglejátszás(file("tone.wav", wave_of(1000, 1)));
+    player_.midilejátszás(file("piece.mid", midi_of({69}, 1)));
 
-    RecordProperty("milliseconds", static_cast<int>(clock.elapsed()));
     EXPECT_LT(clock.elapsed(), bearable);
-    EXPECT_EQ(player_.midiállapot(), QString());
-    EXPECT_EQ(wave_mode(), QString());
+    EXPECT_EQ(wave_mode(), QStringLiteral("playing"));
+    EXPECT_EQ(player_.midiállapot(), QStringLiteral("playing"));
+    EXPECT_TRUE(wait_for([this] { return wave_mode() != QStringLiteral("playing"); }));
 }
 
 }  // namespace
