@@ -24,14 +24,15 @@ Answer answer_of(int button) {
     }
 }
 
-/// What a box stands in front of: `window`, or another window of the program that is seen while that one is hidden.
+/// What a box stands in front of: a modal window, which would cover the others' boxes; else `window`, or another window
+/// of the program that is seen while that one is hidden.
 QWidget *seen(QWidget *window) {
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
     if (window && window->isVisible())
         return window;
     if (QWidget *active = QApplication::activeWindow())
         return active;
-    if (QWidget *modal = QApplication::activeModalWidget())
-        return modal;
     const QWidgetList windows = QApplication::topLevelWidgets();
     const auto visible = std::find_if(windows.begin(), windows.end(),
                                       [](auto *one) { return one->isVisible() && one->windowType() == Qt::Window; });

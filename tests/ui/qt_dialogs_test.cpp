@@ -110,4 +110,15 @@ TEST_F(QtDialogs, box_stands_in_front_of_a_window_that_is_seen) {
     EXPECT_EQ(window_behind_a_box(), &main_window);
 }
 
+TEST_F(QtDialogs, box_stands_in_front_of_a_modal_window_and_not_behind_it) {
+    QWidget main_window;
+    boxes_.set_window(&main_window);
+    main_window.show();
+    QWidget modal;
+    modal.setWindowModality(Qt::ApplicationModal);
+    modal.show();
+
+    EXPECT_EQ(window_behind_a_box(), &modal);
+}
+
 }  // namespace
