@@ -5,7 +5,7 @@ build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev libgl-dev qt6-translations-l10n zlib1g-dev
     qt6-webengine-dev
-    pkg-config libxcb1-dev libxcb-xfixes0-dev
+    pkg-config libxcb1-dev libxcb-xfixes0-dev libcups2-dev
     fonts-liberation2 dict-freedict-eng-hun dict-freedict-hun-eng
 )
 # What a virtual display takes.
@@ -14,5 +14,5 @@ display_packages=(xvfb openbox xdotool x11-utils xclip imagemagick procps)
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
     clang clang-format clang-tidy libclang-rt-14-dev
-    xterm
+    xterm cups cups-client printer-driver-cups-pdf poppler-utils
 )
