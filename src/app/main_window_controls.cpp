@@ -142,6 +142,8 @@ szótármenü::szótármenü(QMenuBar &sor)
       elv1(separator(*mnufájl, u"elv1")),
       mnufájlment(named(mnufájl->addAction(QStringLiteral("&Ment")), u"mnufájlment")),
       mnufájlmentmásként(named(mnufájl->addAction(QStringLiteral("Ment másként...")), u"mnufájlmentmásként")),
+      elv2(separator(*mnufájl, u"elv2")),
+      mnufájlnyomtatás(named(mnufájl->addAction(QStringLiteral("Nyomtatás...")), u"mnufájlnyomtatás")),
       elv3(separator(*mnufájl, u"elv3")),
       mnufeladat(named(sor.addMenu(QStringLiteral("Fel&adatok")), u"mnufeladat")),
       mnufeladattanul(named(mnufeladat->addAction(QStringLiteral("&Tanulás")), u"mnufeladattanul")),
@@ -153,6 +155,7 @@ szótármenü::szótármenü(QMenuBar &sor)
       mnu_súgó(named(mnu_info->addAction(QStringLiteral("&Súgó")), u"mnu_súgó")),
       mnunévjegy(named(mnu_info->addAction(QStringLiteral("&Névjegy")), u"mnunévjegy")),
       mnu_cim(named(mnu_info->addAction(készítők_lapja), u"mnu_cim")) {
+    mnufájlnyomtatás->setShortcut(QKeySequence::Print);
     mnu_súgó->setShortcut(Qt::Key_F1);
     sor.setObjectName(QStringLiteral("menüsor"));
     for (size_t i = 0; i < mnufájlfájl.size(); ++i) {

@@ -19,6 +19,7 @@
 #include "support/dictionary_for_tests.h"
 #include "support/fake_desktop.h"
 #include "support/fake_dialogs.h"
+#include "support/fake_printers.h"
 #include "support/fake_web_browser.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
@@ -51,7 +52,7 @@ class MainWindowTest : public testing::Test {
     void load(const QString &command_line = {}) {
         window_ = std::make_unique<szótár>(
             szótárkörnyezet{state_, reference_, fitting_, boxes_, dialogs_, DriveC(place("c")), random_, settings_,
-                            top_most_, [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
+                            printers_, top_most_, [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
                             [this] { return QVector<QRectF>{screen_}; },
                             [this](const WebBrowserRules &) -> WebBrowserResult {
                                 auto browser = std::make_unique<FakeWebBrowser>();
@@ -63,7 +64,7 @@ class MainWindowTest : public testing::Test {
                                 ++glide_steps_;
                                 between_glide_steps_();
                             },
-                            [this] { ended_ = true; }});
+                            [this] { return time_; }, [this] { ended_ = true; }});
         window_->Form_Load(command_line);
     }
 
@@ -122,6 +123,8 @@ class MainWindowTest : public testing::Test {
     FakeFileDialogs dialogs_;
     SeededRandom random_;
     global::beállítástár settings_{place("settings.ini")};
+    FakePrinters printers_;
+    std::chrono::milliseconds time_{0};
     FakeTopMost top_most_;
     FakeClipboard clipboard_;
     /// The browser of the help viewer, once it has been opened.
