@@ -73,6 +73,13 @@ TEST_F(RealBadFiles, plays_what_there_is_of_a_wave_that_promises_four_gigabytes)
     EXPECT_TRUE(can_play_a_wave());
 }
 
+TEST_F(RealBadFiles, passes_over_other_music_that_is_named_a_wave) {
+    player_.hanglejátszás(file("x.wav", midi_of({69}, 10)));
+
+    EXPECT_EQ(wave_mode(), QString());
+    EXPECT_TRUE(can_play_a_wave());
+}
+
 TEST_F(RealBadFiles, passes_over_a_midi_piece_of_zero_bytes) {
     player_.midilejátszás(file("x.mid", ""));
 
@@ -153,6 +160,36 @@ TEST_F(RealBadFiles, passes_over_a_hundred_mebibytes_of_rubbish_soon) {
     EXPECT_LT(piece_milliseconds, bearable);
     EXPECT_TRUE(piece_ends());
     EXPECT_TRUE(can_play_a_wave());
+    EXPECT_TRUE(can_play_a_piece());
+}
+
+TEST_F(RealBadFiles, passes_over_a_wave_that_would_grow_beyond_all_bounds) {
+    // Of 8000 samples a second in one byte each the converter makes 96 times as many on its way: just above 2³².
+    const quint32 of_telephone = (1ULL << 32U) / 96 + 200'000;
+    // Each of its bytes lasts a second.
+    const quint32 of_seconds = 65'536;
+
+    const qint64 telephone =
+        time_of_wave(large_file("telephone.wav", wave_header(of_telephone, 8, 8000), header_size + of_telephone));
+    EXPECT_EQ(wave_mode(), QString());
+    const qint64 seconds =
+        time_of_wave(large_file("seconds.wav", wave_header(of_seconds, 8, 1), header_size + of_seconds));
+    EXPECT_EQ(wave_mode(), QString());
+
+    EXPECT_LT(telephone, bearable);
+    EXPECT_LT(seconds, bearable);
+    EXPECT_TRUE(can_play_a_wave());
+}
+
+TEST_F(RealBadFiles, passes_over_a_midi_piece_of_a_hundred_mebibytes_of_notes) {
+    constexpr qsizetype notes = hundred_mebibytes / 8;
+    const QByteArray track = QByteArray("\x00\x90\x45\x40\x00\x80\x45\x00", 8).repeated(notes);
+    const QString path =
+        file("x.mid", midi_of({69}, 1).first(14) + "MTrk" + big_endian(static_cast<quint32>(track.size())) + track);
+
+    EXPECT_LT(time_of_piece(path), bearable);
+
+    EXPECT_EQ(player_.midiállapot(), QString());
     EXPECT_TRUE(can_play_a_piece());
 }
 
