@@ -19,7 +19,7 @@ constexpr int buffer = 2048;
 constexpr int music_volume = MIX_MAX_VOLUME * 60 / 100;
 constexpr int once = 1;
 constexpr int any_channel = -1;
-constexpr qint64 mebibyte = qint64{1024} * 1024;
+constexpr qint64 mebibyte = 1LL << 20;
 /// A wave is read whole and brought into the mixer's form whole, in which it may take 25 minutes.
 constexpr qint64 largest_wave = 128 * mebibyte;
 constexpr qint64 largest_mixer_sound = 2 * largest_wave;
