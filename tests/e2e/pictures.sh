@@ -215,6 +215,18 @@ music_settings() {
     end_program
 }
 
+print_settings() {
+    make_list "$lists/állatok.szs" dog:kutya cat:macska horse:ló "deer:őz, szarvas" bird:madár
+    start_program "$lists/állatok.szs"
+    press ctrl+p
+    wait_for_title "$(title_of_exercise "Szószedet nyomtatása")"
+    take_picture print-settings
+    press alt+k
+    wait_for_title "$(title_of_exercise "Nyomtatási kép")"
+    take_picture print-preview
+    end_program
+}
+
 # What the help viewer says about an address that it does not follow.
 help_and_timed_message() {
     start_program
@@ -276,6 +288,7 @@ for size in 1024x768 1920x1080 2560x1440; do
     scene help_and_timed_message 1024x768 2560x1440
     scene sound_settings 1024x768 2560x1440
     scene music_settings 1024x768 2560x1440
+    scene print_settings 1024x768 2560x1440
     scene splash 1024x768 2560x1440
     end_children
 done
