@@ -24,6 +24,7 @@ std::optional<int> floor_of(const QString &file) {
                                                QStringLiteral("lookup/webengine/engine_browser"),
                                                QStringLiteral("lookup/webengine/engine_page"),
                                                QStringLiteral("lookup/webengine/engine_plugin"),
+                                               QStringLiteral("print/drawn_job"),
                                                QStringLiteral("print/page_view"),
                                                QStringLiteral("print/print_progress"),
                                                QStringLiteral("print/print_settings_controls"),
