@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <memory>
 #include <optional>
 #include <variant>
@@ -20,6 +21,11 @@ class PrintJob {
     /// The failure of a document whose printer has failed on the way.
     [[nodiscard]] virtual Failure failure() const = 0;
 };
+
+/// The failure of printing on `printer`, for a reason that is the end of a sentence.
+[[nodiscard]] inline Failure not_printed(const QString &printer, const QString &reason) {
+    return {QStringLiteral("A(z) „%1” nyomtatóval nem sikerült nyomtatni: %2").arg(printer, reason)};
+}
 
 /// A job, or why there can be none.
 using PrintJobResult = std::variant<std::unique_ptr<PrintJob>, Failure>;

@@ -5,13 +5,10 @@
 #include <QPrinterInfo>
 #include <utility>
 
+#include "print/drawn_job.h"
 #include "print/pdf_document.h"
 
 namespace {
-
-Failure not_printed(const QString &printer, const QString &reason) {
-    return {QStringLiteral("A(z) „%1” nyomtatóval nem sikerült nyomtatni: %2").arg(printer, reason)};
-}
 
 /// Made as a PDF document with the pages of a printer, which its queue takes when it is whole.
 class QueuedJob final : public PrintJob {
@@ -34,36 +31,6 @@ class QueuedJob final : public PrintJob {
     QString name_;
     QString title_;
     PdfDocument document_;
-};
-
-/// Drawn on the toolkit's printer, which hands each page to the system.
-class DrawnJob final : public PrintJob {
-  public:
-    explicit DrawnJob(std::unique_ptr<QPrinter> printer) : device_(std::move(printer)), printer_(*device_) {}
-    ~DrawnJob() override {
-        if (!handed_over_)
-            device_->abort();
-    }
-    DrawnJob(const DrawnJob &) = delete;
-    DrawnJob &operator=(const DrawnJob &) = delete;
-
-    PagePrinter &printer() override { return printer_; }
-
-    std::optional<Failure> hand_over() override {
-        handed_over_ = true;
-        if (device_->printerState() == QPrinter::Error)
-            return failure();
-        return std::nullopt;
-    }
-
-    Failure failure() const override {
-        return not_printed(device_->printerName(), QStringLiteral("a nyomtató hibát jelzett."));
-    }
-
-  private:
-    std::unique_ptr<QPrinter> device_;
-    DevicePrinter printer_;
-    bool handed_over_ = false;
 };
 
 class DocumentPreview final : public PagePreview {

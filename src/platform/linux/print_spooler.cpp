@@ -41,7 +41,7 @@ const QString no_server = QStringLiteral("a nyomtatókiszolgáló nem érhető e
 QString reason(const Cups &cups) {
     switch (cups.last_error()) {
         case IPP_STATUS_ERROR_NOT_FOUND:
-            return QStringLiteral("a nyomtató nem található.");
+            return QStringLiteral("a nyomtató nem található, vagy a nyomtatókiszolgáló nem fut.");
         case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
             return QStringLiteral("a nyomtató jelenleg nem fogad feladatot.");
         case IPP_STATUS_ERROR_FORBIDDEN:
