@@ -4,6 +4,7 @@
 set -euo pipefail
 source "$(dirname "$0")/lib.sh"
 source "$(dirname "$0")/mini_window.sh"
+source "$(dirname "$0")/print_lib.sh"
 
 # display paints the screen and still ends with 1.
 paint_background() {
@@ -227,6 +228,22 @@ print_settings() {
     end_program
 }
 
+# One page of each layout, as it comes out.
+printed_pages() {
+    local kinds=(list pair card) kind
+    make_list "$lists/állatok.szs" dog:kutya cat:macska horse:ló "deer:őz, szarvas" bird:madár "goat:kecske" "frog:béka"
+    start_program "$lists/állatok.szs"
+    for kind in 0 1 2; do
+        open_print_settings
+        choose_kind "$kind"
+        print_into_file "$lists/${kinds[kind]}.pdf"
+        wait_for_title "$(title_of_list "$lists/állatok.szs")"
+        pdftoppm -r 60 -f 1 -l 1 -png -singlefile "$lists/${kinds[kind]}.pdf" "$pictures/printed-${kinds[kind]}"
+        echo "$pictures/printed-${kinds[kind]}.png"
+    done
+    end_program
+}
+
 # What the help viewer says about an address that it does not follow.
 help_and_timed_message() {
     start_program
@@ -289,6 +306,7 @@ for size in 1024x768 1920x1080 2560x1440; do
     scene sound_settings 1024x768 2560x1440
     scene music_settings 1024x768 2560x1440
     scene print_settings 1024x768 2560x1440
+    scene printed_pages 1024x768
     scene splash 1024x768 2560x1440
     end_children
 done
