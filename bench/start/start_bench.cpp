@@ -1,13 +1,13 @@
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <chrono>
 #include <string>
 
 #include "support/bench_dictionary.h"
-#include "support/process_memory.h"
 #include "support/table.h"
 
 // From the start of a process until its first window is painted, and the memory that it has then. Everything that is
@@ -17,6 +17,18 @@ namespace {
 
 constexpr int repetitions = 21;
 constexpr int patience = 30'000;
+
+/// A value of a file of /proc whose lines are "Name:   123 kB", in MiB.
+double mebibytes(const QProcess &process, const QString &file, const QByteArray &name) {
+    QFile lines(QStringLiteral("/proc/%1/%2").arg(process.processId()).arg(file));
+    if (!lines.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : lines.readAll().split('\n')) {
+        if (line.startsWith(name + ':'))
+            return line.sliced(name.size() + 1).simplified().split(' ').first().toDouble() / 1024;
+    }
+    return 0;
+}
 
 void start(benchmark::State &state, const QString &program) {
     for ([[maybe_unused]] auto one : state) {

@@ -90,6 +90,29 @@ TEST_F(Printing, goes_to_the_selected_printer_under_the_lists_name) {
     EXPECT_EQ(printers_.jobs.texts.front().text, place("állatok.szs") + QStringLiteral(" szószedet"));
 }
 
+TEST_F(Printing, stays_with_the_current_printer_while_the_selected_one_is_not_there) {
+    start();
+    choose(printers(), "First");
+    printers_.installed = {QStringLiteral("First")};
+    choose(printers(), "Second");
+
+    print();
+
+    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(QStringLiteral("First névtelen szószedet")));
+}
+
+TEST_F(Printing, goes_to_the_selected_printer_when_it_has_come_back) {
+    start();
+    choose(printers(), "First");
+    printers_.installed = {QStringLiteral("First")};
+    choose(printers(), "Second");
+    printers_.installed = {QStringLiteral("First"), QStringLiteral("Second")};
+
+    print();
+
+    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(QStringLiteral("Second névtelen szószedet")));
+}
+
 TEST_F(Printing, on_a_printer_that_has_vanished_is_told_and_leaves_everything_as_it_is) {
     start();
     const QStringList before = shown();
