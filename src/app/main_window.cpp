@@ -90,7 +90,9 @@ void szótár::kilép_Click() {
     kilép_ = true;
     kilépésmégse_ = true;
     kisablakfájlír();
-    kilépésmégse_ = !fájlok_.kilépéskérdés();
+    // Its window saves when it closes, and stays open when it cannot.
+    const bool hangok_mentve = !hangbeáll_.loaded() || hangbeáll_.get().close();
+    kilépésmégse_ = !hangok_mentve || !fájlok_.kilépéskérdés();
     kilép_ = false;
     if (kilépésmégse_)
         return;

@@ -52,6 +52,21 @@ std::optional<Failure> replace_whole(const QString &path, const QByteArray &byte
                        .arg(QDir::toNativeSeparators(path), reason_not_writable(file, path))};
 }
 
+std::optional<Failure> make_folder(const QString &path) {
+    if (QDir().mkpath(path))
+        return std::nullopt;
+    // The first on the way that is there already stands in the way.
+    QString there = path;
+    while (!QFileInfo::exists(there) && QFileInfo(there).path() != there)
+        there = QFileInfo(there).path();
+    QString reason = QStringLiteral("hiba történt.");
+    if (!QFileInfo(there).isDir())
+        reason = QStringLiteral("a helyén egy fájl van.");
+    else if (!QFileInfo(there).isWritable())
+        reason = no_permission;
+    return Failure{QStringLiteral("A(z) „%1” mappa nem hozható létre: %2").arg(QDir::toNativeSeparators(path), reason)};
+}
+
 std::optional<Failure> remove(const QString &path) {
     const QFileInfo place(path);
     if (QFile::remove(path) || (!place.exists() && !place.isSymLink()))

@@ -71,7 +71,7 @@ void frm_nyomtatásikép::elhelyezés() {
     gomb(u"cmd_nagyít", QStringLiteral("Na&gyít"), 900, {Qt::Key_Plus, Qt::CTRL | Qt::Key_Plus},
          &frm_nyomtatásikép::cmd_nagyít_Click);
     gomb(u"cmd_egészoldal", QStringLiteral("Egész &oldal"), 1250, {}, &frm_nyomtatásikép::cmd_egészoldal_Click);
-    gomb(u"cmd_oldalszélesség", QStringLiteral("Oldalszél&esség"), 1500, {},
+    gomb(u"cmd_oldalszélesség", QStringLiteral("Ol&dalszélesség"), 1500, {},
          &frm_nyomtatásikép::cmd_oldalszélesség_Click);
     idáig_ += csoportköz;
     QPushButton *bezár = gomb(u"cmd_bezár", QStringLiteral("&Bezár"), 900, {}, &frm_nyomtatásikép::cmd_bezár_Click);

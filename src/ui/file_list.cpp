@@ -18,7 +18,9 @@ void FileListBox::refresh() {
     QStringList names;
     // A pipe passes for a file there, as a device would.
     for (const QFileInfo &file : QDir(folder_).entryInfoList({pattern_}, QDir::Files, QDir::Name)) {
-        if (file.isFile())
+        // A separator of folders in a name, of whichever system, would lead elsewhere when the name is read from a
+        // file.
+        if (file.isFile() && !file.fileName().contains(u'\\'))
             names.append(file.fileName());
     }
     const QCollator alphabet(QLocale(QLocale::Hungarian, QLocale::Hungary));
@@ -42,7 +44,9 @@ QString FileListBox::path_of(const QString &name) const {
 }
 
 void FileListBox::keyPressEvent(QKeyEvent *event) {
-    if (event->key() != Qt::Key_Delete || event->modifiers() != Qt::NoModifier) {
+    // That of the number pad is one, too.
+    const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if (event->key() != Qt::Key_Delete || held != Qt::NoModifier) {
         ListBox::keyPressEvent(event);
         return;
     }

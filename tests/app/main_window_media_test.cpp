@@ -226,4 +226,32 @@ TEST_F(MainWindowMedia, tells_of_damaged_settings_of_the_music_only_when_their_w
     EXPECT_EQ(boxes_.told.size(), 1);
 }
 
+TEST_F(MainWindowMedia, saves_the_sounds_that_are_open_when_the_program_ends) {
+    start();
+
+    open("mnubeállításhang", u"frm_hangbeáll", [this](QWidget *window) {
+        in<QCheckBox>(window, u"chk_hang_a_főablakban")->setChecked(false);
+        window_->kilép_Click();
+    });
+
+    EXPECT_TRUE(ended_);
+    EXPECT_EQ(read_file(place("angol/kavaro/grathang.ini")), " 1\r\n 1\r\n 1\r\n 1\r\n 0\r\n");
+}
+
+TEST_F(MainWindowMedia, does_not_end_while_sounds_that_are_open_cannot_be_saved) {
+    start();
+    QDir(place("angol/kavaro")).removeRecursively();
+    write_file(place("angol/kavaro"), "a file in the place of the folder");
+
+    open("mnubeállításhang", u"frm_hangbeáll", [this](QWidget *window) {
+        window_->kilép_Click();
+        EXPECT_TRUE(window->isVisible());
+    });
+
+    EXPECT_FALSE(ended_);
+    EXPECT_FALSE(window_->vége());
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_EQ(boxes_.told.size(), 1);
+}
+
 }  // namespace

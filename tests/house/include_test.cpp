@@ -25,7 +25,7 @@ std::optional<int> floor_of(const QString &file) {
                                                QStringLiteral("lookup/webengine/engine_page"),
                                                QStringLiteral("lookup/webengine/engine_plugin"),
                                                QStringLiteral("media/media_surroundings"),
-                                               QStringLiteral("media/picture_buttons"),
+                                               QStringLiteral("media/list_buttons"),
                                                QStringLiteral("print/drawn_job"),
                                                QStringLiteral("print/page_view"),
                                                QStringLiteral("print/print_progress"),

@@ -300,4 +300,31 @@ TEST_F(MusicTimerInTheWindow, goes_through_five_thousand_entries) {
     EXPECT_EQ(sent_at_tick(), change_to(many.first()));
 }
 
+TEST_F(MusicPlaylist, gives_the_keyboard_to_its_list_when_a_button_has_nothing_left_to_do) {
+    start_with({march, aria, dance});
+    const auto press_twice = [this](const char *name) {
+        for (int i = 0; i < 2; ++i) {
+            if (i == 0)
+                button(name)->setFocus();
+            QTest::keyClick(window_->focusWidget(), Qt::Key_Space);
+        }
+    };
+    select(aria);
+
+    press_twice(up);
+    EXPECT_EQ(playlist(), QStringList({aria, march, dance}));
+    EXPECT_EQ(window_->focusWidget(), list("list_playlist"));
+
+    select(march);
+    press_twice(down);
+    EXPECT_EQ(playlist(), QStringList({aria, dance, march}));
+
+    select(aria);
+    for (int i = 0; i < 3; ++i)
+        press_twice("cmd_törl");
+    EXPECT_EQ(playlist(), QStringList());
+    EXPECT_EQ(window_->focusWidget(), list("list_playlist"));
+    EXPECT_TRUE(box("chk_zene_enged")->isChecked());
+}
+
 }  // namespace

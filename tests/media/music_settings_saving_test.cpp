@@ -164,7 +164,8 @@ TEST_F(MusicSettingsSaving, stays_open_with_a_message_while_the_file_cannot_be_w
 
         EXPECT_TRUE(window_->isVisible());
         ASSERT_EQ(boxes_.told.size(), 1);
-        EXPECT_TRUE(boxes_.told.first().startsWith(QStringLiteral("A(z) „%1” fájl nem írható: ").arg(place(own_file))))
+        EXPECT_TRUE(boxes_.told.first().startsWith(
+            QStringLiteral("A(z) „%1” mappa nem hozható létre: ").arg(place("c/zbrmk/kavaro"))))
             << boxes_.told.first().toStdString();
         EXPECT_EQ(multimedia_.take_sent(), QStringList());
         QFile::remove(place("c/zbrmk"));

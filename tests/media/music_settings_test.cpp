@@ -176,7 +176,8 @@ TEST_F(MusicSettings, tell_why_they_could_not_be_written) {
     const auto failure = settings_.ment();
 
     ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->sentence.contains(QStringLiteral("/zbrmk/kavaro/zenebeáll.ini” fájl nem írható: ")));
+    EXPECT_TRUE(
+        failure->sentence.contains(QStringLiteral("/zbrmk/kavaro” mappa nem hozható létre: a helyén egy fájl van.")));
 }
 
 TEST_F(MusicSettings, leave_the_old_file_as_it_was_when_the_code_page_lacks_a_letter) {

@@ -1,3 +1,6 @@
+#include <SDL_mixer.h>
+
+#include <cmath>
 #include <csignal>
 
 #include "support/real_playback_fixture.h"
@@ -23,6 +26,19 @@ TEST_F(RealPlayback, lets_a_wave_and_a_midi_piece_sound_together) {
     EXPECT_GT(prominence_of(hertz_of_key(key_e), heard), heard_clearly);
     EXPECT_LT(prominence_of(hertz_of_key(key_c_sharp), heard), heard_clearly);
     EXPECT_LT(prominence_of(high_tone, heard), heard_clearly);
+}
+
+TEST_F(RealPlayback, plays_music_at_sixty_percent_so_that_waves_are_heard_above_it) {
+    const auto energy_of_piece = [this](const char *name) {
+        player_.midilejátszás(file(name, midi_of({key_a}, long_seconds)));
+        return energy_at(hertz_of_key(key_a), listen(1));
+    };
+    const double usual = energy_of_piece("usual.mid");
+    Mix_VolumeMusic(MIX_MAX_VOLUME);
+    const double full = energy_of_piece("full.mid");
+
+    // The energy goes with the square of the volume.
+    EXPECT_NEAR(std::sqrt(usual / full), 0.6, 0.03);
 }
 
 TEST_F(RealPlayback, cuts_off_a_wave_by_the_next_one) {

@@ -301,4 +301,16 @@ TEST_F(SoundSettingsDeleting, takes_a_file_that_has_gone_meanwhile_off_the_lists
     EXPECT_EQ(list("lst_helyeshang")->items(), QStringList());
 }
 
+TEST_F(SoundSettingsLists, give_the_keyboard_to_a_list_when_its_button_has_nothing_left_to_do) {
+    start();
+    click_item("Filelist", bell);
+    click("cmd_gartula");
+    button("cmd_hangtörl_gratulahangból")->setFocus();
+
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Space);
+
+    EXPECT_EQ(list("lst_gratulahang")->count(), 0);
+    EXPECT_EQ(window_->focusWidget(), list("lst_gratulahang"));
+}
+
 }  // namespace

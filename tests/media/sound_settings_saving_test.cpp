@@ -244,7 +244,7 @@ TEST_F(SoundSettingsSaving, stays_open_with_a_message_while_the_files_cannot_be_
         EXPECT_TRUE(window_->isVisible());
         ASSERT_EQ(boxes_.told.size(), 1);
         EXPECT_TRUE(boxes_.told.first().startsWith(
-            QStringLiteral("A(z) „%1” fájl nem írható: ").arg(place("program/kavaro/grathang.ini"))))
+            QStringLiteral("A(z) „%1” mappa nem hozható létre: ").arg(place("program/kavaro"))))
             << boxes_.told.first().toStdString();
         EXPECT_EQ(list("lst_gratulahang")->items(), QStringList(bell));
         QFile::remove(place("program/kavaro"));

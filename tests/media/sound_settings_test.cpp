@@ -232,7 +232,7 @@ TEST_F(SoundSettings, tell_why_they_could_not_be_written) {
     const auto failure = settings_.ment();
 
     ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->sentence.contains(QStringLiteral("/kavaro/grathang.ini” fájl nem írható: ")));
+    EXPECT_TRUE(failure->sentence.contains(QStringLiteral("/kavaro” mappa nem hozható létre: a helyén egy fájl van.")));
 }
 
 TEST_F(SoundSettings, replace_no_file_when_the_code_page_lacks_a_letter) {

@@ -210,4 +210,21 @@ TEST_F(Files, says_that_the_right_to_delete_is_missing_in_a_read_only_folder) {
     EXPECT_TRUE(QFile::exists(path));
 }
 
+TEST_F(Files, makes_a_folder_and_those_that_it_lies_in) {
+    EXPECT_FALSE(files::make_folder(folder_.filePath(QStringLiteral("a/b/c"))));
+    EXPECT_FALSE(files::make_folder(folder_.filePath(QStringLiteral("a/b/c"))));
+
+    EXPECT_TRUE(QFileInfo(folder_.filePath(QStringLiteral("a/b/c"))).isDir());
+}
+
+TEST_F(Files, tells_that_a_file_stands_where_a_folder_should_be_made) {
+    write_file(folder_.filePath(QStringLiteral("a")), "");
+
+    const auto failure = files::make_folder(folder_.filePath(QStringLiteral("a/b")));
+
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->sentence, QStringLiteral("A(z) „%1” mappa nem hozható létre: a helyén egy fájl van.")
+                                     .arg(folder_.filePath(QStringLiteral("a/b"))));
+}
+
 }  // namespace

@@ -68,7 +68,7 @@ TEST_F(PrintPreview, has_every_control_with_its_hungarian_caption) {
                                                                   {"cmd_kicsinyít", "Kic&sinyít"},
                                                                   {"cmd_nagyít", "Na&gyít"},
                                                                   {"cmd_egészoldal", "Egész &oldal"},
-                                                                  {"cmd_oldalszélesség", "Oldal&szélesség"},
+                                                                  {"cmd_oldalszélesség", "Ol&dalszélesség"},
                                                                   {"cmd_bezár", "&Bezár"}};
         for (const auto &[name, caption] : captions) {
             EXPECT_EQ(control<QPushButton>(preview, name)->text(), QString::fromUtf8(caption));

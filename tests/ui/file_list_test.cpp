@@ -204,4 +204,21 @@ TEST_F(FileList, moves_its_selection_by_keys_as_any_list) {
     EXPECT_EQ(selected_.count(), 2);
 }
 
+TEST_F(FileList, takes_the_delete_key_of_the_number_pad_for_one) {
+    show_three();
+
+    QTest::keyClick(&list_, Qt::Key_Delete, Qt::KeypadModifier);
+
+    EXPECT_EQ(deleted_.count(), 1);
+}
+
+TEST_F(FileList, leaves_out_a_name_that_another_system_would_take_for_a_path) {
+    make("hang.wav");
+    make("más\\mappa.wav");
+
+    list_.set_folder(folder_.path());
+
+    EXPECT_EQ(list_.items(), names({"hang.wav"}));
+}
+
 }  // namespace

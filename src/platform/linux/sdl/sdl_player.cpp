@@ -23,7 +23,8 @@ constexpr qint64 mebibyte = 1LL << 20;
 /// A wave is read whole and brought into the mixer's form whole, in which it may take 25 minutes.
 constexpr qint64 largest_wave = 128 * mebibyte;
 constexpr qint64 largest_mixer_sound = 2 * largest_wave;
-/// A piece of an hour takes a tenth of it, and the synthesizer a thread's time for all of it.
+/// A piece of an hour takes a tenth of it. The synthesizer works through all that a piece says at one moment before
+/// anything else can be asked of it.
 constexpr qint64 largest_piece = mebibyte;
 
 /// Where Debian, Fedora and Arch put what their packages of General MIDI sounds agree on, then single fonts.

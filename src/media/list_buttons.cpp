@@ -1,4 +1,4 @@
-#include "media/picture_buttons.h"
+#include "media/list_buttons.h"
 
 #include <QIcon>
 #include <algorithm>
@@ -17,4 +17,10 @@ void rajzol(const QList<QPushButton *> &gombok, const char16_t *rajz) {
         gomb->setIcon(kép);
         gomb->setIconSize(méret);
     }
+}
+
+void engedélyez(QPushButton &gomb, bool lehet, QWidget &lista) {
+    if (!lehet && gomb.hasFocus())
+        lista.setFocus();
+    gomb.setEnabled(lehet);
 }
