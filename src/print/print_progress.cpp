@@ -30,8 +30,10 @@ bool PrintProgress::step(int done, int all) {
 void PrintProgress::open() {
     dialog_ = std::make_unique<QProgressDialog>(caption_, QStringLiteral("Mégsem"), 0, 0, &window_);
     dialog_->setObjectName(QStringLiteral("haladás"));
-    dialog_->setWindowTitle(window_.windowTitle());
+    dialog_->setWindowTitle(QStringLiteral("Nyomtatás"));
     dialog_->setFont(letters_);
+    dialog_->setPalette(window_.palette());
+    dialog_->setMinimumWidth(window_.width() / 2);
     dialog_->setWindowModality(Qt::WindowModal);
     dialog_->setAutoClose(false);
     dialog_->setAutoReset(false);

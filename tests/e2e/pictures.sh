@@ -171,6 +171,28 @@ memory() {
     end_program
 }
 
+# The settings, and a page of each layout as it will come out. No print server is asked.
+printing() {
+    local kind names=(list pairs cards)
+    export CUPS_SERVER=$temp/no-print-server
+    make_list "$lists/szavak.szs" dog:kutya cat:macska "horse:ló, csődör" "deer:őz, szarvas" bird:madár tree:fa "wood:fa, erdő" \
+        honey:méz egg:tojás bread:kenyér butter:vaj milk:tej water:víz "sky:ég, égbolt" earth:föld fire:tűz time:idő
+    start_program "$lists/szavak.szs"
+    for kind in 0 1 2; do
+        open_print_settings
+        choose_kind "$kind"
+        ((kind > 0)) || take_picture print-settings
+        press alt+k
+        wait_for_title "$(title_of_exercise "Nyomtatási kép")"
+        take_picture "print-preview-${names[kind]}"
+        press Escape
+        wait_for_title "$(title_of_exercise "Szószedet nyomtatása")"
+        press Escape
+        wait_for_main_window
+    done
+    end_program
+}
+
 # Over the window of another program.
 mini_window() {
     xterm -T "other program" -geometry 60x20+100+100 -e cat 2>"$temp/xterm.log" &
@@ -300,6 +322,7 @@ for size in 1024x768 1920x1080 2560x1440; do
     scene exercises 1024x768 2560x1440
     scene puzzle 1024x768 2560x1440
     scene memory 1024x768 2560x1440
+    scene printing 1024x768 2560x1440
     scene mini_window 1024x768 2560x1440
     scene about_box 1024x768 2560x1440
     scene help_and_timed_message 1024x768 2560x1440

@@ -130,6 +130,24 @@ test_cards_in_a_pdf_file_lie_in_the_middle_of_turned_pages() {
     expect_blank_page "$lists/out.pdf" 5
 }
 
+test_a_long_print_out_is_cancelled_and_leaves_nothing() {
+    # Given
+    seq 60000 | sed 's/.*/word&:szo&\r/' >"$lists/long.szs"
+    start_program "$lists/long.szs"
+    open_print_settings
+    choose_kind 2
+    press Tab Tab Home Return
+    name_file "Mentés másként" "$lists/out.pdf"
+    # When
+    wait_for_title "Nyomtatás"
+    press Escape
+    # Then
+    wait_for_title "$(title_of_exercise "Szószedet nyomtatása")"
+    [[ -z $(find "$lists" -name '*.pdf*') ]] || fail "Something is left of the file."
+    press Escape
+    wait_for_main_window
+}
+
 test_a_printer_that_vanishes_is_told_and_the_settings_stay_open() {
     # Given
     start_cups
