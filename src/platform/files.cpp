@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <algorithm>
 
 namespace files {
 namespace {
@@ -45,9 +46,15 @@ FileContent read_whole(const QString &path) {
 
 std::optional<Failure> replace_whole(const QString &path, const QByteArray &bytes) {
     QSaveFile file(path);
-    // Without the flush, commit() of Qt 6.4 would not see that the last buffer did not fit onto the disk.
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit())
-        return std::nullopt;
+    if (file.open(QIODevice::WriteOnly)) {
+        // A disk takes what fits; only what does not fit any more fails, and tells why.
+        qint64 taken = file.write(bytes);
+        if (taken >= 0 && taken < bytes.size())
+            taken += std::max<qint64>(0, file.write(bytes.constData() + taken, bytes.size() - taken));
+        // Without the flush, commit() of Qt 6.4 would not see that the last buffer did not fit onto the disk.
+        if (taken == bytes.size() && file.flush() && file.commit())
+            return std::nullopt;
+    }
     return Failure{QStringLiteral("A(z) „%1” fájl nem írható: %2")
                        .arg(QDir::toNativeSeparators(path), reason_not_writable(file, path))};
 }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr const char *table_name = "OS/2";
 
-// The face's PANOSE number is the ten bytes from offset 32 of the table "OS/2" (OpenType specification, "OS/2 and
+// The face's PANOSE number is the ten bytes from offset 32 of the table "OS/2" (OpenType, "OS/2 and
 // Windows Metrics Table", field panose). The first byte is the kind, 2 for Latin text; the second is then the style of
 // the serifs: 0 any, 1 no fit, 2 (cove) to 10 (triangle) the serif faces, 11 (normal sans) to 15 the sans-serif ones.
 constexpr int panose = 32;

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QScrollBar>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "ui/twips.h"
@@ -35,9 +36,14 @@ void PageView::fit(Fit fit) {
 }
 
 void PageView::zoom(double factor) {
+    const QPointF middle = QRectF(viewport()->rect()).center();
+    const QPointF of_paper = (middle - paper().topLeft()) / scale_;
     fit_ = Fit::none;
     scale_ = std::clamp(scale_ * factor, smallest, largest);
     arrange();
+    const QPointF away = paper().topLeft() + of_paper * scale_ - middle;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(away.x()));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(away.y()));
 }
 
 QSizeF PageView::room() const {
@@ -56,6 +62,7 @@ void PageView::arrange() {
     const QSize needed = (full * scale_ + QSizeF(2 * margin, 2 * margin)).toSize();
     const QSize seen = viewport()->size();
     horizontalScrollBar()->setPageStep(seen.width());
+    horizontalScrollBar()->setSingleStep(seen.width() / 10);
     horizontalScrollBar()->setRange(0, std::max(0, needed.width() - seen.width()));
     verticalScrollBar()->setPageStep(seen.height());
     verticalScrollBar()->setSingleStep(seen.height() / 10);
@@ -73,6 +80,20 @@ QRectF PageView::paper() const {
 void PageView::resizeEvent(QResizeEvent *event) {
     QAbstractScrollArea::resizeEvent(event);
     arrange();
+}
+
+void PageView::wheelEvent(QWheelEvent *event) {
+    const int turn = event->angleDelta().y();
+    const QScrollBar &bar = *verticalScrollBar();
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        zoom(turn > 0 ? zoom_step : 1 / zoom_step);
+        event->accept();
+    } else if ((turn < 0 && bar.value() == bar.maximum()) || (turn > 0 && bar.value() == bar.minimum())) {
+        Q_EMIT turned(turn < 0);
+        event->accept();
+    } else {
+        QAbstractScrollArea::wheelEvent(event);
+    }
 }
 
 void PageView::paintEvent(QPaintEvent *) {

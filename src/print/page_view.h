@@ -7,8 +7,13 @@
 /// Shows one page of a document: the whole of it, its width, or a part of a larger picture. It draws only the page that
 /// is looked at, so that the number of pages costs nothing.
 class PageView final : public QAbstractScrollArea {
+    Q_OBJECT
+
   public:
     enum class Fit { whole_page, page_width, none };
+
+    /// What one step of zooming makes larger by.
+    static constexpr double zoom_step = 1.25;
 
     /// `pages` must outlive the view.
     explicit PageView(const PageRecorder &pages);
@@ -19,15 +24,21 @@ class PageView final : public QAbstractScrollArea {
 
     void fit(Fit fit);
     [[nodiscard]] Fit fitted() const { return fit_; }
-    /// Makes the page larger by `factor`, within bounds.
+    /// Makes the page larger by `factor`, within bounds; what is in the middle stays there.
     void zoom(double factor);
     /// Pixels to a pixel of the page's own size.
     [[nodiscard]] double scale() const { return scale_; }
     /// Where the paper stands in the viewport, in pixels.
     [[nodiscard]] QRectF paper() const;
 
+  Q_SIGNALS:
+    /// The wheel has been turned beyond the page's end: forward, to the next page, or back to the one before.
+    void turned(bool forward);
+
   protected:
     void resizeEvent(QResizeEvent *event) override;
+    /// Zooms with Ctrl; turns the page where there is nothing further to scroll.
+    void wheelEvent(QWheelEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
   private:

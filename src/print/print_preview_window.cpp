@@ -17,7 +17,6 @@ constexpr double kép_teteje = margó + sor + margó;
 constexpr double kép_magassága = 8400;
 
 constexpr double képernyőrész = 0.85;
-constexpr double nagyítás = 1.25;
 
 }  // namespace
 
@@ -76,6 +75,7 @@ void frm_nyomtatásikép::elhelyezés() {
     idáig_ += csoportköz;
     QPushButton *bezár = gomb(u"cmd_bezár", QStringLiteral("&Bezár"), 900, {}, &frm_nyomtatásikép::cmd_bezár_Click);
     mégsegombbeállít(bezár);
+    connect(kép_, &PageView::turned, this, [this](bool előre) { lapra(kép_->page() + (előre ? 1 : -1)); });
     elhelyez(kép_, {margó, kép_teteje, idáig_ - köz - margó, kép_magassága});
 }
 
@@ -91,11 +91,11 @@ void frm_nyomtatásikép::Form_Resize() {
 }
 
 void frm_nyomtatásikép::cmd_kicsinyít_Click() {
-    kép_->zoom(1 / nagyítás);
+    kép_->zoom(1 / PageView::zoom_step);
 }
 
 void frm_nyomtatásikép::cmd_nagyít_Click() {
-    kép_->zoom(nagyítás);
+    kép_->zoom(PageView::zoom_step);
 }
 
 void frm_nyomtatásikép::lapra(int lap) {

@@ -1,6 +1,9 @@
+#include "print/print_settings_window.h"
+
+#include <QDir>
+
 #include "print/pdf_job.h"
 #include "print/print_preview_window.h"
-#include "print/print_settings_window.h"
 
 // What the print settings do when something is to be printed or looked at.
 
@@ -28,17 +31,16 @@ nyomtatásvége frm_nyomtatás::lerak(PagePrinter &hova, const QString &felirat)
 }
 
 std::optional<QString> frm_nyomtatás::pdf_neve() {
-    QString javaslat = nevek_.pdf;
     while (true) {
-        const auto választott = k_.fájlablakok.save_pdf(javaslat);
+        const auto választott = k_.fájlablakok.save_pdf(pdf_javaslat_);
         if (!választott || választott->isEmpty())
             return std::nullopt;
-        javaslat = pdfnév(*választott);
-        if (!files::exists(javaslat) ||
+        pdf_javaslat_ = pdfnév(*választott);
+        const QString kérdés = QStringLiteral("A(z) „%1” fájl már létezik. Felülírja?");
+        if (!files::exists(pdf_javaslat_) ||
             k_.üzenetek.ask_yes_no(QStringLiteral("Fájl felülírása"),
-                                   QStringLiteral("A(z) „%1” fájl már létezik. Felülírja?").arg(javaslat)) ==
-                Answer::yes)
-            return javaslat;
+                                   kérdés.arg(QDir::toNativeSeparators(pdf_javaslat_))) == Answer::yes)
+            return pdf_javaslat_;
     }
 }
 
@@ -75,11 +77,16 @@ bool frm_nyomtatás::kinyomtat(PrintJob &feladat) {
     return true;
 }
 
+bool frm_nyomtatás::nincs_mit() {
+    if (típus() != nyomtatástípus::szópárok || !k_.szószedet.párok().isEmpty())
+        return false;
+    k_.üzenetek.tell(QStringLiteral("Nincs mit nyomtatni: a szószedet üres."));
+    return true;
+}
+
 void frm_nyomtatás::cmd_nyomtat_Click() {
     nyomtatót_választ();
-    if (típus() == nyomtatástípus::szópárok && k_.szószedet.párok().isEmpty()) {
-        k_.üzenetek.tell(QStringLiteral("Nincs mit nyomtatni: a szószedet üres."));
-    } else {
+    if (!nincs_mit()) {
         const auto ez = feladat();
         if (!ez || !kinyomtat(*ez))
             return;
@@ -90,10 +97,8 @@ void frm_nyomtatás::cmd_nyomtat_Click() {
 
 void frm_nyomtatás::cmd_nyomtatásikép_Click() {
     nyomtatót_választ();
-    if (típus() == nyomtatástípus::szópárok && k_.szószedet.párok().isEmpty()) {
-        k_.üzenetek.tell(QStringLiteral("Nincs mit nyomtatni: a szószedet üres."));
+    if (nincs_mit())
         return;
-    }
     const auto kép = k_.nyomtatók.preview(nyomtató_);
     if (lerak(kép->pages(), QStringLiteral("A nyomtatási kép készül…")) != nyomtatásvége::kész)
         return;

@@ -143,11 +143,8 @@ void frm_nyomtatás::list_nyomtatók_Click() {
 }
 
 void frm_nyomtatás::nyomtatót_választ() {
-    const QString név = v_.list_nyomtatók->currentText();
-    if (név == pdf_bejegyzés)
-        nyomtató_.clear();
-    else if (k_.nyomtatók.names().contains(név))
-        nyomtató_ = név;
+    // One that has gone meanwhile is told when it is to print: never does another one print in its place.
+    nyomtató_ = v_.list_nyomtatók->currentIndex() <= 0 ? QString() : v_.list_nyomtatók->currentText();
 }
 
 void frm_nyomtatás::betűtípusokat_felsorol() {

@@ -53,7 +53,7 @@ class frm_nyomtatás final : public ablak {
     void nyomtatót_kijelöl(int index);
     void betűtípusokat_felsorol();
     void list_nyomtatók_Click();
-    /// Makes the printer that is selected the current one, if it is still there.
+    /// Makes the printer that is selected the current one.
     void nyomtatót_választ();
 
     void előkép();
@@ -75,10 +75,14 @@ class frm_nyomtatás final : public ablak {
     /// True when the document has gone where it should.
     [[nodiscard]] bool kinyomtat(PrintJob &feladat);
     [[nodiscard]] bool pdfbe() const { return nyomtató_.isEmpty(); }
+    /// True, after telling so, when the chosen layout has nothing to put on paper.
+    [[nodiscard]] bool nincs_mit();
 
     const nyomtatáskörnyezet k_;
     nyomtatásvezérlők v_;
     const dokumentumnevek nevek_;
     /// The current printer; empty for the PDF file.
     QString nyomtató_;
+    /// The PDF file that is proposed; the one that was named last.
+    QString pdf_javaslat_ = nevek_.pdf;
 };

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QLineEdit>
 #include <QSpinBox>
 
-/// An up-down control: two arrows that count a value, which a label beside it tells.
+/// An up-down control: two arrows that count a value, which a label beside it tells. It shows no text itself.
 class UpDown final : public QSpinBox {
   public:
-    UpDown() { lineEdit()->setReadOnly(true); }
+    UpDown();
 
   protected:
     [[nodiscard]] QString textFromValue(int) const override { return {}; }
+    void paintEvent(QPaintEvent *event) override;
 };

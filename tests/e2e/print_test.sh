@@ -112,6 +112,53 @@ test_a_list_is_printed_into_a_pdf_file() {
         fail "Not all fonts are in the document."
 }
 
+test_a_turned_list_stands_on_the_middle_of_the_turned_page() {
+    # Given
+    list_of_seven
+    start_program "$lists/$title.szs"
+    open_print_settings
+    # When: over ten controls to the orientation
+    press Tab Tab Tab Tab Tab Tab Tab Tab Tab Down Tab Tab Tab
+    print_into_file "$lists/out.pdf"
+    # Then
+    wait_for_main_window
+    pdfinfo "$lists/out.pdf" | grep -q '^Page size: *842 x 595 ' || fail "The page is not turned."
+    expect_middles "$lists/out.pdf" x - 421 421 421 421 421 421 421
+}
+
+test_pairs_are_printed_one_a_page_into_a_pdf_file_and_through_a_queue() {
+    # Given
+    start_cups
+    list_of_two
+    start_program "$lists/$title.szs"
+    open_print_settings
+    choose_kind 1
+    # When
+    print_into_file "$lists/out.pdf"
+    wait_for_main_window
+    open_print_settings
+    choose_kind 1
+    press Return
+    wait_for_main_window
+    # Then: a line stands in the middle, so its hyphen lies where the widths of its words say, and both lines are as high
+    expect_pages "$lists/out.pdf" 2
+    expect_line_in_the_middle "$lists/out.pdf" 1 421 297.5
+    expect_line_in_the_middle "$lists/out.pdf" 2 421 297.5
+    wait_for_print_out "$title"
+    expect_pages "$temp/printed.pdf" 2
+    expect_same_ink "$temp/printed.pdf" 1 "$lists/out.pdf" -90
+    expect_same_ink "$temp/printed.pdf" 2 "$lists/out.pdf" -90
+}
+
+# expect_line_in_the_middle <file> <page> <x> <y>: all words of the page together.
+expect_line_in_the_middle() {
+    words_of "$1" | awk -v page="$2" -v x="$3" -v y="$4" -v mm="$millimetre" '
+        $1 == page { if (!n++) left = $2; right = $4; top = $3; bottom = $5 }
+        END { dx = (left + right) / 2 - x; dy = (top + bottom) / 2 - y
+              exit !(n == 3 && dx < mm && dx > -mm && dy < 4 * mm && dy > -4 * mm) }' ||
+        fail "Not in the middle of page $2: $(words_of "$1")"
+}
+
 test_cards_in_a_pdf_file_lie_in_the_middle_of_turned_pages() {
     # Given
     list_of_two

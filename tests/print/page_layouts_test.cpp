@@ -166,6 +166,45 @@ TEST_F(PageLayouts, five_hundred_pairs_fill_the_pages_to_95_percent) {
     }
 }
 
+TEST_F(PageLayouts, pairs_stand_where_their_row_and_column_are_in_every_list_column_count_and_orientation) {
+    // First row of the first page, of the others, and rows on them, as reckoned above.
+    struct Paper {
+        Orientation orientation;
+        double width;
+        double first;
+        int rows_of_first;
+        double next;
+        int rows_of_next;
+    };
+    for (const Paper &on : {Paper{Orientation::portrait, 12000, 1320, 25, 800, 26},
+                            Paper{Orientation::landscape, 16000, 1120, 18, 600, 19}}) {
+        for (const int columns : {1, 2, 3}) {
+            for (const int count : {0, 1, 2, 7, 500}) {
+                RecordingPrinter paper;
+                paper.set_orientation(on.orientation);
+                what_.párok = numbered_pairs(count);
+                what_.hasábok = columns;
+
+                EXPECT_EQ(nyomtat(paper, nyomtatástípus::szószedet, what_, watch_), nyomtatásvége::kész);
+
+                ASSERT_EQ(paper.texts.size(), count + 1);
+                for (int i = 0; i < count; ++i) {
+                    const PrintedText &one = paper.texts[i + 1];
+                    const int row = i / columns;
+                    const bool on_first = row < on.rows_of_first;
+                    const int below = on_first ? row : (row - on.rows_of_first) % on.rows_of_next;
+                    const int letters_before = static_cast<int>(QString::number(i).size()) + 4;
+                    EXPECT_EQ(one.page, on_first ? 1 : 2 + (row - on.rows_of_first) / on.rows_of_next) << i;
+                    EXPECT_NEAR(one.x, on.width * (i % columns + 1) / (columns + 1) - 350 - 140 * letters_before, 0.001)
+                        << i;
+                    EXPECT_EQ(one.y, (on_first ? on.first : on.next) + 560 * below) << i;
+                    EXPECT_EQ(one.points, 14);
+                }
+            }
+        }
+    }
+}
+
 TEST_F(PageLayouts, row_that_would_pass_95_percent_of_the_height_begins_a_page_at_5_percent) {
     print_list(numbered_pairs(52), 1);
 
@@ -344,7 +383,8 @@ TEST_F(PageLayouts, cards_of_two_pairs_are_five_pages_of_which_the_last_is_blank
 }
 
 TEST_F(PageLayouts, cards_come_in_the_order_english_hungarian_for_one_seven_and_five_hundred_pairs) {
-    for (const int count : {1, 7, 500}) {
+    // "word6" has 5 letters: 287 points. "word100" has 7: 205 points make 14350, 206 would make 14420.
+    for (const auto &[count, points] : {std::pair{1, 287.0}, {7, 287.0}, {500, 205.0}}) {
         RecordingPrinter paper;
         what_.párok = numbered_pairs(count);
 
@@ -353,8 +393,11 @@ TEST_F(PageLayouts, cards_come_in_the_order_english_hungarian_for_one_seven_and_
         EXPECT_EQ(paper.pages, 2 * count + 1);
         ASSERT_EQ(paper.texts.size(), 2 * count + 1);
         for (int i = 0; i < count; ++i) {
-            EXPECT_EQ(paper.texts[2 * i].text, QStringLiteral("word%1").arg(i));
-            EXPECT_EQ(paper.texts[2 * i + 1].text, QStringLiteral("szó%1").arg(i));
+            for (const auto &[at, text] :
+                 {std::pair{2 * i, QStringLiteral("word%1").arg(i)}, {2 * i + 1, QStringLiteral("szó%1").arg(i)}}) {
+                const double width = 10 * points * static_cast<double>(text.size());
+                EXPECT_EQ(paper.texts[at], (PrintedText{at + 1, 8000 - width / 2, 6000 - 10 * points, points, text}));
+            }
         }
         EXPECT_EQ(paper.texts.back().text, QString());
         EXPECT_EQ(paper.texts.back().page, 2 * count + 1);

@@ -70,7 +70,12 @@ TEST_F(PrintPreview, has_every_control_with_its_hungarian_caption) {
                                                                   {"cmd_egészoldal", "Egész &oldal"},
                                                                   {"cmd_oldalszélesség", "Ol&dalszélesség"},
                                                                   {"cmd_bezár", "&Bezár"}};
+        QString keys;
         for (const auto &[name, caption] : captions) {
+            const QString text = QString::fromUtf8(caption);
+            const QChar key = text.at(text.indexOf(u'&') + 1).toLower();
+            EXPECT_FALSE(keys.contains(key)) << caption;
+            keys.append(key);
             EXPECT_EQ(control<QPushButton>(preview, name)->text(), QString::fromUtf8(caption));
             EXPECT_FALSE(control<QPushButton>(preview, name)->accessibleName().isEmpty());
         }
@@ -209,6 +214,53 @@ TEST_F(PrintPreview, is_zoomed_and_fitted) {
         EXPECT_LE(page->paper().bottom(), page->viewport()->height());
         press(preview, "cmd_egészoldal");
         EXPECT_NEAR(page->scale(), whole, 0.001);
+    });
+}
+
+TEST_F(PrintPreview, keeps_what_is_in_the_middle_there_when_it_is_zoomed) {
+    start();
+
+    in_preview([&](frm_nyomtatásikép &preview) {
+        const PageView *page = view(preview);
+        // Shares of the paper.
+        const auto in_the_middle = [page] {
+            const QPointF away = QRectF(page->viewport()->rect()).center() - page->paper().topLeft();
+            return QPointF(away.x() / page->paper().width(), away.y() / page->paper().height());
+        };
+        for (int i = 0; i < 4; ++i)
+            press(preview, "cmd_nagyít");
+        EXPECT_NEAR(in_the_middle().x(), 0.5, 0.01);
+        EXPECT_NEAR(in_the_middle().y(), 0.5, 0.01);
+        page->verticalScrollBar()->setValue(page->verticalScrollBar()->maximum() / 4);
+        const QPointF before = in_the_middle();
+        press(preview, "cmd_nagyít");
+        EXPECT_NEAR(in_the_middle().x(), before.x(), 0.01);
+        EXPECT_NEAR(in_the_middle().y(), before.y(), 0.01);
+    });
+}
+
+TEST_F(PrintPreview, is_turned_and_zoomed_by_the_wheel) {
+    start();
+    click("Option_nyomtatástípus(2)");
+
+    in_preview([&](frm_nyomtatásikép &preview) {
+        PageView *page = view(preview);
+        const auto wheel = [page](int turn, Qt::KeyboardModifiers held) {
+            const QPointF middle = QRectF(page->viewport()->rect()).center();
+            QWheelEvent event(middle, page->viewport()->mapToGlobal(middle), {}, {0, turn}, Qt::NoButton, held,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(page->viewport(), &event);
+        };
+        wheel(-120, Qt::NoModifier);
+        wheel(-120, Qt::NoModifier);
+        EXPECT_EQ(page_of(preview), QStringLiteral("3 / 7"));
+        wheel(120, Qt::NoModifier);
+        EXPECT_EQ(page_of(preview), QStringLiteral("2 / 7"));
+        const double whole = page->scale();
+        wheel(120, Qt::ControlModifier);
+        EXPECT_DOUBLE_EQ(page->scale(), 1.25 * whole);
+        wheel(-120, Qt::ControlModifier);
+        EXPECT_DOUBLE_EQ(page->scale(), whole);
     });
 }
 

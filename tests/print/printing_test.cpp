@@ -112,15 +112,18 @@ TEST_F(Printing, goes_to_the_selected_printer_under_the_lists_name) {
     EXPECT_EQ(printers_.jobs.texts.front().text, place("állatok.szs") + QStringLiteral(" szószedet"));
 }
 
-TEST_F(Printing, stays_with_the_current_printer_while_the_selected_one_is_not_there) {
+TEST_F(Printing, on_a_printer_that_is_selected_when_it_has_gone_is_told_and_goes_to_no_other) {
     start();
     choose(printers(), "First");
     printers_.installed = {QStringLiteral("First")};
     choose(printers(), "Second");
+    const QStringList before = shown();
 
     print();
 
-    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(QStringLiteral("First névtelen szószedet")));
+    EXPECT_THAT(boxes_.told, ElementsAre(QStringLiteral("Second has vanished")));
+    EXPECT_THAT(printers_.jobs.begun, IsEmpty());
+    expect_still_open(before);
 }
 
 TEST_F(Printing, goes_to_the_selected_printer_when_it_has_come_back) {

@@ -35,6 +35,7 @@ class Cups final {
     }
 };
 
+const QString interrupted = QStringLiteral("a kapcsolat a nyomtatókiszolgálóval megszakadt.");
 const QString no_server = QStringLiteral("a nyomtatókiszolgáló nem érhető el.");
 
 /// The answer of the last request to CUPS, in the words of the program where it is a usual one.
@@ -53,7 +54,9 @@ QString reason(const Cups &cups) {
         case IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED:
             return QStringLiteral("a nyomtató nem ismeri a dokumentum formátumát.");
         default:
-            return QStringLiteral("a nyomtatókiszolgáló válasza: %1.").arg(QString::fromUtf8(cups.last_error_text()));
+            return QStringLiteral("a nyomtatókiszolgáló hibát jelzett (%1: %2).")
+                .arg(static_cast<int>(cups.last_error()))
+                .arg(QString::fromUtf8(cups.last_error_text()));
     }
 }
 
@@ -92,24 +95,26 @@ class CupsSpooler final : public PrintSpooler {
             cups.create_job(CUPS_HTTP_DEFAULT, queue->name, name.constData(), queue->num_options, queue->options);
         if (job == 0)
             return reason(cups);
-        if (send(cups, queue->name, job, name, pdf))
-            return std::nullopt;
-        const QString why = reason(cups);
-        cups.cancel_job(CUPS_HTTP_DEFAULT, queue->name, job, 1);
+        const auto why = send(cups, queue->name, job, name, pdf);
+        if (why)
+            cups.cancel_job(CUPS_HTTP_DEFAULT, queue->name, job, 1);
         return why;
     }
 
   private:
-    [[nodiscard]] static bool send(const Cups &cups, const char *queue, int job, const QByteArray &title,
-                                   const QByteArray &pdf) {
+    /// Returns why the document has not gone, nothing when it has.
+    [[nodiscard]] static std::optional<QString> send(const Cups &cups, const char *queue, int job,
+                                                     const QByteArray &title, const QByteArray &pdf) {
         if (cups.start_document(CUPS_HTTP_DEFAULT, queue, job, title.constData(), CUPS_FORMAT_PDF, 1) !=
             HTTP_STATUS_CONTINUE)
-            return false;
-        const bool sent =
-            cups.write(CUPS_HTTP_DEFAULT, pdf.constData(), static_cast<size_t>(pdf.size())) == HTTP_STATUS_CONTINUE;
+            return reason(cups);
+        std::optional<QString> why;
+        if (cups.write(CUPS_HTTP_DEFAULT, pdf.constData(), static_cast<size_t>(pdf.size())) != HTTP_STATUS_CONTINUE)
+            why = interrupted;
         // To be called whether or not all has gone: it ends the request.
-        const bool taken = cups.finish_document(CUPS_HTTP_DEFAULT, queue) <= IPP_STATUS_OK_CONFLICTING;
-        return sent && taken;
+        if (cups.finish_document(CUPS_HTTP_DEFAULT, queue) > IPP_STATUS_OK_CONFLICTING && !why)
+            why = reason(cups);
+        return why;
     }
 };
 
