@@ -5,7 +5,7 @@ build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev libgl-dev qt6-translations-l10n zlib1g-dev
     qt6-webengine-dev
-    pkg-config libxcb1-dev libxcb-xfixes0-dev
+    pkg-config libxcb1-dev libxcb-xfixes0-dev libcups2-dev
     libasound2-dev libsdl2-mixer-dev timgm6mb-soundfont
     fonts-liberation2 dict-freedict-eng-hun dict-freedict-hun-eng
     sox abcmidi
@@ -16,8 +16,10 @@ display_packages=(xvfb openbox xdotool x11-utils xclip imagemagick procps)
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
     clang clang-format clang-tidy libclang-rt-14-dev
-    xterm
+    xterm cups cups-client printer-driver-cups-pdf poppler-utils
 )
+# What making and checking the Debian package takes.
+deb_packages=(dpkg-dev file lintian desktop-file-utils appstream)
 # What building for Windows takes besides.
 windows_packages=(g++-mingw-w64-x86-64-posix dpkg-dev xz-utils icoutils debian-archive-keyring ca-certificates)
 # What the tests of that build take besides.

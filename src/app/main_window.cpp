@@ -34,6 +34,7 @@ szótár::szótár(szótárkörnyezet környezet)
       választás_([this] { return std::make_unique<választás>(feladatnak()); }),
       kirakó_([this] { return std::make_unique<frm_kirakó>(feladatnak()); }),
       memória_([this] { return std::make_unique<frm_memory>(feladatnak()); }),
+      nyomtatás_([this] { return std::make_unique<frm_nyomtatás>(nyomtatásnak()); }),
       kisablak_([this] {
           return std::make_unique<frm_kisablak>(kisablakkörnyezet{*this, k_.állapot, k_.hasznos, k_.üzenetek,
                                                                   k_.legfelül, k_.vágólap, k_.képernyők, k_.siklásköz});
@@ -56,6 +57,7 @@ void szótár::eseményeket_köt() {
     lista_eseményeket_köt();
     fájl_eseményeket_köt();
     feladat_eseményeket_köt();
+    nyomtatás_eseményeket_köt();
     info_eseményeket_köt();
     hang_eseményeket_köt();
     connect(v_.kilép, &QPushButton::clicked, &események_, [this] { kilép_Click(); });
@@ -88,7 +90,9 @@ void szótár::kilép_Click() {
     kilép_ = true;
     kilépésmégse_ = true;
     kisablakfájlír();
-    kilépésmégse_ = !fájlok_.kilépéskérdés();
+    // Its window saves when it closes, and stays open when it cannot.
+    const bool hangok_mentve = !hangbeáll_.loaded() || hangbeáll_.get().close();
+    kilépésmégse_ = !hangok_mentve || !fájlok_.kilépéskérdés();
     kilép_ = false;
     if (kilépésmégse_)
         return;
@@ -120,6 +124,7 @@ void szótár::mentbeállít() {
     const bool van = !lista_.üres();
     m_.mnufájlment->setEnabled(van);
     m_.mnufájlmentmásként->setEnabled(van);
+    m_.mnufájlnyomtatás->setEnabled(van);
     m_.mnufeladat->setEnabled(van);
     // Exact on purpose: a window that was scaled to another height is not animated.
     if (!van && magasság() == teli_magasság)

@@ -26,6 +26,9 @@
 #include "platform/information_tool.h"
 #include "platform/multimedia_commands.h"
 #include "platform/random_numbers.h"
+#include "print/print_settings_window.h"
+#include "print/printed_word_list.h"
+#include "print/printers.h"
 #include "ui/reference_window.h"
 #include "ui/result_message_window.h"
 #include "ui/window.h"
@@ -44,6 +47,7 @@ struct szótárkörnyezet {
     DriveC meghajtó;
     RandomNumbers &véletlen;
     global::beállítástár &beállítások;
+    Printers &nyomtatók;
     TopMost &legfelül;
     MultimediaCommands &multimédia;
     /// Begins to watch the clipboard.
@@ -57,6 +61,8 @@ struct szótárkörnyezet {
     /// Lets a moment pass between two steps of an animation, and between two of a glide, which has four times as many.
     std::function<void()> lépésköz;
     std::function<void()> siklásköz;
+    /// The time, for what appears only when something takes long.
+    PrintProgress::Clock óra;
     /// Ends the program.
     std::function<void()> vége;
 };
@@ -66,9 +72,13 @@ struct szótárkörnyezet {
 ///
 /// Sources: main_window.cpp its life, size and exit; main_window_lookup.cpp the dictionary; main_window_list.cpp the
 /// word list; main_window_files.cpp the menu of files; main_window_exercises.cpp the menu of exercises;
-/// main_window_mini.cpp the mini window; main_window_media.cpp sounds and music; main_window_info.cpp the menu of help
-/// and information.
-class szótár final : public ablak, private szószedetablak, private szószedetolvasó, private nagyablak {
+/// main_window_print.cpp printing; main_window_mini.cpp the mini window; main_window_media.cpp sounds and music;
+/// main_window_info.cpp the menu of help and information.
+class szótár final : public ablak,
+                     private szószedetablak,
+                     private szószedetolvasó,
+                     private nyomtatottszószedet,
+                     private nagyablak {
   public:
     explicit szótár(szótárkörnyezet környezet);
 
@@ -130,6 +140,11 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     void fájllistmutat(const QStringList &fájlok) override;
     [[nodiscard]] QStringList fájllist() const override;
 
+    // Printing (main_window_print.cpp)
+    void nyomtatás_eseményeket_köt();
+    void mnufájlnyomtatás_Click();
+    [[nodiscard]] nyomtatáskörnyezet nyomtatásnak();
+
     // The mini window and its file (main_window_mini.cpp)
     void kisablakfájlolvas();
     void kisablakfájlír();
@@ -188,6 +203,7 @@ class szótár final : public ablak, private szószedetablak, private szószedet
     WindowReference<választás> választás_;
     WindowReference<frm_kirakó> kirakó_;
     WindowReference<frm_memory> memória_;
+    WindowReference<frm_nyomtatás> nyomtatás_;
     WindowReference<frm_kisablak> kisablak_;
     WindowReference<frm_súgó> súgó_;
     lejátszó játszó_;

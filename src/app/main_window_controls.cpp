@@ -142,6 +142,8 @@ szótármenü::szótármenü(QMenuBar &sor)
       elv1(separator(*mnufájl, u"elv1")),
       mnufájlment(named(mnufájl->addAction(QStringLiteral("&Ment")), u"mnufájlment")),
       mnufájlmentmásként(named(mnufájl->addAction(QStringLiteral("Ment másként...")), u"mnufájlmentmásként")),
+      elv2(separator(*mnufájl, u"elv2")),
+      mnufájlnyomtatás(named(mnufájl->addAction(QStringLiteral("Nyomtatás...")), u"mnufájlnyomtatás")),
       elv3(separator(*mnufájl, u"elv3")),
       mnufeladat(named(sor.addMenu(QStringLiteral("Fel&adatok")), u"mnufeladat")),
       mnufeladattanul(named(mnufeladat->addAction(QStringLiteral("&Tanulás")), u"mnufeladattanul")),
@@ -156,6 +158,7 @@ szótármenü::szótármenü(QMenuBar &sor)
       mnubeállítás(named(sor.addMenu(QStringLiteral("&Beállítások")), u"mnubeállítás")),
       mnubeállításhang(named(mnubeállítás->addAction(QStringLiteral("&Hangok...")), u"mnubeállításhang")),
       mnubeállítászene(named(mnubeállítás->addAction(QStringLiteral("&Zene...")), u"mnubeállítászene")) {
+    mnufájlnyomtatás->setShortcut(QKeySequence::Print);
     mnu_súgó->setShortcut(Qt::Key_F1);
     sor.setObjectName(QStringLiteral("menüsor"));
     for (size_t i = 0; i < mnufájlfájl.size(); ++i) {

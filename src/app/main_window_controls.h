@@ -59,6 +59,8 @@ struct szótármenü {
     QAction *elv1;
     QAction *mnufájlment;
     QAction *mnufájlmentmásként;
+    QAction *elv2;
+    QAction *mnufájlnyomtatás;
     QAction *elv3;
     /// The recent files, numbered from 1 on the screen and from 0 here; hidden unless filled.
     std::array<QAction *, legutóbbifájlok::legfeljebb> mnufájlfájl;

@@ -44,6 +44,11 @@ QVector<QRectF> all_screens() {
     return places;
 }
 
+/// Goes on evenly, whatever happens to the clock on the wall.
+std::chrono::milliseconds even_time() {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now().time_since_epoch());
+}
+
 void wait_without_input(std::chrono::milliseconds time) {
     QEventLoop loop;
     QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
@@ -63,9 +68,9 @@ void set_up_toolkit() {
 Program::Program(ProgramFolderPlaces places)
     : places_(std::move(places)),
       fitting_(reference_, main_screen),
-      main_window_({state_, reference_, fitting_, message_boxes_, file_dialogs_, drive_, random_, settings_, *top_most_,
-                    *multimedia_, watch_clipboard, all_screens, make_system_browser, start_information_tool,
-                    [] { wait_without_input(animation_step); }, [] { wait_without_input(glide_step); },
+      main_window_({state_, reference_, fitting_, message_boxes_, file_dialogs_, drive_, random_, settings_, printers_,
+                    *top_most_, *multimedia_, watch_clipboard, all_screens, make_system_browser, start_information_tool,
+                    [] { wait_without_input(animation_step); }, [] { wait_without_input(glide_step); }, even_time,
                     [] { QCoreApplication::quit(); }}),
       termination_([this] { main_window_.kilép_Click(); }) {
     message_boxes_.set_window(&main_window_);

@@ -12,6 +12,7 @@
 #include "platform/system_random.h"
 #include "platform/termination_signal.h"
 #include "platform/top_most.h"
+#include "print/qt_printers.h"
 #include "ui/qt_dialogs.h"
 #include "ui/reference_window.h"
 #include "ui/window_fitting.h"
@@ -35,6 +36,7 @@ class Program final {
     DriveC drive_ = DriveC::of_this_user();
     SystemRandom random_;
     global::beállítástár settings_;
+    QtPrinters printers_{make_print_spooler()};
     frm_referencia reference_;
     Module_hasznos fitting_;
     std::unique_ptr<TopMost> top_most_ = make_top_most();

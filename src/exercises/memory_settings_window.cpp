@@ -1,12 +1,12 @@
 #include "exercises/memory_settings_window.h"
 
 #include <QButtonGroup>
-#include <QLineEdit>
 #include <QLocale>
 #include <algorithm>
 #include <utility>
 
 #include "ui/named.h"
+#include "ui/up_down.h"
 
 namespace {
 
@@ -18,15 +18,6 @@ constexpr int alapméret = 2;
 constexpr int legrövidebb = 10;
 constexpr int leghosszabb = 40;
 constexpr int alapidő = 20;
-
-/// Shows no text: the value is told by `label_idő`.
-class UpDown final : public QSpinBox {
-  public:
-    UpDown() { lineEdit()->setReadOnly(true); }
-
-  protected:
-    [[nodiscard]] QString textFromValue(int) const override { return {}; }
-};
 
 QRadioButton *méretgomb(size_t i) {
     const játéktér &tér = játékterek[i];

@@ -40,8 +40,8 @@ std::optional<Failure> zenebeállítások::betölt() {
     lista.feltölt(nevek);
     if (kapcsoló)
         return std::nullopt;
-    return Failure{QStringLiteral("A(z) „%1” fájl első sora nem a zene kapcsolója. A zene engedélyezve marad; a fájl "
-                                  "az „Ok” gombbal írható újra.")
+    return Failure{QStringLiteral("A(z) „%1” fájl első sora nem a zene kapcsolója. A zene engedélyezve marad; a fájlt "
+                                  "a zenei beállítások ablakának „Ok” gombja írja újra.")
                        .arg(QDir::toNativeSeparators(fájl))};
 }
 
@@ -50,7 +50,7 @@ std::optional<Failure> zenebeállítások::ment() const {
         beállítássorok::bájtok(QStringList(beállítássorok::kapcsolósor(engedélyezve)) + lista.nevek());
     if (const auto *baj = std::get_if<Failure>(&tartalom))
         return *baj;
-    // Folders that cannot be made are told by the file that cannot be written.
-    QDir().mkpath(QFileInfo(saját_fájl()).path());
+    if (auto baj = files::make_folder(QFileInfo(saját_fájl()).path()))
+        return baj;
     return files::replace_whole(saját_fájl(), std::get<QByteArray>(tartalom));
 }

@@ -3,7 +3,7 @@
 #include <QCloseEvent>
 #include <QFontMetricsF>
 
-#include "media/picture_buttons.h"
+#include "media/list_buttons.h"
 #include "ui/colour_copy.h"
 #include "ui/fonts.h"
 #include "ui/named.h"
@@ -15,7 +15,8 @@ namespace {
 constexpr double szél = 150;
 constexpr double sorköz = 90;
 constexpr double cím_magas = 330;
-constexpr double gomb_magas = 480;
+/// Captions are fitted to the buttons, and should come out not much larger than the other letters.
+constexpr double gomb_magas = 360;
 constexpr double lista_széles = 4200;
 constexpr double lista_magas = 3900;
 constexpr double nyíl = 560;
@@ -118,8 +119,8 @@ void frm_zenebeáll::Form_Load() {
     engedélyezés();
     for (QPushButton *gomb : {cmd_add_, cmd_törl_, cmd_ok_, cmd_mégsem_})
         Module_hasznos::szövegbeigazít(*gomb, gomb->text());
-    rajzol(*fel_, u"up");
-    rajzol(*le_, u"down");
+    rajzol({fel_}, u"up");
+    rajzol({le_}, u"down");
 }
 
 void frm_zenebeáll::mutat() {
@@ -188,10 +189,10 @@ void frm_zenebeáll::türelmet_kér(const QString &név) {
 
 void frm_zenebeáll::engedélyezés() {
     const int melyik = list_playlist_->selected();
-    cmd_add_->setEnabled(filelist_zene_->selected() >= 0);
-    cmd_törl_->setEnabled(melyik >= 0);
-    fel_->setEnabled(melyik > 0);
-    le_->setEnabled(melyik >= 0 && melyik < list_playlist_->count() - 1);
+    engedélyez(*cmd_add_, filelist_zene_->selected() >= 0, *filelist_zene_);
+    engedélyez(*cmd_törl_, melyik >= 0, *list_playlist_);
+    engedélyez(*fel_, melyik > 0, *list_playlist_);
+    engedélyez(*le_, melyik >= 0 && melyik < list_playlist_->count() - 1, *list_playlist_);
 }
 
 void frm_zenebeáll::cmd_add_Click() {

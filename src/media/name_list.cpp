@@ -43,5 +43,5 @@ void névlista::áthelyez(int távolság) {
 }
 
 bool mappa_nélküli(const QString &név) {
-    return !név.contains(u'/') && !név.contains(u'\\');
+    return !név.contains(u'/') && !név.contains(u'\\') && !név.contains(QChar::Null);
 }

@@ -30,5 +30,5 @@ class névlista final {
     int kijelölt_ = -1;
 };
 
-/// True for a name of which a list may consist: it names a file of the list's own folder and no other.
+/// True for a name of which a list may consist: it can name a file of the list's own folder and no other.
 [[nodiscard]] bool mappa_nélküli(const QString &név);

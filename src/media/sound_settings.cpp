@@ -15,7 +15,7 @@ const QString hibafájl = QStringLiteral("hibahang.ini");
 
 Failure nem_öt_kapcsoló(const QString &fájl) {
     return {QStringLiteral("A(z) „%1” fájl nem öt kapcsolóval kezdődik. A hiányzó kapcsolók bekapcsolva maradnak; a "
-                           "fájl az „Ok” gombbal írható újra.")
+                           "fájlt a hangbeállítások ablakának „Ok” gombja írja újra.")
                 .arg(QDir::toNativeSeparators(fájl))};
 }
 
@@ -89,8 +89,8 @@ std::optional<Failure> hangbeállítások::ment() const {
             return *baj;
         mind.emplace_back(fájl(név), std::get<QByteArray>(tartalom));
     }
-    // A folder that cannot be made is told by the first file that cannot be written.
-    QDir().mkpath(QFileInfo(fájl(gratulafájl)).path());
+    if (auto baj = files::make_folder(QFileInfo(fájl(gratulafájl)).path()))
+        return baj;
     for (const auto &[út, bájtok] : mind) {
         if (auto baj = files::replace_whole(út, bájtok))
             return baj;

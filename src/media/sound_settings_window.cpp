@@ -4,7 +4,7 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
-#include "media/picture_buttons.h"
+#include "media/list_buttons.h"
 #include "ui/colour_copy.h"
 #include "ui/named.h"
 
@@ -28,9 +28,10 @@ constexpr double lista_magas = hangsor_magas - cím_magas - sorköz;
 /// The buttons below the files end with the last list.
 constexpr double fájlok_magas = 2 * hangsor_magas + lista_magas - sorköz - gomb_magas;
 constexpr double kapcsoló_magas = 390;
-constexpr double keret_teteje = 330;
+constexpr double keret_teteje = 400;
 
-constexpr double képernyőrész = 0.8;
+/// It holds more than other windows.
+constexpr double képernyőrész = 0.95;
 
 /// A number as text: with a blank in the place of its sign.
 QString szám_szöveg(int szám) {
@@ -105,7 +106,7 @@ void frm_hangbeáll::elhelyezés() {
     for (size_t i = 0; i < chk_.size(); ++i) {
         elhelyez(chk_[i], {szél * 2 + helyek[i].x() * (gombok - szél),
                            keret_fent + keret_teteje + helyek[i].y() * kapcsoló_magas,
-                           helyek[i].x() == 0 ? gombok - 2 * szél : gomb_széles - szél, kapcsoló_magas});
+                           helyek[i].x() == 0 ? gombok - 2 * szél : gomb_széles - 2 * szél, kapcsoló_magas});
     }
     const double alul = keret_fent + keret_magas + 2 * sorköz;
     constexpr double zárógomb = 2200;
@@ -145,10 +146,8 @@ void frm_hangbeáll::Form_Load() {
     k_.hasznos.ablakstílus(*this);
     Filelist_->set_folder(beállítások_.hangmappa());
     betölt();
-    for (const Hangsor &sor : sorok_) {
-        rajzol(*sor.hozzáad, u"add");
-        rajzol(*sor.töröl, u"remove");
-    }
+    rajzol({sorok_[0].hozzáad, sorok_[1].hozzáad, sorok_[2].hozzáad}, u"add");
+    rajzol({sorok_[0].töröl, sorok_[1].töröl, sorok_[2].töröl}, u"remove");
 }
 
 void frm_hangbeáll::mutat() {
@@ -199,11 +198,11 @@ void frm_hangbeáll::feliratok() {
 
 void frm_hangbeáll::engedélyezés() {
     const bool van_fájl = Filelist_->selected() >= 0;
-    cmd_play_->setEnabled(van_fájl);
-    cmd_hangtörlése_->setEnabled(van_fájl);
+    engedélyez(*cmd_play_, van_fájl, *Filelist_);
+    engedélyez(*cmd_hangtörlése_, van_fájl, *Filelist_);
     for (const Hangsor &sor : sorok_) {
-        sor.hozzáad->setEnabled(van_fájl);
-        sor.töröl->setEnabled(sor.nevek.kijelölt() >= 0);
+        engedélyez(*sor.hozzáad, van_fájl, *Filelist_);
+        engedélyez(*sor.töröl, sor.nevek.kijelölt() >= 0, *sor.lista);
     }
 }
 
@@ -282,5 +281,6 @@ void frm_hangbeáll::cmd_mégsem_Click() {
 }
 
 void frm_hangbeáll::closeEvent(QCloseEvent *event) {
-    event->setAccepted(ment());
+    // A hidden window has saved or discarded what there was.
+    event->setAccepted(!isVisible() || ment());
 }

@@ -22,13 +22,14 @@ class MessageBoxes {
     virtual void beep() = 0;
 };
 
-/// The system's file dialogs. `proposal` is a folder with a pattern ("…/*.szs") or a file path that the dialog starts
-/// with; the result is the full path as chosen, nothing when the user cancels. Neither asks about overwriting, and
-/// either may return a file that does not exist.
+/// The system's file dialogs, for word lists but for save_pdf(). `proposal` is a folder with a pattern ("…/*.szs") or a
+/// file path that the dialog starts with; the result is the full path as chosen, nothing when the user cancels. None
+/// asks about overwriting, and each may return a file that does not exist.
 class FileDialogs {
   public:
     virtual ~FileDialogs() = default;
 
     [[nodiscard]] virtual std::optional<QString> open(const QString &proposal) = 0;
     [[nodiscard]] virtual std::optional<QString> save(const QString &proposal) = 0;
+    [[nodiscard]] virtual std::optional<QString> save_pdf(const QString &proposal) = 0;
 };

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <algorithm>
 
 namespace files {
 namespace {
@@ -45,22 +46,44 @@ FileContent read_whole(const QString &path) {
 
 std::optional<Failure> replace_whole(const QString &path, const QByteArray &bytes) {
     QSaveFile file(path);
-    // Without the flush, commit() of Qt 6.4 would not see that the last buffer did not fit onto the disk.
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit())
-        return std::nullopt;
+    if (file.open(QIODevice::WriteOnly)) {
+        // A disk takes what fits; only what does not fit any more fails, and tells why.
+        qint64 taken = file.write(bytes);
+        if (taken >= 0 && taken < bytes.size())
+            taken += std::max<qint64>(0, file.write(bytes.constData() + taken, bytes.size() - taken));
+        // Without the flush, commit() of Qt 6.4 would not see that the last buffer did not fit onto the disk.
+        if (taken == bytes.size() && file.flush() && file.commit())
+            return std::nullopt;
+    }
     return Failure{QStringLiteral("A(z) „%1” fájl nem írható: %2")
                        .arg(QDir::toNativeSeparators(path), reason_not_writable(file, path))};
+}
+
+std::optional<Failure> make_folder(const QString &path) {
+    if (QDir().mkpath(path))
+        return std::nullopt;
+    // The first on the way that is there already stands in the way.
+    QString there = path;
+    while (!QFileInfo::exists(there) && QFileInfo(there).path() != there)
+        there = QFileInfo(there).path();
+    QString reason = QStringLiteral("hiba történt.");
+    if (!QFileInfo(there).isDir())
+        reason = QStringLiteral("a helyén egy fájl van.");
+    else if (!QFileInfo(there).isWritable())
+        reason = no_permission;
+    return Failure{QStringLiteral("A(z) „%1” mappa nem hozható létre: %2").arg(QDir::toNativeSeparators(path), reason)};
 }
 
 std::optional<Failure> remove(const QString &path) {
     const QFileInfo place(path);
     if (QFile::remove(path) || (!place.exists() && !place.isSymLink()))
         return std::nullopt;
-    const bool allowed = QFileInfo(place.path()).isWritable() && !place.isDir();
-    return Failure{QStringLiteral("A(z) „%1” fájl nem törölhető: %2")
-                       .arg(QDir::toNativeSeparators(path),
-                            allowed ? QStringLiteral("egy másik program használja, vagy hiba történt.")
-                                    : QStringLiteral("nincs jogosultság a törléséhez."))};
+    QString reason = QStringLiteral("egy másik program használja, vagy hiba történt.");
+    if (place.isDir())
+        reason = QStringLiteral("ez egy mappa.");
+    else if (!QFileInfo(place.path()).isWritable())
+        reason = QStringLiteral("nincs jogosultság a törléséhez.");
+    return Failure{QStringLiteral("A(z) „%1” fájl nem törölhető: %2").arg(QDir::toNativeSeparators(path), reason)};
 }
 
 bool exists(const QString &path) {

@@ -22,6 +22,9 @@ namespace files {
 /// old file stands as it was. Returns the failure, nothing on success.
 [[nodiscard]] std::optional<Failure> replace_whole(const QString &path, const QByteArray &bytes);
 
+/// Makes the folder `path`, and those that it lies in, unless it is there.
+[[nodiscard]] std::optional<Failure> make_folder(const QString &path);
+
 /// Deletes the file `path`; one that is not there any more is no failure.
 [[nodiscard]] std::optional<Failure> remove(const QString &path);
 

@@ -33,6 +33,6 @@ class MultimediaCommands {
 /// `path` in quotation marks, as a command wants it.
 [[nodiscard]] QString quoted_for_command(const QString &path);
 
-/// The commands of this machine. One source a system. No device is opened before the first sound; without one,
-/// everything fails with a code and is silent.
+/// The commands of this machine. One source a system. No device is opened before the first sound. On a machine
+/// without one everything is silent; it may fail with a code, or be played for as long as it lasts.
 [[nodiscard]] std::unique_ptr<MultimediaCommands> make_multimedia_commands();

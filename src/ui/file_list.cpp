@@ -1,8 +1,11 @@
 #include "ui/file_list.h"
 
+#include <QCollator>
 #include <QDir>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QSignalBlocker>
+#include <algorithm>
 
 FileListBox::FileListBox(const QString &pattern, QWidget *parent) : ListBox(parent), pattern_(pattern) {}
 
@@ -14,10 +17,14 @@ void FileListBox::set_folder(const QString &folder) {
 void FileListBox::refresh() {
     QStringList names;
     // A pipe passes for a file there, as a device would.
-    for (const QFileInfo &file : QDir(folder_).entryInfoList({pattern_}, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
-        if (file.isFile())
+    for (const QFileInfo &file : QDir(folder_).entryInfoList({pattern_}, QDir::Files, QDir::Name)) {
+        // A separator of folders in a name, of whichever system, would lead elsewhere when the name is read from a
+        // file.
+        if (file.isFile() && !file.fileName().contains(u'\\'))
             names.append(file.fileName());
     }
+    const QCollator alphabet(QLocale(QLocale::Hungarian, QLocale::Hungary));
+    std::stable_sort(names.begin(), names.end(), alphabet);
     set_items(names);
 }
 
@@ -37,7 +44,9 @@ QString FileListBox::path_of(const QString &name) const {
 }
 
 void FileListBox::keyPressEvent(QKeyEvent *event) {
-    if (event->key() != Qt::Key_Delete || event->modifiers() != Qt::NoModifier) {
+    // That of the number pad is one, too.
+    const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if (event->key() != Qt::Key_Delete || held != Qt::NoModifier) {
         ListBox::keyPressEvent(event);
         return;
     }

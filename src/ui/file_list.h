@@ -4,8 +4,8 @@
 
 #include "ui/list_box.h"
 
-/// A list of the files of a folder whose names match a pattern such as "*.wav", in alphabetical order. Folders and
-/// pipes are no files, whatever their names.
+/// A list of the files of a folder whose names match a pattern such as "*.wav", in the order of the Hungarian alphabet.
+/// Folders and pipes are no files, whatever their names.
 class FileListBox final : public ListBox {
     Q_OBJECT
 

@@ -13,6 +13,7 @@
 namespace {
 
 const QString word_list_filter = QStringLiteral("Szószedet fájl (*.szs)");
+const QString pdf_filter = QStringLiteral("PDF-fájl (*.pdf)");
 
 Answer answer_of(int button) {
     switch (button) {
@@ -25,14 +26,15 @@ Answer answer_of(int button) {
     }
 }
 
-/// What a box stands in front of: `window`, or another window of the program that is seen while that one is hidden.
+/// What a box stands in front of: a modal window, which would cover the others' boxes; else `window`, or another window
+/// of the program that is seen while that one is hidden.
 QWidget *seen(QWidget *window) {
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
     if (window && window->isVisible())
         return window;
     if (QWidget *active = QApplication::activeWindow())
         return active;
-    if (QWidget *modal = QApplication::activeModalWidget())
-        return modal;
     const QWidgetList windows = QApplication::topLevelWidgets();
     const auto visible = std::find_if(windows.begin(), windows.end(),
                                       [](auto *one) { return one->isVisible() && one->windowType() == Qt::Window; });
@@ -94,9 +96,10 @@ class PlainKinds final : public QFileIconProvider {
     }
 };
 
-std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, const QString &proposal) {
+std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, const QString &proposal,
+                              const QString &filter) {
     PlainKinds kinds;
-    QFileDialog dialog(seen(window), QString(), QFileInfo(proposal).path(), word_list_filter);
+    QFileDialog dialog(seen(window), QString(), QFileInfo(proposal).path(), filter);
     dialog.setIconProvider(&kinds);
     dialog.setAcceptMode(mode);
     // The system's own dialog has no title otherwise.
@@ -133,9 +136,13 @@ void QtMessageBoxes::beep() {
 }
 
 std::optional<QString> QtFileDialogs::open(const QString &proposal) {
-    return choose(window_, QFileDialog::AcceptOpen, proposal);
+    return choose(window_, QFileDialog::AcceptOpen, proposal, word_list_filter);
 }
 
 std::optional<QString> QtFileDialogs::save(const QString &proposal) {
-    return choose(window_, QFileDialog::AcceptSave, proposal);
+    return choose(window_, QFileDialog::AcceptSave, proposal, word_list_filter);
+}
+
+std::optional<QString> QtFileDialogs::save_pdf(const QString &proposal) {
+    return choose(window_, QFileDialog::AcceptSave, proposal, pdf_filter);
 }

@@ -21,7 +21,7 @@ class QtMessageBoxes final : public MessageBoxes {
     QPointer<QWidget> window_;
 };
 
-/// The system's file dialogs for word lists.
+/// The system's file dialogs.
 class QtFileDialogs final : public FileDialogs {
   public:
     /// The dialogs stand in front of `window`, or of another as the boxes do.
@@ -29,6 +29,7 @@ class QtFileDialogs final : public FileDialogs {
 
     [[nodiscard]] std::optional<QString> open(const QString &proposal) override;
     [[nodiscard]] std::optional<QString> save(const QString &proposal) override;
+    [[nodiscard]] std::optional<QString> save_pdf(const QString &proposal) override;
 
   private:
     QPointer<QWidget> window_;

@@ -125,8 +125,9 @@ wait_for_main_window() {
     main_window=$(xdotool getactivewindow)
 }
 
+# The titles of other windows begin like that, too, and end with their captions.
 main_window_is_in_front() {
-    [[ $(title_in_front) == "Zimbora Angol-Magyar "* ]]
+    [[ $(title_in_front) == "Zimbora Angol-Magyar "*" szószedet" ]]
 }
 
 title_in_front() {

@@ -4,6 +4,7 @@
 set -euo pipefail
 source "$(dirname "$0")/lib.sh"
 source "$(dirname "$0")/mini_window.sh"
+source "$(dirname "$0")/print_lib.sh"
 
 # display paints the screen and still ends with 1.
 paint_background() {
@@ -170,6 +171,28 @@ memory() {
     end_program
 }
 
+# The settings, and a page of each layout as it will come out. No print server is asked.
+printing() {
+    local kind names=(list pairs cards)
+    export CUPS_SERVER=$temp/no-print-server
+    make_list "$lists/szavak.szs" dog:kutya cat:macska "horse:ló, csődör" "deer:őz, szarvas" bird:madár tree:fa "wood:fa, erdő" \
+        honey:méz egg:tojás bread:kenyér butter:vaj milk:tej water:víz "sky:ég, égbolt" earth:föld fire:tűz time:idő
+    start_program "$lists/szavak.szs"
+    for kind in 0 1 2; do
+        open_print_settings
+        choose_kind "$kind"
+        ((kind > 0)) || take_picture print-settings
+        press alt+k
+        wait_for_title "$(title_of_exercise "Nyomtatási kép")"
+        take_picture "print-preview-${names[kind]}"
+        press Escape
+        wait_for_title "$(title_of_exercise "Szószedet nyomtatása")"
+        press Escape
+        wait_for_main_window
+    done
+    end_program
+}
+
 # Over the window of another program.
 mini_window() {
     xterm -T "other program" -geometry 60x20+100+100 -e cat 2>"$temp/xterm.log" &
@@ -212,6 +235,34 @@ music_settings() {
     press alt+b z
     wait_for_title "$(title_of_exercise "Zenei beállítások")"
     take_picture music-settings
+    end_program
+}
+
+print_settings() {
+    make_list "$lists/állatok.szs" dog:kutya cat:macska horse:ló "deer:őz, szarvas" bird:madár
+    start_program "$lists/állatok.szs"
+    press ctrl+p
+    wait_for_title "$(title_of_exercise "Szószedet nyomtatása")"
+    take_picture print-settings
+    press alt+k
+    wait_for_title "$(title_of_exercise "Nyomtatási kép")"
+    take_picture print-preview
+    end_program
+}
+
+# One page of each layout, as it comes out.
+printed_pages() {
+    local kinds=(list pair card) kind
+    make_list "$lists/állatok.szs" dog:kutya cat:macska horse:ló "deer:őz, szarvas" bird:madár "goat:kecske" "frog:béka"
+    start_program "$lists/állatok.szs"
+    for kind in 0 1 2; do
+        open_print_settings
+        choose_kind "$kind"
+        print_into_file "$lists/${kinds[kind]}.pdf"
+        wait_for_title "$(title_of_list "$lists/állatok.szs")"
+        pdftoppm -r 60 -f 1 -l 1 -png -singlefile "$lists/${kinds[kind]}.pdf" "$pictures/printed-${kinds[kind]}"
+        echo "$pictures/printed-${kinds[kind]}.png"
+    done
     end_program
 }
 
@@ -271,11 +322,14 @@ for size in 1024x768 1920x1080 2560x1440; do
     scene exercises 1024x768 2560x1440
     scene puzzle 1024x768 2560x1440
     scene memory 1024x768 2560x1440
+    scene printing 1024x768 2560x1440
     scene mini_window 1024x768 2560x1440
     scene about_box 1024x768 2560x1440
     scene help_and_timed_message 1024x768 2560x1440
     scene sound_settings 1024x768 2560x1440
     scene music_settings 1024x768 2560x1440
+    scene print_settings 1024x768 2560x1440
+    scene printed_pages 1024x768
     scene splash 1024x768 2560x1440
     end_children
 done

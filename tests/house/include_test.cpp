@@ -27,7 +27,13 @@ std::optional<int> floor_of(const QString &file) {
                                                QStringLiteral("lookup/webengine/engine_page"),
                                                QStringLiteral("lookup/webengine/engine_plugin"),
                                                QStringLiteral("media/media_surroundings"),
-                                               QStringLiteral("media/picture_buttons")};
+                                               QStringLiteral("media/list_buttons"),
+                                               QStringLiteral("print/drawn_job"),
+                                               QStringLiteral("print/page_view"),
+                                               QStringLiteral("print/print_progress"),
+                                               QStringLiteral("print/print_settings_controls"),
+                                               QStringLiteral("print/print_settings_printing"),
+                                               QStringLiteral("print/qt_printers")};
     static const QMap<QString, int> floors{
         {QStringLiteral("platform"), 0},  {QStringLiteral("wordlist"), 1}, {QStringLiteral("dictionary"), 1},
         {QStringLiteral("exercises"), 1}, {QStringLiteral("lookup"), 1},   {QStringLiteral("media"), 1},

@@ -176,8 +176,8 @@ TEST_F(MusicSettings, tell_why_they_could_not_be_written) {
     const auto failure = settings_.ment();
 
     ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->sentence.contains(QDir::toNativeSeparators(QStringLiteral("/zbrmk/kavaro/zenebeáll.ini")) +
-                                           QStringLiteral("” fájl nem írható: ")));
+    EXPECT_TRUE(failure->sentence.contains(QDir::toNativeSeparators(QStringLiteral("/zbrmk/kavaro")) +
+                                           QStringLiteral("” mappa nem hozható létre: a helyén egy fájl van.")));
 }
 
 TEST_F(MusicSettings, leave_the_old_file_as_it_was_when_the_code_page_lacks_a_letter) {

@@ -156,6 +156,7 @@ TEST(NameList, names_only_files_of_its_own_folder) {
 
     for (const char16_t *name : {u"../a.wav", u"/etc/passwd", u"a/", u"..\\a.wav", u"c:\\a.wav", u"\\"})
         EXPECT_FALSE(mappa_nélküli(QString::fromUtf16(name))) << QString::fromUtf16(name).toStdString();
+    EXPECT_FALSE(mappa_nélküli(QStringLiteral("a") + QChar(QChar::Null)));
 }
 
 }  // namespace

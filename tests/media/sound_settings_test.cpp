@@ -106,6 +106,16 @@ TEST_F(SoundSettings, take_everything_from_the_files_again) {
     EXPECT_EQ(settings_.hiba.nevek(), QStringList());
 }
 
+TEST_F(SoundSettings, go_back_to_all_on_and_no_sounds_when_there_is_no_file) {
+    settings_.kapcsolók = {};
+    settings_.gratula.hozzáad(QStringLiteral("taps.wav"));
+
+    EXPECT_FALSE(settings_.betölt());
+
+    EXPECT_EQ(settings_.kapcsolók, all_on);
+    EXPECT_EQ(settings_.gratula.darab(), 0);
+}
+
 TEST_F(SoundSettings, drop_sounds_whose_file_is_missing_in_silence) {
     write_file(settings_file("grathang.ini"), " 1\r\n 1\r\n 1\r\n 1\r\n 1\r\nnincs.wav\r\ntaps.wav\r\n");
     write_file(settings_file("helyeshang.ini"), "taps.wav\r\nnincs.wav\r\n");
@@ -222,8 +232,8 @@ TEST_F(SoundSettings, tell_why_they_could_not_be_written) {
     const auto failure = settings_.ment();
 
     ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->sentence.contains(QDir::toNativeSeparators(QStringLiteral("/kavaro/grathang.ini")) +
-                                           QStringLiteral("” fájl nem írható: ")));
+    EXPECT_TRUE(failure->sentence.contains(QDir::toNativeSeparators(QStringLiteral("/kavaro")) +
+                                           QStringLiteral("” mappa nem hozható létre: a helyén egy fájl van.")));
 }
 
 TEST_F(SoundSettings, replace_no_file_when_the_code_page_lacks_a_letter) {

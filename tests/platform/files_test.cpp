@@ -54,4 +54,58 @@ TEST_F(Files, takes_only_a_file_for_an_existing_file) {
     EXPECT_FALSE(files::exists(folder_.path()));
 }
 
+TEST_F(Files, deletes_a_file_and_no_other) {
+    const QString path = in_folder(QStringLiteral("két hang ő.wav"));
+    write_file(path, "RIFF");
+    write_file(in_folder(QStringLiteral("más.wav")), "RIFF");
+
+    EXPECT_FALSE(files::remove(path));
+
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{QStringLiteral("más.wav")});
+}
+
+TEST_F(Files, deletes_a_read_only_file) {
+    const QString path = in_folder(QStringLiteral("hang.wav"));
+    write_file(path, "RIFF");
+    QFile::setPermissions(path, QFile::ReadOwner);
+
+    EXPECT_FALSE(files::remove(path));
+
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(Files, takes_a_file_that_has_gone_already_for_deleted) {
+    EXPECT_FALSE(files::remove(in_folder(QStringLiteral("nincs.wav"))));
+    EXPECT_FALSE(files::remove(in_folder(QStringLiteral("nincs/hang.wav"))));
+}
+
+TEST_F(Files, says_so_when_a_folder_stands_in_the_place_of_a_file_to_be_deleted) {
+    QDir(folder_.path()).mkdir(QStringLiteral("hang.wav"));
+    const QString path = in_folder(QStringLiteral("hang.wav"));
+
+    const auto failure = files::remove(path);
+
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->sentence,
+              QStringLiteral("A(z) „%1” fájl nem törölhető: ez egy mappa.").arg(QDir::toNativeSeparators(path)));
+    EXPECT_TRUE(QFileInfo(path).isDir());
+}
+
+TEST_F(Files, makes_a_folder_and_those_that_it_lies_in) {
+    EXPECT_FALSE(files::make_folder(folder_.filePath(QStringLiteral("a/b/c"))));
+    EXPECT_FALSE(files::make_folder(folder_.filePath(QStringLiteral("a/b/c"))));
+
+    EXPECT_TRUE(QFileInfo(folder_.filePath(QStringLiteral("a/b/c"))).isDir());
+}
+
+TEST_F(Files, tells_that_a_file_stands_where_a_folder_should_be_made) {
+    write_file(folder_.filePath(QStringLiteral("a")), "");
+
+    const auto failure = files::make_folder(folder_.filePath(QStringLiteral("a/b")));
+
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->sentence, QStringLiteral("A(z) „%1” mappa nem hozható létre: a helyén egy fájl van.")
+                                     .arg(QDir::toNativeSeparators(folder_.filePath(QStringLiteral("a/b")))));
+}
+
 }  // namespace

@@ -54,6 +54,7 @@ class FakeFileDialogs final : public FileDialogs {
 
     std::optional<QString> open(const QString &proposal) override { return choose(proposal); }
     std::optional<QString> save(const QString &proposal) override { return choose(proposal); }
+    std::optional<QString> save_pdf(const QString &proposal) override { return choose(proposal); }
 
   private:
     std::optional<QString> choose(const QString &proposal) {

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <utility>
 
 #include "platform/multimedia_commands.h"
@@ -15,9 +16,12 @@ class FakeMultimedia final : public MultimediaCommands {
     QString mode;
     /// Code of every command; the answer is empty unless it is 0.
     quint32 code = 0;
+    /// Called while a command is carried out.
+    std::function<void()> meanwhile = [] {};
 
     MultimediaAnswer send(const QString &command, int answer_length) override {
         sent.append(command + u'|' + QString::number(answer_length));
+        meanwhile();
         const bool asks = command.startsWith(QStringLiteral("Status "));
         return {code, asks && code == 0 ? mode : QString()};
     }

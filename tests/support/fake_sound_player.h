@@ -13,8 +13,9 @@ struct SoundNotes {
     QStringList events;
     /// How often a player was asked for.
     int players = 0;
-    /// Whether the machine has a sound device.
+    /// Whether the machine has a sound device, and whether anything can be played at all.
     bool device = true;
+    bool player = true;
     /// Whether files can be opened, and played when they are.
     bool readable = true;
     bool playable = true;
@@ -45,13 +46,13 @@ class FakeSound final : public Sound {
 
 class FakeSoundPlayer final : public SoundPlayer {
   public:
-    explicit FakeSoundPlayer(SoundNotes &notes) : notes_(notes) {}
+    explicit FakeSoundPlayer(SoundNotes &notes) : notes_(notes), silent_(!notes.device) {}
 
-    /// Makes players that note everything in `notes`, as long as there is a device.
+    /// Makes players that note everything in `notes`.
     static SoundPlayerFactory factory(SoundNotes &notes) {
         return [&notes]() -> std::unique_ptr<SoundPlayer> {
             ++notes.players;
-            return notes.device ? std::make_unique<FakeSoundPlayer>(notes) : nullptr;
+            return notes.player ? std::make_unique<FakeSoundPlayer>(notes) : nullptr;
         };
     }
 
@@ -61,6 +62,9 @@ class FakeSoundPlayer final : public SoundPlayer {
         return notes_.readable ? std::make_unique<FakeSound>(notes_, path) : nullptr;
     }
 
+    [[nodiscard]] bool silent() const override { return silent_; }
+
   private:
     SoundNotes &notes_;
+    const bool silent_;
 };

@@ -20,6 +20,7 @@
 #include "support/fake_desktop.h"
 #include "support/fake_dialogs.h"
 #include "support/fake_multimedia.h"
+#include "support/fake_printers.h"
 #include "support/fake_web_browser.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
@@ -50,21 +51,21 @@ class MainWindowTest : public testing::Test {
 
     /// Loads the window without showing it.
     void load(const QString &command_line = {}) {
-        window_ = std::make_unique<szótár>(
-            szótárkörnyezet{state_, reference_, fitting_, boxes_, dialogs_, DriveC(place("c")), random_, settings_,
-                            top_most_, multimedia_, [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
-                            [this] { return QVector<QRectF>{screen_}; },
-                            [this](const WebBrowserRules &) -> WebBrowserResult {
-                                auto browser = std::make_unique<FakeWebBrowser>();
-                                browser_ = browser.get();
-                                return browser;
-                            },
-                            [this] { return information_tool_; }, [this] { ++animation_steps_; },
-                            [this] {
-                                ++glide_steps_;
-                                between_glide_steps_();
-                            },
-                            [this] { ended_ = true; }});
+        window_ = std::make_unique<szótár>(szótárkörnyezet{
+            state_, reference_, fitting_, boxes_, dialogs_, DriveC(place("c")), random_, settings_, printers_,
+            top_most_, multimedia_, [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
+            [this] { return QVector<QRectF>{screen_}; },
+            [this](const WebBrowserRules &) -> WebBrowserResult {
+                auto browser = std::make_unique<FakeWebBrowser>();
+                browser_ = browser.get();
+                return browser;
+            },
+            [this] { return information_tool_; }, [this] { ++animation_steps_; },
+            [this] {
+                ++glide_steps_;
+                between_glide_steps_();
+            },
+            [this] { return time_; }, [this] { ended_ = true; }});
         window_->Form_Load(command_line);
     }
 
@@ -123,6 +124,8 @@ class MainWindowTest : public testing::Test {
     FakeFileDialogs dialogs_;
     SeededRandom random_;
     global::beállítástár settings_{place("settings.ini")};
+    FakePrinters printers_;
+    std::chrono::milliseconds time_{0};
     FakeTopMost top_most_;
     FakeMultimedia multimedia_;
     FakeClipboard clipboard_;

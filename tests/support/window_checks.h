@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QRadioButton>
@@ -39,10 +40,10 @@ inline void expect_text_inside(const ablak &window, const QString &name) {
         << " in " << picture->inner_size().width() << " x " << picture->inner_size().height();
 }
 
-/// Nothing of the caption of a button, option button or label is cut off.
+/// Nothing of the caption of a button, option button, check box or label is cut off.
 inline void expect_whole_caption(const ablak &window, const QString &name) {
     const auto *captioned = control<QWidget>(window, name);
-    if (qobject_cast<const QRadioButton *>(captioned)) {
+    if (qobject_cast<const QRadioButton *>(captioned) || qobject_cast<const QCheckBox *>(captioned)) {
         EXPECT_LE(captioned->sizeHint().width(), captioned->width()) << name.toStdString();
         EXPECT_LE(captioned->sizeHint().height(), captioned->height()) << name.toStdString();
         return;

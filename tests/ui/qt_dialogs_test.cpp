@@ -3,12 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest/QTest>
 #include <functional>
 
+#include "support/files_for_tests.h"
 #include "support/printing.h"
 
 namespace {
@@ -108,6 +112,64 @@ TEST_F(QtDialogs, box_stands_in_front_of_a_window_that_is_seen) {
     main_window.show();
     QApplication::setActiveWindow(&settings);
     EXPECT_EQ(window_behind_a_box(), &main_window);
+}
+
+TEST_F(QtDialogs, box_stands_in_front_of_a_modal_window_and_not_behind_it) {
+    QWidget main_window;
+    boxes_.set_window(&main_window);
+    main_window.show();
+    QWidget modal;
+    modal.setWindowModality(Qt::ApplicationModal);
+    modal.show();
+
+    EXPECT_EQ(window_behind_a_box(), &modal);
+}
+
+class QtFileDialog : public testing::Test {
+  protected:
+    /// Lets `act` be called with the file dialog that opens next, which has been closed afterwards.
+    static void when_open(const std::function<void(QFileDialog &)> &act) {
+        QTimer::singleShot(0, qApp, [act] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            act(*dialog);
+            if (dialog->isVisible())
+                dialog->reject();
+        });
+    }
+
+    QTemporaryDir root_;
+    QtFileDialogs dialogs_;
+};
+
+TEST_F(QtFileDialog, for_a_pdf_offers_its_kind_of_files_and_the_proposed_name) {
+    const QString proposal = root_.filePath(QStringLiteral("list.pdf"));
+    when_open([&](const QFileDialog &dialog) {
+        EXPECT_EQ(dialog.nameFilters(), QStringList(QStringLiteral("PDF-fájl (*.pdf)")));
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(dialog.selectedFiles(), QStringList(proposal));
+    });
+
+    EXPECT_EQ(dialogs_.save_pdf(proposal), std::nullopt);
+}
+
+TEST_F(QtFileDialog, for_a_word_list_offers_its_kind_of_files) {
+    when_open([](const QFileDialog &dialog) {
+        EXPECT_EQ(dialog.nameFilters(), QStringList(QStringLiteral("Szószedet fájl (*.szs)")));
+    });
+
+    EXPECT_EQ(dialogs_.save(root_.filePath(QStringLiteral("list.szs"))), std::nullopt);
+}
+
+TEST_F(QtFileDialog, returns_the_name_as_it_was_chosen_and_does_not_ask_about_a_file_that_exists) {
+    const QString proposal = root_.filePath(QStringLiteral("list.pdf"));
+    write_file(proposal, "old");
+    when_open([](QFileDialog &dialog) {
+        QTest::keyClick(dialog.findChild<QLineEdit *>(), Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+
+    EXPECT_EQ(dialogs_.save_pdf(proposal), QDir::toNativeSeparators(proposal));
 }
 
 }  // namespace

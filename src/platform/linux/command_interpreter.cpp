@@ -121,10 +121,13 @@ MultimediaAnswer CommandInterpreter::status(const QString &name, const QStringLi
 }
 
 bool CommandInterpreter::has_player() {
-    if (player_ || now_() < next_attempt_)
+    const bool wanted = !player_ || (player_->silent() && open_.isEmpty());
+    if (!wanted || now_() < next_attempt_)
         return player_ != nullptr;
+    // One player has the device at a time.
+    player_.reset();
     player_ = make_player_();
-    if (!player_)
+    if (!player_ || player_->silent())
         next_attempt_ = now_() + pause_without_device;
     return player_ != nullptr;
 }

@@ -29,8 +29,9 @@ inline constexpr quint32 device_not_installed = 306;
 
 }  // namespace mci_error
 
-/// Carries out multimedia commands with a sound player, which is made when the first file is opened. A machine that had
-/// no sound device is not asked again before some time has passed, because every attempt takes a while.
+/// Carries out multimedia commands with a sound player, which is made when the first file is opened. On a machine that
+/// had no sound device it is made anew when nothing is open, in case there is one now; not before some time has passed,
+/// because every attempt takes a while.
 class CommandInterpreter final : public MultimediaCommands {
   public:
     using Clock = std::function<std::chrono::steady_clock::time_point()>;

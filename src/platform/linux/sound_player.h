@@ -16,16 +16,19 @@ class Sound {
     [[nodiscard]] virtual bool playing() const = 0;
 };
 
-/// What plays sounds, of which a wave and a MIDI piece are heard together. It outlives the sounds that it opened.
+/// What plays sounds, of which a wave and a MIDI piece are heard together. On a machine without a sound device it plays
+/// them, too, for as long as they last, and nobody hears them. It outlives the sounds that it opened.
 class SoundPlayer {
   public:
     virtual ~SoundPlayer() = default;
 
     /// Null for a file that cannot be read or is none of that type.
     [[nodiscard]] virtual std::unique_ptr<Sound> open(SoundType type, const QString &path) = 0;
+    /// True when there is no device that could be heard.
+    [[nodiscard]] virtual bool silent() const = 0;
 };
 
-/// Makes a player that has the machine's sound device; null when there is none.
+/// Makes a player with the machine's sound device, as it is now; null when nothing can be played at all.
 using SoundPlayerFactory = std::function<std::unique_ptr<SoundPlayer>()>;
 
 /// Makes a player with SDL_mixer, which is a library of its own, loaded at the first call: it brings some forty others

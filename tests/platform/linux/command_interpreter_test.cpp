@@ -226,24 +226,62 @@ TEST_F(CommandInterpreterTest, makes_no_player_before_a_file_is_opened) {
     EXPECT_EQ(notes_.players, 1);
 }
 
-TEST_F(CommandInterpreterTest, does_not_ask_for_a_missing_device_again_before_the_pause_is_over) {
-    notes_.device = false;
+TEST_F(CommandInterpreterTest, fails_when_nothing_can_be_played_at_all) {
+    notes_.player = false;
+
     EXPECT_EQ(open_wave(), mci_error::device_not_installed);
+}
+
+TEST_F(CommandInterpreterTest, plays_on_a_machine_without_a_device_as_if_there_were_one) {
+    notes_.device = false;
+    open_piece();
+    code_of("play midi");
+
+    EXPECT_EQ(interpreter_.send(QStringLiteral("status midi mode"), room).text, QStringLiteral("playing"));
+}
+
+TEST_F(CommandInterpreterTest, does_not_look_for_a_missing_device_again_before_the_pause_is_over) {
+    notes_.device = false;
+    open_wave();
+    code_of("close hang");
 
     now_ += CommandInterpreter::pause_without_device - std::chrono::milliseconds(1);
-    EXPECT_EQ(open_wave(), mci_error::device_not_installed);
+    open_wave();
 
     EXPECT_EQ(notes_.players, 1);
 }
 
-TEST_F(CommandInterpreterTest, asks_for_a_missing_device_again_after_the_pause) {
+TEST_F(CommandInterpreterTest, looks_for_a_missing_device_again_after_the_pause) {
     notes_.device = false;
     open_wave();
+    code_of("close hang");
     notes_.device = true;
     now_ += CommandInterpreter::pause_without_device;
 
     EXPECT_EQ(open_wave(), done);
     EXPECT_EQ(code_of("play hang"), done);
+    EXPECT_EQ(notes_.players, 2);
+}
+
+TEST_F(CommandInterpreterTest, cuts_off_no_sound_to_look_for_a_device) {
+    notes_.device = false;
+    open_piece();
+    now_ += CommandInterpreter::pause_without_device;
+
+    open_wave();
+
+    EXPECT_EQ(notes_.players, 1);
+    EXPECT_FALSE(notes_.events.contains(piece_ + QStringLiteral(" silenced")));
+}
+
+TEST_F(CommandInterpreterTest, keeps_a_device_that_it_has) {
+    open_wave();
+    code_of("close hang");
+    now_ += CommandInterpreter::pause_without_device;
+
+    open_wave();
+
+    EXPECT_EQ(notes_.players, 1);
 }
 
 }  // namespace

@@ -32,6 +32,17 @@ void limit_file_size() {
     std::_Exit(told ? 0 : 1);
 }
 
+/// The same for the right to delete it.
+[[noreturn]] void remove_without_the_right(const QString &path) {
+    constexpr uid_t nobody = 65534;
+    if (getuid() == 0 && setuid(nobody) != 0)
+        std::_Exit(2);
+    const auto failure = files::remove(path);
+    const bool told =
+        failure && failure->sentence.endsWith(QStringLiteral("fájl nem törölhető: nincs jogosultság a törléséhez."));
+    std::_Exit(told ? 0 : 1);
+}
+
 class FailingFiles : public testing::Test {
   protected:
     [[nodiscard]] QString in_folder(const QString &name) const { return folder_.filePath(name); }
@@ -99,6 +110,30 @@ TEST_F(FailingFiles, leaves_the_old_file_whole_when_the_process_is_killed_in_the
         testing::KilledBySignal(SIGXFSZ), "");
 
     EXPECT_EQ(read_file(path), "old:régi\r\n");
+}
+
+TEST_F(FailingFiles, deletes_a_link_and_not_what_it_leads_to) {
+    write_file(in_folder(QStringLiteral("hang.wav")), "RIFF");
+    for (const char *target : {"hang.wav", "nincs.wav"}) {
+        const QString link = in_folder(QStringLiteral("hanghoz.wav"));
+        ASSERT_TRUE(QFile::link(in_folder(QString::fromLatin1(target)), link));
+
+        EXPECT_FALSE(files::remove(link));
+
+        EXPECT_FALSE(QFileInfo(link).isSymLink()) << target;
+    }
+    EXPECT_TRUE(QFile::exists(in_folder(QStringLiteral("hang.wav"))));
+}
+
+TEST_F(FailingFiles, says_that_the_right_to_delete_is_missing_in_a_read_only_folder) {
+    const QString path = in_folder(QStringLiteral("hang.wav"));
+    write_file(path, "RIFF");
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x5555));
+
+    EXPECT_EXIT(remove_without_the_right(path), testing::ExitedWithCode(0), "");
+
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x7777));
+    EXPECT_TRUE(QFile::exists(path));
 }
 
 }  // namespace

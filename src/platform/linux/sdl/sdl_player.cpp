@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -18,8 +19,13 @@ constexpr int buffer = 2048;
 constexpr int music_volume = MIX_MAX_VOLUME * 60 / 100;
 constexpr int once = 1;
 constexpr int any_channel = -1;
-/// A wave is decoded whole, and the mixer's form may take sixteen times its bytes.
-constexpr qint64 largest_wave = qint64{128} * 1024 * 1024;
+constexpr qint64 mebibyte = 1LL << 20;
+/// A wave is read whole and brought into the mixer's form whole, in which it may take 25 minutes.
+constexpr qint64 largest_wave = 128 * mebibyte;
+constexpr qint64 largest_mixer_sound = 2 * largest_wave;
+/// A piece of an hour takes a tenth of it. The synthesizer works through all that a piece says at one moment before
+/// anything else can be asked of it.
+constexpr qint64 largest_piece = mebibyte;
 
 /// Where Debian, Fedora and Arch put what their packages of General MIDI sounds agree on, then single fonts.
 const QStringList sound_fonts{
@@ -43,10 +49,59 @@ void choose_sound_font() {
     }
 }
 
+using Samples = std::unique_ptr<Uint8, void (*)(void *)>;
+
+/// Sound in the mixer's form; `samples` is null when there is none.
+struct MixerSound {
+    Samples samples{nullptr, SDL_free};
+    Uint32 size = 0;
+};
+
+/// Brings `size` bytes of a wave into the mixer's form. The mixer would do so itself, but it reckons the room for it
+/// with 32 bits, and writes beyond it where a slow wave grows a lot.
+MixerSound in_mixer_form(const SDL_AudioSpec &form, const Uint8 *wave, Uint32 size) {
+    int frequency = 0;
+    Uint16 format = 0;
+    int channels = 0;
+    SDL_AudioCVT conversion;
+    if (Mix_QuerySpec(&frequency, &format, &channels) == 0 ||
+        SDL_BuildAudioCVT(&conversion, form.format, form.channels, form.freq, format, static_cast<Uint8>(channels),
+                          frequency) < 0)
+        return {};
+    const Uint32 frame = SDL_AUDIO_BITSIZE(form.format) / 8U * form.channels;
+    const qint64 whole_frames = size - size % frame;
+    const qint64 room = whole_frames * conversion.len_mult;
+    if (whole_frames == 0 || room > std::numeric_limits<int>::max() ||
+        static_cast<double>(whole_frames) * conversion.len_ratio > static_cast<double>(largest_mixer_sound))
+        return {};
+    MixerSound sound{Samples(static_cast<Uint8 *>(SDL_malloc(static_cast<size_t>(room))), SDL_free)};
+    if (!sound.samples)
+        return {};
+    conversion.buf = sound.samples.get();
+    conversion.len = static_cast<int>(whole_frames);
+    SDL_memcpy(conversion.buf, wave, static_cast<size_t>(whole_frames));
+    if (SDL_ConvertAudio(&conversion) != 0)
+        return {};
+    sound.size = static_cast<Uint32>(conversion.len_cvt);
+    return sound;
+}
+
+MixerSound read_wave(const QByteArray &name) {
+    SDL_AudioSpec form;
+    Uint8 *wave = nullptr;
+    Uint32 size = 0;
+    if (!SDL_LoadWAV(name.constData(), &form, &wave, &size))
+        return {};
+    MixerSound sound = in_mixer_form(form, wave, size);
+    SDL_FreeWAV(wave);
+    return sound;
+}
+
 /// A wave, which is decoded when it is opened.
 class Wave final : public Sound {
   public:
-    explicit Wave(Mix_Chunk *chunk) : chunk_(chunk) {}
+    explicit Wave(MixerSound sound)
+        : sound_(std::move(sound)), chunk_(Mix_QuickLoad_RAW(sound_.samples.get(), sound_.size)) {}
     ~Wave() override {
         silence();
         Mix_FreeChunk(chunk_);
@@ -70,6 +125,7 @@ class Wave final : public Sound {
         channel_ = -1;
     }
 
+    const MixerSound sound_;
     Mix_Chunk *const chunk_;
     int channel_ = -1;
 };
@@ -102,6 +158,26 @@ class Piece final : public Sound {
     static inline const Piece *heard_ = nullptr;
 };
 
+/// Opens a device, by way of the driver that SDL finds or is told.
+bool open_audio() {
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
+        return false;
+    // What a file is not in, it is brought into.
+    if (Mix_OpenAudio(rate, MIX_DEFAULT_FORMAT, stereo, buffer) == 0)
+        return true;
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    return false;
+}
+
+/// Opens a device that nobody hears, which takes as long for a sound as a real one.
+bool open_silent_audio() {
+    SDL_SetHintWithPriority(SDL_HINT_AUDIODRIVER, "dummy", SDL_HINT_OVERRIDE);
+    const bool open = open_audio();
+    // The next attempt looks for a real one.
+    SDL_ResetHint(SDL_HINT_AUDIODRIVER);
+    return open;
+}
+
 }  // namespace
 
 std::unique_ptr<SdlPlayer> SdlPlayer::open_device() {
@@ -110,16 +186,12 @@ std::unique_ptr<SdlPlayer> SdlPlayer::open_device() {
     // Under this name the volume control of the desktop shows it.
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Zimbora");
     snd_lib_error_set_handler(say_nothing);
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
+    const bool silent = !open_audio();
+    if (silent && !open_silent_audio())
         return nullptr;
-    // What a file is not in, the mixer converts.
-    if (Mix_OpenAudio(rate, MIX_DEFAULT_FORMAT, stereo, buffer) != 0) {
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
-        return nullptr;
-    }
     choose_sound_font();
     Mix_VolumeMusic(music_volume);
-    return std::unique_ptr<SdlPlayer>(new SdlPlayer);
+    return std::unique_ptr<SdlPlayer>(new SdlPlayer(silent));
 }
 
 SdlPlayer::~SdlPlayer() {
@@ -129,12 +201,12 @@ SdlPlayer::~SdlPlayer() {
 
 std::unique_ptr<Sound> SdlPlayer::open(SoundType type, const QString &path) {
     const QByteArray name = QFile::encodeName(path);
+    if (QFileInfo(path).size() > (type == SoundType::midi ? largest_piece : largest_wave))
+        return nullptr;
     if (type == SoundType::midi) {
         auto piece = std::make_unique<Piece>(Mix_LoadMUS(name.constData()));
         return piece->is_midi() ? std::move(piece) : nullptr;
     }
-    if (QFileInfo(path).size() > largest_wave)
-        return nullptr;
-    Mix_Chunk *const chunk = Mix_LoadWAV(name.constData());
-    return chunk ? std::make_unique<Wave>(chunk) : nullptr;
+    MixerSound sound = read_wave(name);
+    return sound.samples ? std::make_unique<Wave>(std::move(sound)) : nullptr;
 }

@@ -6,12 +6,16 @@
 /// that waves are heard above it. One object a process.
 class SdlPlayer final : public SoundPlayer {
   public:
-    /// Opens the sound device; null when there is none.
+    /// Opens the sound device, or one that is silent where there is none; null when the library fails.
     [[nodiscard]] static std::unique_ptr<SdlPlayer> open_device();
     ~SdlPlayer() override;
 
     [[nodiscard]] std::unique_ptr<Sound> open(SoundType type, const QString &path) override;
 
+    [[nodiscard]] bool silent() const override { return silent_; }
+
   private:
-    SdlPlayer() = default;
+    explicit SdlPlayer(bool silent) : silent_(silent) {}
+
+    const bool silent_;
 };

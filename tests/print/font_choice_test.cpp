@@ -1,0 +1,35 @@
+#include "print/font_choice.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The index that is chosen of fonts separated by ";"; those that end with "Serif" have serifs.
+int choice(const char *fonts) {
+    const QString list = QString::fromUtf8(fonts);
+    return választott_betűtípus(list.isEmpty() ? QStringList() : list.split(u';'),
+                                [](const QString &font) { return font.endsWith(QStringLiteral("Serif")); });
+}
+
+TEST(FontChoice, is_times_new_roman_ce_where_there_is_one) {
+    EXPECT_EQ(choice("A Serif;Times New Roman;Times New Roman CE;Z"), 2);
+}
+
+TEST(FontChoice, is_times_new_roman_where_the_central_european_one_is_missing) {
+    EXPECT_EQ(choice("A Serif;B;Times New Roman;Z"), 2);
+}
+
+TEST(FontChoice, is_the_first_serif_face_where_both_are_missing) {
+    EXPECT_EQ(choice("A Sans;B Sans;C Serif;D Serif"), 2);
+    EXPECT_EQ(choice("times new roman;Times New Roman CE bold;C Serif"), 2);
+}
+
+TEST(FontChoice, is_the_first_face_where_none_has_serifs) {
+    EXPECT_EQ(choice("A Sans;B Sans"), 0);
+}
+
+TEST(FontChoice, is_none_where_there_is_no_font) {
+    EXPECT_EQ(choice(""), -1);
+}
+
+}  // namespace

@@ -1,0 +1,131 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <memory>
+
+#include "print/print_settings_window.h"
+#include "support/fake_dialogs.h"
+#include "support/fake_printers.h"
+#include "support/files_for_tests.h"
+#include "support/printing.h"
+#include "support/window_checks.h"
+#include "support/word_pairs.h"
+
+class PrintedListForTests final : public nyomtatottszószedet {
+  public:
+    QVector<szópár> pairs;
+
+    [[nodiscard]] const QVector<szópár> &párok() const override { return pairs; }
+};
+
+/// The print settings with printers, dialogs, a store and a clock of the test's own.
+class PrintTest : public testing::Test {
+  protected:
+    PrintTest() {
+        reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+        main_window_.háttérszínbeállít(Qt::cyan);
+        list_.pairs = numbered_pairs(3);
+        state_.programkönyvtár = root_.path();
+        printers_.installed = {QStringLiteral("First"), QStringLiteral("Second")};
+    }
+
+    void load() {
+        window_ = std::make_unique<frm_nyomtatás>(
+            nyomtatáskörnyezet{list_, state_, fitting_, main_window_, settings_, boxes_, dialogs_, printers_, [this] {
+                                   time_ += time_step_;
+                                   return time_;
+                               }});
+    }
+    void start() {
+        load();
+        window_->show();
+        QApplication::setActiveWindow(window_.get());
+    }
+
+    [[nodiscard]] QComboBox *printers() const { return control<QComboBox>(*window_, "list_nyomtatók"); }
+    [[nodiscard]] QComboBox *fonts() const { return control<QComboBox>(*window_, "list_betűtípus"); }
+    [[nodiscard]] QSpinBox *spin(const char *name) const { return control<QSpinBox>(*window_, name); }
+    [[nodiscard]] QCheckBox *check(const char *name) const { return control<QCheckBox>(*window_, name); }
+    [[nodiscard]] QRadioButton *option(const char *name) const { return control<QRadioButton>(*window_, name); }
+    [[nodiscard]] QString label(const char *name) const { return control<QLabel>(*window_, name)->text(); }
+    [[nodiscard]] PictureBox *sample(int i) const {
+        return control<PictureBox>(*window_, QStringLiteral("pic_minta(%1)").arg(i));
+    }
+    [[nodiscard]] static QStringList entries(const QComboBox *box) {
+        QStringList all;
+        for (int i = 0; i < box->count(); ++i)
+            all.append(box->itemText(i));
+        return all;
+    }
+
+    /// Clicks a button, or the circle or box of an option.
+    void click(const char *name) {
+        auto *button = control<QAbstractButton>(*window_, name);
+        const bool beside_text = !qobject_cast<QPushButton *>(button);
+        QTest::mouseClick(button, Qt::LeftButton, {}, beside_text ? QPoint(10, button->height() / 2) : QPoint());
+    }
+    /// Chooses an entry with the keyboard.
+    static void choose(QComboBox *box, const char *text) {
+        const int wanted = box->findText(QString::fromUtf8(text));
+        ASSERT_GE(wanted, 0) << text;
+        while (box->currentIndex() != wanted)
+            QTest::keyClick(box, box->currentIndex() < wanted ? Qt::Key_Down : Qt::Key_Up);
+    }
+
+    [[nodiscard]] QString stored(const char *key) const {
+        return settings_
+            .beállításolvas(ablak(QStringLiteral("frm_nyomtatás")), QString::fromUtf8(key), QStringLiteral("(nothing)"))
+            .toString();
+    }
+    void store(const char *key, const QVariant &value) {
+        settings_.beállításment(ablak(QStringLiteral("frm_nyomtatás")), QString::fromUtf8(key), value);
+    }
+    /// The seven settings as they lie in the store.
+    [[nodiscard]] QStringList all_stored() const {
+        QStringList all;
+        for (const char *key : {"nyomtato", "betutip", "dolt", "felkover", "betumeret", "hasabszam", "tajolas"})
+            all.append(stored(key));
+        return all;
+    }
+    [[nodiscard]] bool nothing_is_stored() const { return all_stored() == QStringList(7, QStringLiteral("(nothing)")); }
+
+    /// What the window shows of its settings.
+    [[nodiscard]] QStringList shown() const {
+        return {printers()->currentText(),
+                fonts()->currentText(),
+                check("Check_dőlt")->isChecked() ? QStringLiteral("italic") : QString(),
+                check("Check_félkövér")->isChecked() ? QStringLiteral("bold") : QString(),
+                QString::number(spin("UpDown_betűméret")->value()),
+                QString::number(spin("UpDown_hasábszám")->value()),
+                option("Option_tájolás(0)")->isChecked() ? QStringLiteral("portrait") : QStringLiteral("landscape")};
+    }
+
+    [[nodiscard]] QString place(const char *name) const { return root_.filePath(QString::fromUtf8(name)); }
+
+    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    QRectF screen_{0, 0, 1024 * 15, 768 * 15};
+    frm_referencia reference_;
+    ablak main_window_{QStringLiteral("szótár")};
+    Module_hasznos fitting_{reference_, [this] { return screen_; }};
+    PrintedListForTests list_;
+    global::programállapot state_;
+    global::beállítástár settings_{root_.filePath(QStringLiteral("settings.ini"))};
+    FakeMessageBoxes boxes_;
+    FakeFileDialogs dialogs_;
+    FakePrinters printers_;
+    std::chrono::milliseconds time_{0};
+    /// How long it takes until the clock is looked at again.
+    std::chrono::milliseconds time_step_{0};
+    std::unique_ptr<frm_nyomtatás> window_;
+};
