@@ -117,8 +117,8 @@ test_a_turned_list_stands_on_the_middle_of_the_turned_page() {
     list_of_seven
     start_program "$lists/$title.szs"
     open_print_settings
-    # When: over ten controls to the orientation
-    press Tab Tab Tab Tab Tab Tab Tab Tab Tab Down Tab Tab Tab
+    # When: over eight controls to the orientation, and on to "Nyomtat"
+    press Tab Tab Tab Tab Tab Tab Tab Tab Tab Right Tab Tab
     print_into_file "$lists/out.pdf"
     # Then
     wait_for_main_window
@@ -126,7 +126,7 @@ test_a_turned_list_stands_on_the_middle_of_the_turned_page() {
     expect_middles "$lists/out.pdf" x - 421 421 421 421 421 421 421
 }
 
-test_pairs_are_printed_one_a_page_into_a_pdf_file_and_through_a_queue() {
+test_pairs_are_printed_one_a_page_through_a_queue_and_into_a_pdf_file() {
     # Given
     start_cups
     list_of_two
@@ -134,11 +134,11 @@ test_pairs_are_printed_one_a_page_into_a_pdf_file_and_through_a_queue() {
     open_print_settings
     choose_kind 1
     # When
-    print_into_file "$lists/out.pdf"
+    press Return
     wait_for_main_window
     open_print_settings
     choose_kind 1
-    press Return
+    print_into_file "$lists/out.pdf"
     wait_for_main_window
     # Then: a line stands in the middle, so its hyphen lies where the widths of its words say, and both lines are as high
     expect_pages "$lists/out.pdf" 2
