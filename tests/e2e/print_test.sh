@@ -236,9 +236,8 @@ test_what_was_chosen_is_there_after_a_restart() {
     list_of_seven
     start_program "$lists/$title.szs"
     open_print_settings
-    # When: bold, and three columns
-    press Tab Tab Tab Tab Tab space Tab Tab Up Up
-    press Tab Tab Tab Tab
+    # When: another font, italic, bold, a larger size, three columns, turned paper
+    press Tab Tab Tab Home Tab space Tab space Tab Up Tab Up Up Tab Tab Right Tab Tab
     print_into_file "$lists/first.pdf"
     wait_for_main_window
     press alt+F4
@@ -249,9 +248,9 @@ test_what_was_chosen_is_there_after_a_restart() {
     name_file "Mentés másként" "$lists/second.pdf"
     wait_until "the PDF file" test -s "$lists/second.pdf"
     # Then
-    expect_middles "$lists/second.pdf" x - 153.75 297.5 441.25 153.75 297.5 441.25 153.75
+    expect_middles "$lists/second.pdf" x - 215.5 421 626.5 215.5 421 626.5 215.5
     cmp <(words_of "$lists/first.pdf") <(words_of "$lists/second.pdf") || fail "The second print-out is another one."
-    pdffonts "$lists/second.pdf" | grep -qi bold || fail "The second print-out is not bold."
+    pdffonts "$lists/second.pdf" | grep -qiE '(bold|bd).*(ita|obl)' || fail "The second print-out is not bold and italic."
 }
 
 run_tests "$@"
