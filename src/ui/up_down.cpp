@@ -1,9 +1,8 @@
 #include "ui/up_down.h"
 
 #include <QLineEdit>
-#include <QStyleOptionFocusRect>
+#include <QStyle>
 #include <QStyleOptionSpinBox>
-#include <QStylePainter>
 
 UpDown::UpDown() {
     // The keys go to the control itself, not to a field into which nothing can be written.
@@ -11,16 +10,12 @@ UpDown::UpDown() {
     lineEdit()->hide();
 }
 
-void UpDown::paintEvent(QPaintEvent *) {
-    QStylePainter painter(this);
+void UpDown::resizeEvent(QResizeEvent *event) {
+    QSpinBox::resizeEvent(event);
     QStyleOptionSpinBox option;
     initStyleOption(&option);
-    option.subControls = QStyle::SC_SpinBoxUp | QStyle::SC_SpinBoxDown;
-    painter.drawComplexControl(QStyle::CC_SpinBox, option);
-    if (!hasFocus())
-        return;
-    QStyleOptionFocusRect focus;
-    focus.initFrom(this);
-    focus.rect = rect();
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    const QRect arrows = style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, this) |
+                         style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxDown, this);
+    // Up to the frame on the outer side.
+    setMask(QRect(arrows.left(), 0, width() - arrows.left(), height()));
 }

@@ -2,12 +2,13 @@
 
 #include <QSpinBox>
 
-/// An up-down control: two arrows that count a value, which a label beside it tells. It shows no text itself.
+/// An up-down control: two arrows that count a value, which a label beside it tells. It shows no text itself, and of
+/// the toolkit's control only the arrows.
 class UpDown final : public QSpinBox {
   public:
     UpDown();
 
   protected:
     [[nodiscard]] QString textFromValue(int) const override { return {}; }
-    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 };

@@ -117,8 +117,8 @@ test_a_turned_list_stands_on_the_middle_of_the_turned_page() {
     list_of_seven
     start_program "$lists/$title.szs"
     open_print_settings
-    # When: over ten controls to the orientation
-    press Tab Tab Tab Tab Tab Tab Tab Tab Tab Down Tab Tab Tab
+    # When: over eight controls to the orientation, and on to "Nyomtat"
+    press Tab Tab Tab Tab Tab Tab Tab Tab Tab Right Tab Tab
     print_into_file "$lists/out.pdf"
     # Then
     wait_for_main_window
@@ -126,7 +126,7 @@ test_a_turned_list_stands_on_the_middle_of_the_turned_page() {
     expect_middles "$lists/out.pdf" x - 421 421 421 421 421 421 421
 }
 
-test_pairs_are_printed_one_a_page_into_a_pdf_file_and_through_a_queue() {
+test_pairs_are_printed_one_a_page_through_a_queue_and_into_a_pdf_file() {
     # Given
     start_cups
     list_of_two
@@ -134,11 +134,11 @@ test_pairs_are_printed_one_a_page_into_a_pdf_file_and_through_a_queue() {
     open_print_settings
     choose_kind 1
     # When
-    print_into_file "$lists/out.pdf"
+    press Return
     wait_for_main_window
     open_print_settings
     choose_kind 1
-    press Return
+    print_into_file "$lists/out.pdf"
     wait_for_main_window
     # Then: a line stands in the middle, so its hyphen lies where the widths of its words say, and both lines are as high
     expect_pages "$lists/out.pdf" 2
@@ -236,9 +236,8 @@ test_what_was_chosen_is_there_after_a_restart() {
     list_of_seven
     start_program "$lists/$title.szs"
     open_print_settings
-    # When: bold, and three columns
-    press Tab Tab Tab Tab Tab space Tab Tab Up Up
-    press Tab Tab Tab Tab
+    # When: another font, italic, bold, a larger size, three columns, turned paper
+    press Tab Tab Tab Home Tab space Tab space Tab Up Tab Up Up Tab Tab Right Tab Tab
     print_into_file "$lists/first.pdf"
     wait_for_main_window
     press alt+F4
@@ -249,9 +248,9 @@ test_what_was_chosen_is_there_after_a_restart() {
     name_file "Mentés másként" "$lists/second.pdf"
     wait_until "the PDF file" test -s "$lists/second.pdf"
     # Then
-    expect_middles "$lists/second.pdf" x - 153.75 297.5 441.25 153.75 297.5 441.25 153.75
+    expect_middles "$lists/second.pdf" x - 215.5 421 626.5 215.5 421 626.5 215.5
     cmp <(words_of "$lists/first.pdf") <(words_of "$lists/second.pdf") || fail "The second print-out is another one."
-    pdffonts "$lists/second.pdf" | grep -qi bold || fail "The second print-out is not bold."
+    pdffonts "$lists/second.pdf" | grep -qiE '(bold|bd).*(ita|obl)' || fail "The second print-out is not bold and italic."
 }
 
 run_tests "$@"
