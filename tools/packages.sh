@@ -21,6 +21,9 @@ test_packages=(
 # What making and checking the Debian package takes.
 deb_packages=(dpkg-dev file lintian desktop-file-utils appstream)
 # What building for Windows takes besides.
-windows_packages=(g++-mingw-w64-x86-64-posix dpkg-dev xz-utils icoutils debian-archive-keyring ca-certificates)
+windows_packages=(
+    g++-mingw-w64-x86-64-posix dpkg-dev xz-utils icoutils debian-archive-keyring ca-certificates
+    nsis imagemagick
+)
 # What the tests of that build take besides.
-windows_test_packages=(wine64 googletest)
+windows_test_packages=(wine64 googletest unzip)

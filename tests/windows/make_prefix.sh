@@ -12,5 +12,7 @@ mkdir -p "$(dirname "$prefix")"
 use_prefix "$unfinished"
 unset DISPLAY
 "$wine" wineboot --init >"$prefix.log" 2>&1 || { cat "$prefix.log" >&2; exit 1; }
+# The oldest Windows that the program is for.
+"$wine" winecfg -v win10 >>"$prefix.log" 2>&1
 "$wineserver" --wait
 mv "$unfinished" "$prefix"

@@ -4,83 +4,14 @@
 # files and settings there.
 set -euo pipefail
 here=$(dirname "$(realpath "$0")")
-source "$here/wine.sh"
-source "$here/../e2e/lib.sh"
-source "$here/../e2e/exercise_lib.sh"
+source "$here/lib.sh"
 
-readonly settings_key='HKCU\Software\Zimbora\szotar'
-
-set_up_windows() {
-    unset DISPLAY WAYLAND_DISPLAY ZIMBORA_C ZIMBORA_PROGRAM
-    export LC_ALL=C.UTF-8
-    use_prefix "$prefix"
-    temp=$(mktemp -d /tmp/zimbora_e2e_XXXXXX)
-    children=()
-    trap tidy_up_windows EXIT
-    trap 'exit 1' INT TERM HUP
-    drive=$prefix/drive_c
-    lists='C:\lists'
-    forget_former_runs
-    mkdir "$drive/lists"
+set_up() {
+    set_up_windows
     cp -r "$program_folder" "$drive/Zimbora"
     cp -r "${program_folder}kavaro" "$drive/Zimborakavaro"
     cp "${program_folder}null.wav" "$drive/Zimboranull.wav"
-    binary=$temp/zimbora
-    printf '#!/bin/sh\nexec %q %q "$@"\n' "$wine" 'C:\Zimbora\zimbora.exe' >"$binary"
-    chmod +x "$binary"
-}
-
-forget_former_runs() {
-    rm -rf "$drive"/{lists,Zimbora,Zimborakavaro,Zimboranull.wav,zbrmk,zbrmkfnh.ini}
-    "$wine" reg delete 'HKCU\Software\Zimbora' /f >/dev/null 2>&1 || true
-}
-
-tidy_up_windows() {
-    local status=$?
-    set +e
-    if ((status != 0)); then
-        show_what_was_seen
-    fi
-    "$wineserver" --kill
-    "$wineserver" --wait
-    end_children
-    rm -rf "$temp"
-    exit "$status"
-}
-
-# unix_path <path on drive C>
-unix_path() {
-    local path=${1#C:}
-    echo "$drive${path//\\//}"
-}
-
-# Keys that come faster than Wine hands them on are lost.
-press() {
-    xdotool key --delay 100 "$@"
-}
-
-main_window_names() {
-    [[ $(xdotool getwindowname "$main_window") == "$(title_of_list "$1")" ]]
-}
-
-# save_in_dialog <path>: the dialog is the system's own, which selects the proposed name when it is ready.
-save_in_dialog() {
-    press alt+f m
-    wait_for_title "Mentés másként"
-    press ctrl+a
-    write "$1"
-    press Return
-    wait_until "the saved list" main_window_names "$1"
-    # On Windows the window behind the dialog is in front again by itself.
-    xdotool windowactivate --sync "$main_window"
-}
-
-setting() {
-    "$wine" reg query "$settings_key\\$1" /v "$2" 2>/dev/null | tr -d '\r' | awk -v key="$2" '$1 == key { print $3 }'
-}
-
-setting_is() {
-    [[ $(setting "$1" "$2") == "$3" ]]
+    use_program 'C:\Zimbora\zimbora.exe'
 }
 
 test_the_main_job_ends_with_the_exact_bytes_in_the_file() {
@@ -194,24 +125,5 @@ leave_puzzle() {
     expect_end_with_success
 }
 
-run_windows_tests() {
-    local one failed=0 all
-    prefix=$(realpath "$1")
-    program_folder=$(realpath "$2")
-    shift 2
-    if (($# == 1)); then
-        name=$1
-        declare -F "$name" >/dev/null || fail "No such test: $name"
-        set_up_windows
-        start_screen
-        "$name"
-        return
-    fi
-    mapfile -t all < <(declare -F | sed -n 's/^declare -f \(test_.*\)/\1/p')
-    for one in "${@:-${all[@]}}"; do
-        "$0" "$prefix" "$program_folder" "$one" && echo "ok $one" || failed=1
-    done
-    return "$failed"
-}
-
+program_folder=$(realpath "$2")
 run_windows_tests "$@"

@@ -1,0 +1,241 @@
+; The installer: for the user who runs it, so that no administrator is needed. make_packages.sh gives
+;   VERSION  the program's version
+;   FILES    file with the macros install_files and remove_files
+;   SIZE     of what is installed, in KiB
+;   ICON, PICTURE, OUTPUT  paths of the icon, the picture at the side of the first page, and the installer
+; "/S" installs without questions, "/D=<folder>" into another folder. The exit code is 2 when nothing was done because
+; the program is running.
+Unicode true
+Target amd64-unicode
+SetCompressor /SOLID lzma
+RequestExecutionLevel user
+ManifestDPIAware true
+ManifestSupportedOS Win10
+
+!include LogicLib.nsh
+!include MUI2.nsh
+!include WinVer.nsh
+!include "${FILES}"
+
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Zimbora"
+!define CLASSES "Software\Classes"
+!define LIST_CLASS "Zimbora.WordList"
+!define UNINSTALLER "Eltávolítás.exe"
+!define PROGRAM "$INSTDIR\program\zimbora.exe"
+!define SHORTCUT "$SMPROGRAMS\Zimbora.lnk"
+
+Name "Zimbora"
+OutFile "${OUTPUT}"
+InstallDir "$LOCALAPPDATA\Programs\Zimbora"
+InstallDirRegKey HKCU "${UNINSTALL_KEY}" InstallLocation
+BrandingText "Zimbora ${VERSION}"
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
+!define MUI_UNWELCOMEFINISHPAGE_BITMAP "${PICTURE}"
+!define MUI_ABORTWARNING
+
+!define MUI_WELCOMEPAGE_TITLE "A Zimbora ${VERSION} telepítése"
+!define MUI_WELCOMEPAGE_TEXT "Angol–magyar, magyar–angol szótár és szótanuló program.$\r$\n$\r$\n\
+A telepítéshez nem kell rendszergazdai jog: a program csak az Ön felhasználói fiókjába kerül. \
+A szószedetei és a beállításai frissítéskor megmaradnak.$\r$\n$\r$\n$_CLICK"
+!insertmacro MUI_PAGE_WELCOME
+!define MUI_PAGE_CUSTOMFUNCTION_LEAVE check_folder
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!define MUI_FINISHPAGE_TITLE "A Zimbora telepítése kész"
+!define MUI_FINISHPAGE_TEXT "A programot a start menüből, a szószedeteit (.szs) dupla kattintással is megnyithatja."
+!define MUI_FINISHPAGE_RUN "${PROGRAM}"
+!define MUI_FINISHPAGE_RUN_TEXT "A Zimbora indítása"
+!insertmacro MUI_PAGE_FINISH
+
+!define MUI_COMPONENTSPAGE_NODESC
+!define MUI_PAGE_HEADER_TEXT "A Zimbora eltávolítása"
+!define MUI_PAGE_HEADER_SUBTEXT "A szószedetei és a saját hangjai, zenéi megmaradnak."
+!define MUI_COMPONENTSPAGE_TEXT_TOP "Az „Eltávolítás” gomb eltávolítja a programot és a szótárakat. A beállításait csak akkor \
+törli, ha az is be van jelölve."
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST "Ami törlődik:"
+!define MUI_PAGE_CUSTOMFUNCTION_SHOW un.hide_space_needed
+!insertmacro MUI_UNPAGE_COMPONENTS
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "Hungarian"
+
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey /LANG=${LANG_HUNGARIAN} "ProductName" "Zimbora"
+VIAddVersionKey /LANG=${LANG_HUNGARIAN} "ProductVersion" "${VERSION}"
+VIAddVersionKey /LANG=${LANG_HUNGARIAN} "FileDescription" "A Zimbora angol-magyar szótár telepítője"
+VIAddVersionKey /LANG=${LANG_HUNGARIAN} "FileVersion" "${VERSION}"
+VIAddVersionKey /LANG=${LANG_HUNGARIAN} "LegalCopyright" "GNU GPL 3"
+
+; The system locks the file of a program that runs.
+!macro require_program_not_running
+  ${Do}
+    ${IfNot} ${FileExists} "${PROGRAM}"
+      ${Break}
+    ${EndIf}
+    ClearErrors
+    FileOpen $0 "${PROGRAM}" a
+    ${IfNot} ${Errors}
+      FileClose $0
+      ${Break}
+    ${EndIf}
+    ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "A Zimbora fut, vagy a fájlja nem írható. \
+        Lépjen ki belőle, és próbálja újra." /SD IDCANCEL IDCANCEL`
+      Abort "A Zimbora fut, ezért semmi sem változott."
+    ${EndIf}
+  ${Loop}
+!macroend
+
+!macro tell_desktop_of_file_types
+  ; SHCNE_ASSOCCHANGED
+  System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
+!macroend
+
+Function .onInit
+  ${IfNot} ${AtLeastWin10}
+    MessageBox MB_OK|MB_ICONSTOP "A Zimborához Windows 10 vagy újabb kell." /SD IDOK
+    Abort
+  ${EndIf}
+FunctionEnd
+
+; The program keeps lists in its folder, and takes no list into a folder whose name has a full stop.
+Function check_folder
+  ClearErrors
+  CreateDirectory "$INSTDIR"
+  GetTempFileName $0 "$INSTDIR"
+  ${If} ${Errors}
+    MessageBox MB_OK|MB_ICONEXCLAMATION "Ebbe a mappába nem írhat: $INSTDIR$\r$\n$\r$\nVálasszon másikat."
+    Abort
+  ${EndIf}
+  Delete $0
+  ; Stays when it was there.
+  RMDir "$INSTDIR"
+  StrCpy $1 0
+  ${Do}
+    StrCpy $2 "$INSTDIR" 1 $1
+    ${If} $2 == ""
+      ${Break}
+    ${EndIf}
+    ${If} $2 == "."
+      ${If} ${Cmd} `MessageBox MB_OKCANCEL|MB_ICONINFORMATION "A mappa nevében pont van: $INSTDIR$\r$\n$\r$\nA program az \
+          ilyen mappába nem tud szószedetet menteni; azokat máshová kell majd mentenie. Így is ide telepíti?" IDCANCEL`
+        Abort
+      ${EndIf}
+      ${Break}
+    ${EndIf}
+    IntOp $1 $1 + 1
+  ${Loop}
+FunctionEnd
+
+Function un.hide_space_needed
+  FindWindow $0 "#32770" "" $HWNDPARENT
+  GetDlgItem $0 $0 1023
+  ShowWindow $0 ${SW_HIDE}
+FunctionEnd
+
+Section
+  !insertmacro require_program_not_running
+
+  ; A former version may have parts that this one lacks, or lie elsewhere.
+  ReadRegStr $1 HKCU "${UNINSTALL_KEY}" InstallLocation
+  ${If} ${FileExists} "$1\${UNINSTALLER}"
+    ExecWait '"$1\${UNINSTALLER}" /S _?=$1' $2
+    ${If} $2 <> 0
+      Abort "Az előző változat nem távolítható el, ezért semmi sem változott."
+    ${EndIf}
+    Delete "$1\${UNINSTALLER}"
+    RMDir "$1"
+  ${EndIf}
+
+  !insertmacro install_files
+  SetOutPath "$INSTDIR"
+  WriteUninstaller "$INSTDIR\${UNINSTALLER}"
+
+  ; The working folder of the shortcut.
+  SetOutPath "$INSTDIR\program"
+  CreateShortcut "${SHORTCUT}" "${PROGRAM}" "" "" "" "" "" "Angol–magyar szótár és szótanuló"
+
+  ; What opened word lists before does so again after the removal.
+  ReadRegStr $1 HKCU "${CLASSES}\.szs" ""
+  ${If} $1 != ""
+  ${AndIf} $1 != "${LIST_CLASS}"
+    WriteRegStr HKCU "${CLASSES}\.szs" "Zimbora.Former" "$1"
+  ${EndIf}
+  WriteRegStr HKCU "${CLASSES}\.szs" "" "${LIST_CLASS}"
+  WriteRegStr HKCU "${CLASSES}\.szs\OpenWithProgids" "${LIST_CLASS}" ""
+  WriteRegStr HKCU "${CLASSES}\${LIST_CLASS}" "" "Zimbora szószedet"
+  WriteRegStr HKCU "${CLASSES}\${LIST_CLASS}\DefaultIcon" "" "${PROGRAM},0"
+  WriteRegStr HKCU "${CLASSES}\${LIST_CLASS}\shell\open\command" "" '"${PROGRAM}" "%1"'
+  !insertmacro tell_desktop_of_file_types
+
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "Zimbora"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "${PROGRAM},0"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "Zimbora"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\${UNINSTALLER}"'
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\${UNINSTALLER}" /S'
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" ${SIZE}
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
+SectionEnd
+
+Section "un.A program és a szótárak"
+  SectionIn RO
+  !insertmacro require_program_not_running
+  !insertmacro remove_files
+  Delete "${SHORTCUT}"
+
+  ReadRegStr $1 HKCU "${CLASSES}\.szs" ""
+  ${If} $1 == "${LIST_CLASS}"
+    ReadRegStr $2 HKCU "${CLASSES}\.szs" "Zimbora.Former"
+    ${If} $2 == ""
+      DeleteRegValue HKCU "${CLASSES}\.szs" ""
+    ${Else}
+      WriteRegStr HKCU "${CLASSES}\.szs" "" "$2"
+    ${EndIf}
+  ${EndIf}
+  DeleteRegValue HKCU "${CLASSES}\.szs" "Zimbora.Former"
+  DeleteRegValue HKCU "${CLASSES}\.szs\OpenWithProgids" "${LIST_CLASS}"
+  DeleteRegKey /ifempty HKCU "${CLASSES}\.szs\OpenWithProgids"
+  DeleteRegKey /ifnosubkeys /ifnovalues HKCU "${CLASSES}\.szs"
+  DeleteRegKey HKCU "${CLASSES}\${LIST_CLASS}"
+  !insertmacro tell_desktop_of_file_types
+
+  DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  Delete "$INSTDIR\${UNINSTALLER}"
+SectionEnd
+
+; The files that the program keeps on drive C, or in its stand-in: see src/platform/drive_c.h.
+!macro remove_files_of_drive_c root
+  Delete "${root}\zbrmkfnh.ini"
+  Delete "${root}\zbrmk\angol\kisablak.ini"
+  Delete "${root}\zbrmk\kavaro\zenebeáll.ini"
+  RMDir "${root}\zbrmk\angol"
+  RMDir "${root}\zbrmk\kavaro"
+  RMDir "${root}\zbrmk"
+!macroend
+
+Section /o "un.A beállítások"
+  DeleteRegKey HKCU "Software\Zimbora\szotar"
+  DeleteRegKey /ifempty HKCU "Software\Zimbora"
+  Delete "$INSTDIR\program\kavaro\zenebeáll.ini"
+  Delete "$INSTDIR\program\kavaro\grathang.ini"
+  Delete "$INSTDIR\program\kavaro\helyeshang.ini"
+  Delete "$INSTDIR\program\kavaro\hibahang.ini"
+  !insertmacro remove_files_of_drive_c "C:"
+  !insertmacro remove_files_of_drive_c "$LOCALAPPDATA\Zimbora\c"
+  RMDir "$LOCALAPPDATA\Zimbora\c"
+  RMDir "$LOCALAPPDATA\Zimbora"
+SectionEnd
+
+; Last: the folders that nothing is left in.
+Section -un.
+  RMDir "$INSTDIR\program\kavaro"
+  RMDir "$INSTDIR\program"
+  RMDir "$INSTDIR"
+  ${If} ${FileExists} "$INSTDIR\program\*.szs"
+    MessageBox MB_OK|MB_ICONINFORMATION "A szószedetei itt maradtak:$\r$\n$INSTDIR\program" /SD IDOK
+  ${EndIf}
+SectionEnd
