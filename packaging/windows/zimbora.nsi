@@ -35,12 +35,16 @@ BrandingText "Zimbora ${VERSION}"
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_UNWELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_ABORTWARNING
+!define MUI_ABORTWARNING_TEXT "Kilép a telepítőből? A Zimbora még nincs telepítve."
 
 !define MUI_WELCOMEPAGE_TITLE "A Zimbora ${VERSION} telepítése"
 !define MUI_WELCOMEPAGE_TEXT "Angol–magyar, magyar–angol szótár és szótanuló program.$\r$\n$\r$\n\
 A telepítéshez nem kell rendszergazdai jog: a program csak az Ön felhasználói fiókjába kerül. \
 A szószedetei és a beállításai frissítéskor megmaradnak.$\r$\n$\r$\n$_CLICK"
 !insertmacro MUI_PAGE_WELCOME
+!define MUI_PAGE_HEADER_SUBTEXT "Válassza ki, melyik mappába kerüljön a Zimbora."
+!define MUI_DIRECTORYPAGE_TEXT_TOP "A program a szószedeteket elsőként ennek a mappának a „program” almappájába ajánlja \
+menteni, ezért olyan mappát válasszon, amelybe írhat, és amelynek a nevében nincs pont."
 !define MUI_PAGE_CUSTOMFUNCTION_LEAVE check_folder
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES

@@ -231,6 +231,44 @@ test_the_pages_of_the_installer_lead_to_the_running_program() {
     expect_all_parts_in "$(unix_path "$place")"
 }
 
+test_a_folder_that_takes_no_lists_is_told() {
+    # Given
+    local installer
+    : >"$(unix_path "$lists")/file"
+    "$wine" "$packages"/zimbora-*-windows-installer.exe &
+    wait_for_title "Zimbora Telepítő"
+    installer=$(xdotool getactivewindow)
+    press Return
+    wait_until "the page of the folder" page_has_box "$place"
+    # When: no folder can be made below a file.
+    write 'C:\lists\file\Zimbora'
+    press Return
+    wait_until "a message" another_window_is_in_front "$installer"
+    import -window root "${ZIMBORA_E2E_PICTURES:-$temp}/windows-installer-folder.png"
+    press Return
+    wait_until "the page again" page_has_box 'C:\lists\file\Zimbora'
+    # When: the program refuses names with a full stop.
+    write 'C:\lists\a.b'
+    press Return
+    wait_until "a message" another_window_is_in_front "$installer"
+    import -window root "${ZIMBORA_E2E_PICTURES:-$temp}/windows-installer-full-stop.png"
+    press Escape
+    wait_until "the page again" page_has_box 'C:\lists\a.b'
+    # Then
+    [[ $(find "$(unix_path "$lists")" -mindepth 1) == "$(unix_path "$lists")/file" ]] || fail "Something was put there."
+    # When
+    write 'C:\Zimbora'
+    press Return
+    # Then
+    wait_until "the list of programs" has_registry_key "$uninstall_key"
+    expect_all_parts_in "$drive/Zimbora"
+}
+
+another_window_is_in_front() {
+    local now
+    now=$(xdotool getactivewindow 2>/dev/null) && [[ $now != "$1" ]]
+}
+
 # The box with the folder has the focus.
 page_has_box() {
     copied_is "$1" ctrl+a
