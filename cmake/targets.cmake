@@ -16,22 +16,26 @@ function(zimbora_library name)
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
 endfunction()
 
-# zimbora_drawings(<target> <drawing>...)
-# Puts drawings of the folder resources into a target, under their names there. Where the toolkit has no reader of SVG,
-# they are recorded ones (ui/svg_picture_recorded.cpp).
+# zimbora_drawings(<target> [FROM <folder>] <drawing>...)
+# Puts drawings of a folder, which is the folder resources unless one is named, into a target, under their names there.
+# Where the toolkit has no reader of SVG, they are recorded ones (ui/svg_picture_recorded.cpp).
 function(zimbora_drawings target)
-  set(base "${CMAKE_SOURCE_DIR}/resources")
+  cmake_parse_arguments(arg "" "FROM" "" ${ARGN})
+  if(NOT arg_FROM)
+    set(arg_FROM "${CMAKE_SOURCE_DIR}/resources")
+  endif()
+  set(base "${arg_FROM}")
   if(WIN32)
-    set(base "${CMAKE_BINARY_DIR}/drawings")
+    set(base "${CMAKE_CURRENT_BINARY_DIR}/drawings")
   endif()
   set(files "")
-  foreach(drawing IN LISTS ARGN)
+  foreach(drawing IN LISTS arg_UNPARSED_ARGUMENTS)
     set(file "${base}/${drawing}")
     list(APPEND files "${file}")
     if(WIN32)
       get_filename_component(folder "${file}" DIRECTORY)
       file(MAKE_DIRECTORY "${folder}")
-      set(svg "${CMAKE_SOURCE_DIR}/resources/${drawing}")
+      set(svg "${arg_FROM}/${drawing}")
       add_custom_command(
         OUTPUT "${file}"
         COMMAND zimbora-draw "${svg}" "${file}"

@@ -83,6 +83,8 @@ std::optional<Failure> remove(const QString &path) {
         reason = QStringLiteral("ez egy mappa.");
     else if (!QFileInfo(place.path()).isWritable())
         reason = QStringLiteral("nincs jogosultság a törléséhez.");
+    else if (!place.isWritable())
+        reason = QStringLiteral("írásvédett.");
     return Failure{QStringLiteral("A(z) „%1” fájl nem törölhető: %2").arg(QDir::toNativeSeparators(path), reason)};
 }
 

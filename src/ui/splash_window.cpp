@@ -1,5 +1,6 @@
 #include "ui/splash_window.h"
 
+#include <QFontMetrics>
 #include <QIcon>
 
 #include "ui/fonts.h"
@@ -18,6 +19,19 @@ QRectF szöveghely(double fent, double magas) {
 }
 
 constexpr double képernyőrész = 0.5;
+
+/// Fitting ends with the first size that takes nine tenths of the label. The step to it is larger than the tenth that
+/// is left when letters are small, as on a small screen: then a smaller one.
+void egészben(QLabel &címke) {
+    const auto elfér = [&címke](const QFont &betű) {
+        const QFontMetrics méretek(betű);
+        return méretek.horizontalAdvance(címke.text()) <= címke.width() && méretek.height() <= címke.height();
+    };
+    QFont betű = címke.font();
+    for (double pont = fonts::points(betű) - 1; pont >= 1 && !elfér(betű); --pont)
+        fonts::set_points(betű, pont);
+    címke.setFont(betű);
+}
 
 }  // namespace
 
@@ -42,11 +56,14 @@ FrmFolyamat::FrmFolyamat(const Module_hasznos &hasznos, const QString &verzió, 
     elhelyez(lblMaker_, szöveghely(3000, 360));
     hasznos.ablakméretez(*this, képernyőrész);
     hasznos.ablakstílus(*this);
-    for (QLabel *címke : {lblCompanyProduct_, lblProductName_, lblVersion_, lblPlatform_, lblCompany_, lblMaker_})
+    const auto címkék = {lblCompanyProduct_, lblProductName_, lblVersion_, lblPlatform_, lblCompany_, lblMaker_};
+    for (QLabel *címke : címkék)
         Module_hasznos::szövegbeigazít(*címke, QString());
     QFont betű = lblMaker_->font();
     betű.setFamilies({fonts::times_new_roman_ce});
     lblMaker_->setFont(betű);
+    for (QLabel *címke : címkék)
+        egészben(*címke);
     // The part of the title that other windows begin with is not known yet.
     setWindowTitle(QStringLiteral("Zimbora"));
     imgLogo_->set_background(háttérszín());

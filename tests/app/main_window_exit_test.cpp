@@ -69,7 +69,7 @@ TEST_F(MainWindowExit, stays_when_the_save_is_cancelled_or_fails) {
 
     click("kilép");
     EXPECT_FALSE(ended_);
-    dialogs_.choices = {QStringLiteral("/proc/lista")};
+    dialogs_.choices = {place("nincs/lista")};
     click("kilép");
 
     EXPECT_FALSE(ended_);

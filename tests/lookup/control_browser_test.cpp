@@ -61,9 +61,3 @@ TEST_F(ControlBrowserTest, is_made_for_the_help_viewer) {
 }
 
 }  // namespace
-
-int main(int argc, char *argv[]) {
-    QApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -1,40 +1,6 @@
-#include "lookup/help_address.h"
-
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QTemporaryDir>
-
-#include "support/files_for_tests.h"
-#include "support/printing.h"
+#include "support/help_address_fixture.h"
 
 namespace {
-
-/// A program folder with a dictionary, and the help document beside it.
-class HelpAddress : public testing::Test {
-  protected:
-    HelpAddress() {
-        for (const char *folder : {"program/lists", "programkavaro/help", "other", "programs"})
-            QDir(root_.path()).mkpath(QString::fromLatin1(folder));
-        for (const char *file :
-             {"program/am.txt", "programkavaro/help/Kavaro súgó.mht", "programkavaro/help/keszito.html",
-              "programkavaro/x.html", "other/secret.txt", "programs/x.html"})
-            write_file(path(file), "x");
-    }
-
-    [[nodiscard]] QString path(const char *name) const {
-        return QDir(QFileInfo(root_.path()).canonicalFilePath()).filePath(QString::fromUtf8(name));
-    }
-    [[nodiscard]] bool opens(const QUrl &address) const { return !addresses_.akadály(address); }
-    [[nodiscard]] bool opens(const QString &file) const { return opens(QUrl::fromLocalFile(file)); }
-    [[nodiscard]] QString reason(const QUrl &address) const {
-        const auto obstacle = addresses_.akadály(address);
-        return obstacle ? obstacle->sentence : QString();
-    }
-
-    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
-    súgócímek addresses_{path("program")};
-};
 
 QString url(const char16_t *text) {
     return súgócímek::url(QString::fromUtf16(text)).toString();
@@ -128,25 +94,6 @@ TEST_F(HelpAddress, of_a_file_elsewhere_does_not_open_and_says_so) {
 TEST_F(HelpAddress, of_a_folder_does_not_open) {
     EXPECT_FALSE(opens(path("program")));
     EXPECT_FALSE(opens(path("program/lists")));
-}
-
-TEST_F(HelpAddress, of_a_link_opens_where_its_target_may) {
-    QFile::link(path("other/secret.txt"), path("program/link.txt"));
-    QFile::link(path("other"), path("program/out"));
-    QFile::link(path("program/am.txt"), path("other/in.txt"));
-
-    EXPECT_FALSE(opens(path("program/link.txt")));
-    EXPECT_FALSE(opens(path("program/out/secret.txt")));
-    EXPECT_TRUE(opens(path("other/in.txt")));
-}
-
-TEST_F(HelpAddress, of_an_installed_document_opens_through_the_linked_folder) {
-    QDir(path("programkavaro/help")).removeRecursively();
-    QDir(root_.path()).mkpath(QStringLiteral("share/help"));
-    write_file(path("share/help/Kavaro súgó.mht"), "x");
-    QFile::link(path("share/help"), path("programkavaro/help"));
-
-    EXPECT_TRUE(opens(súgócímek::url(addresses_.kezdőcím())));
 }
 
 TEST_F(HelpAddress, with_an_encoded_separator_does_not_open) {

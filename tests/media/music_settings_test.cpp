@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "support/files_for_tests.h"
+#include "support/odd_files.h"
 #include "support/printing.h"
 
 namespace {
@@ -153,7 +154,7 @@ TEST_F(MusicSettings, tell_of_a_file_of_zero_bytes) {
 }
 
 TEST_F(MusicSettings, tell_of_a_file_that_cannot_be_read) {
-    QFile::link(QStringLiteral("/proc/self/mem"), own_file_);
+    const UnreadableFile unreadable(own_file_);
 
     const auto failure = settings_.betölt();
 

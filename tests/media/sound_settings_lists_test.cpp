@@ -281,7 +281,8 @@ TEST_F(SoundSettingsDeleting, tells_of_a_file_that_cannot_be_deleted_and_keeps_i
     press("Filelist", Qt::Key_Delete);
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told.first().startsWith(QStringLiteral("A(z) „%1” fájl nem törölhető: ").arg(sound(horn))));
+    EXPECT_TRUE(boxes_.told.first().startsWith(
+        QStringLiteral("A(z) „%1” fájl nem törölhető: ").arg(QDir::toNativeSeparators(sound(horn)))));
     EXPECT_EQ(selected("Filelist"), horn);
     EXPECT_EQ(list("lst_helyeshang")->items(), QStringList(horn));
     EXPECT_TRUE(QFileInfo::exists(sound(horn)));

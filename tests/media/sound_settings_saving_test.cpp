@@ -243,8 +243,8 @@ TEST_F(SoundSettingsSaving, stays_open_with_a_message_while_the_files_cannot_be_
 
         EXPECT_TRUE(window_->isVisible());
         ASSERT_EQ(boxes_.told.size(), 1);
-        EXPECT_TRUE(boxes_.told.first().startsWith(
-            QStringLiteral("A(z) „%1” mappa nem hozható létre: ").arg(place("program/kavaro"))))
+        EXPECT_TRUE(boxes_.told.first().startsWith(QStringLiteral("A(z) „%1” mappa nem hozható létre: ")
+                                                       .arg(QDir::toNativeSeparators(place("program/kavaro")))))
             << boxes_.told.first().toStdString();
         EXPECT_EQ(list("lst_gratulahang")->items(), QStringList(bell));
         QFile::remove(place("program/kavaro"));
@@ -284,7 +284,7 @@ TEST_F(SoundSettingsSaving, tells_of_a_damaged_file_when_the_window_is_shown_and
 
     open([] {});
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told.first().contains(place("program/kavaro/grathang.ini")));
+    EXPECT_TRUE(boxes_.told.first().contains(QDir::toNativeSeparators(place("program/kavaro/grathang.ini"))));
     EXPECT_EQ(switches(), QStringLiteral("10111"));
     EXPECT_EQ(list("lst_gratulahang")->items(), QStringList({bell, chime}));
     open([] {});

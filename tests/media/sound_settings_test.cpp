@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "support/files_for_tests.h"
+#include "support/odd_files.h"
 #include "support/printing.h"
 
 namespace {
@@ -139,6 +140,8 @@ TEST_F(SoundSettings, drop_a_folder_that_has_the_name_of_a_sound) {
 
 TEST_F(SoundSettings, drop_names_that_lead_into_another_folder) {
     write_file(program_ + QStringLiteral("/kint.wav"), "");
+    // To one system a file of a folder in there, to another one a file with an odd name.
+    QDir(program_).mkpath(QStringLiteral("hangok/a"));
     write_file(sound(QStringLiteral("a\\b.wav")), "");
     write_file(settings_file("helyeshang.ini"),
                "../kint.wav\r\n" + QFile::encodeName(program_) + "/kint.wav\r\na\\b.wav\r\ntaps.wav\r\n");
@@ -196,7 +199,7 @@ TEST_F(SoundSettings, tell_of_a_file_of_zero_bytes) {
 TEST_F(SoundSettings, tell_of_each_file_that_cannot_be_read_and_take_the_others) {
     write_file(settings_file("grathang.ini"), " 0\r\n 0\r\n 0\r\n 0\r\n 0\r\ntaps.wav\r\n");
     write_file(settings_file("hibahang.ini"), "gong.wav\r\n");
-    QFile::link(QStringLiteral("/proc/self/mem"), settings_file("helyeshang.ini"));
+    const UnreadableFile unreadable(settings_file("helyeshang.ini"));
 
     const auto failure = settings_.betölt();
 

@@ -221,16 +221,6 @@ TEST_F(SoundSettingsWindow, plays_the_selected_file_again_by_its_button) {
     EXPECT_EQ(multimedia_.take_sent(), change_to(chime));
 }
 
-TEST_F(SoundSettingsWindow, writes_a_quotation_mark_of_a_files_name_twice) {
-    put_sound(QStringLiteral("a \"b\".wav"));
-    start();
-
-    click_item("Filelist", QStringLiteral("a \"b\".wav"));
-
-    EXPECT_EQ(multimedia_.sent.first(),
-              QStringLiteral("open \"%1\" type waveaudio alias hang|0").arg(sound(QStringLiteral("a \"\"b\"\".wav"))));
-}
-
 TEST_F(SoundSettingsWindow, plays_an_entry_of_a_list_by_click_and_by_key) {
     write("program/kavaro/grathang.ini", " 1\r\n 1\r\n 1\r\n 1\r\n 1\r\nharang.wav\r\nbell.wav\r\n");
     write("program/kavaro/helyeshang.ini", "harang.wav\r\nbell.wav\r\n");

@@ -64,16 +64,6 @@ TEST_F(Files, deletes_a_file_and_no_other) {
     EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{QStringLiteral("más.wav")});
 }
 
-TEST_F(Files, deletes_a_read_only_file) {
-    const QString path = in_folder(QStringLiteral("hang.wav"));
-    write_file(path, "RIFF");
-    QFile::setPermissions(path, QFile::ReadOwner);
-
-    EXPECT_FALSE(files::remove(path));
-
-    EXPECT_FALSE(QFile::exists(path));
-}
-
 TEST_F(Files, takes_a_file_that_has_gone_already_for_deleted) {
     EXPECT_FALSE(files::remove(in_folder(QStringLiteral("nincs.wav"))));
     EXPECT_FALSE(files::remove(in_folder(QStringLiteral("nincs/hang.wav"))));

@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QList>
 #include <QProcess>
 #include <QRectF>
 #include <QRegularExpression>
 #include <QString>
 #include <QStringList>
+#include <QTemporaryDir>
+#include <QtTest/QTest>
 
+#include "support/files_for_tests.h"
 #include "support/printing.h"
 
 /// A word on a page of a PDF file, in points from the paper's corner.
@@ -18,8 +22,24 @@ struct PdfWord {
     QString text;
 };
 
+/// Under Wine: what `name` writes that is started by the script `starter` (windows/run_outside.sh), because nothing
+/// tells a program of Windows when one of another system has ended.
+inline QByteArray output_from_outside(const QString &starter, const QString &name, const QStringList &arguments) {
+    const QTemporaryDir folder;
+    const QString answer = folder.filePath(QStringLiteral("answer"));
+    const auto has_failed = [&] { return QFile::exists(answer + QStringLiteral(".failed")); };
+    if (!QProcess::startDetached(starter, QStringList{answer, name} + arguments) ||
+        !QTest::qWaitFor([&] { return QFile::exists(answer) || has_failed(); }, 30000) || has_failed())
+        ADD_FAILURE() << name.toStdString()
+                      << " failed: " << read_file(answer + QStringLiteral(".failed")).toStdString();
+    return read_file(answer);
+}
+
 /// What the program `name` writes when it reads a PDF file.
 inline QByteArray output_of(const QString &name, const QStringList &arguments) {
+    const QString starter = qEnvironmentVariable("ZIMBORA_TEST_STARTER");
+    if (!starter.isEmpty())
+        return output_from_outside(starter, name, arguments);
     QProcess process;
     process.start(name, arguments);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)

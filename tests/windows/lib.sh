@@ -37,7 +37,7 @@ forget_former_runs() {
 tidy_up_windows() {
     local status=$?
     set +e
-    if ((status != 0)); then
+    if ((status != 0 && status != 77)); then
         show_what_was_seen
     fi
     "$wineserver" --kill

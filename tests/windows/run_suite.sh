@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # run_suite.sh <Wine prefix> <suite.exe> [<argument>...]: runs the tests of a suite of the Windows build on a screen of
-# its own; without arguments all but those in left_out.txt.
+# its own.
 set -euo pipefail
 here=$(dirname "$0")
 source "$here/wine.sh"
@@ -9,10 +9,6 @@ source "$here/../e2e/lib.sh"
 use_prefix "$(realpath "$1")"
 suite=$2
 shift 2
-arguments=("$@")
-if (($# == 0)); then
-    arguments=("--gtest_filter=-$(sed '/^#/d; /^$/d' "$here/left_out.txt" | tr '\n' ':')")
-fi
 
 end_suite() {
     local status=$?
@@ -26,11 +22,15 @@ end_suite() {
 
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 export LC_ALL=C.UTF-8
-# The offscreen platform takes its type faces from a folder.
-export ZIMBORA_TEST_FACES=/usr/share/fonts/truetype/liberation2
 temp=$(mktemp -d)
+children=()
 trap end_suite EXIT
 trap 'exit 1' INT TERM HUP
-children=()
+# The offscreen platform takes its type faces from one folder.
+mkdir "$temp/faces"
+ln -s /usr/share/fonts/truetype/{dejavu,liberation2}/*.ttf "$temp/faces"
+export ZIMBORA_TEST_FACES=$temp/faces
+# What a test lets programs of this machine do: see run_outside.sh.
+export ZIMBORA_TEST_STARTER=Z:$(realpath "$here/run_outside.sh") ZIMBORA_TEST_DRIVES=$WINEPREFIX/dosdevices
 start_screen 1280x1024
-"$wine" "$suite" "${arguments[@]}"
+"$wine" "$suite" "$@"

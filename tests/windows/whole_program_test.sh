@@ -5,6 +5,7 @@
 set -euo pipefail
 here=$(dirname "$(realpath "$0")")
 source "$here/lib.sh"
+source "$here/../e2e/print_lib.sh"
 
 set_up() {
     set_up_windows
@@ -123,6 +124,69 @@ leave_puzzle() {
     wait_for_title "$(title_of_list "$lists\\animals.szs")"
     press alt+F4
     expect_end_with_success
+}
+
+# Printers, which Wine takes from CUPS; the toolkit draws on them as on any of Windows.
+
+# open_print_settings_of <line>...: of a list whose name, "$title", is that of the print-out too.
+open_print_settings_of() {
+    title=zimbora$$x$RANDOM
+    make_list "$(unix_path "$lists\\$title.szs")" "$@"
+    start_program "$lists\\$title.szs"
+    wait_for_title "$(title_of_list "$lists\\$title.szs")"
+    open_print_settings
+}
+
+test_a_list_is_printed_on_a_printer_of_the_system() {
+    # Given
+    start_cups
+    open_print_settings_of dog:kutya cat:macska "deer:őz" bird:madár
+    # When
+    press Return
+    wait_for_title "$(title_of_list "$lists\\$title.szs")"
+    # Then
+    wait_for_print_out "$title"
+    expect_pages "$temp/printed.pdf" 1
+    expect_middles "$temp/printed.pdf" x - 297.5 297.5 297.5 297.5
+    for word in dog kutya őz madár; do
+        words_of "$temp/printed.pdf" | grep -q " $word\$" || fail "The print-out lacks the word $word."
+    done
+}
+
+test_cards_are_printed_each_in_the_middle_of_a_turned_page() {
+    # Given
+    start_cups
+    open_print_settings_of "deer:őz" "pond:tó"
+    choose_kind 2
+    # When
+    press Return
+    wait_for_title "$(title_of_list "$lists\\$title.szs")"
+    # Then
+    wait_for_print_out "$title"
+    expect_pages "$temp/printed.pdf" 5
+    for word in deer őz pond tó; do
+        expect_middles "$temp/printed.pdf" x "$word" 421
+    done
+    expect_blank_page "$temp/printed.pdf" 5
+}
+
+test_a_cancelled_print_out_does_not_reach_the_printer() {
+    # Given
+    start_cups
+    mapfile -t pairs < <(seq 60000 | sed 's/.*/word&:szo&/')
+    open_print_settings_of "${pairs[@]}"
+    choose_kind 2
+    press Return
+    # When
+    wait_for_title "Nyomtatás"
+    press Escape
+    # Then
+    wait_for_title "$(title_of_exercise "Szószedet nyomtatása")"
+    press Escape
+    wait_for_title "$(title_of_list "$lists\\$title.szs")"
+    press alt+F4
+    expect_end_with_success
+    [[ -z $(lpstat -W all -o) ]] || fail "The queue has a job."
 }
 
 program_folder=$(realpath "$2")

@@ -6,8 +6,9 @@ readonly wine=/usr/lib/wine/wine64
 readonly wineserver=/usr/lib/wine/wineserver64
 
 # use_prefix <folder>: every program of Windows that is started from now on sees that one, writes nothing about Wine
-# itself, and neither menus nor links of the desktop are made. Wine's browser engine and its .NET are not installed.
+# itself, and neither menus nor links of the desktop are made. Wine's browser engine and its .NET are not installed. A
+# program that fails ends, rather than wait in Wine's debugger.
 use_prefix() {
-    export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
+    export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=;winedbg.exe="
     unset WINEARCH
 }

@@ -1,3 +1,4 @@
+#include "support/odd_files.h"
 #include "support/word_list_files_fixture.h"
 
 namespace {
@@ -163,13 +164,14 @@ TEST_F(WordListFiles, file_that_cannot_be_read_after_the_dialog_is_told_and_noth
     add("apple", "alma");
     boxes_.answers = {Answer::no};
     state_.aktuálisfájl = place("a.szs");
-    // It exists, but cannot be read.
-    dialogs_.choices = {QStringLiteral("/proc/self/mem")};
+    const UnreadableFile unreadable(place("b.szs"));
+    dialogs_.choices = {place("b.szs")};
 
     files_.mnufájlmegnyit();
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].startsWith(QStringLiteral("A(z) „/proc/self/mem” fájl nem olvasható")));
+    EXPECT_TRUE(boxes_.told[0].startsWith(
+        QStringLiteral("A(z) „%1” fájl nem olvasható").arg(QDir::toNativeSeparators(place("b.szs")))));
     EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
     EXPECT_EQ(state_.aktuálisfájl, place("a.szs"));
     EXPECT_EQ(state_.változott, 1);
@@ -284,14 +286,14 @@ TEST_F(WordListFiles, pairs_stay_when_the_save_before_a_new_list_is_cancelled) {
     EXPECT_EQ(state_.változott, 1);
 }
 
-TEST_F(WordListFiles, save_into_a_folder_that_takes_no_files_is_told_and_nothing_is_lost) {
+TEST_F(WordListFiles, save_into_a_missing_folder_is_told_and_nothing_is_lost) {
     add("apple", "alma");
-    dialogs_.choices = {QStringLiteral("/proc/lista")};
+    dialogs_.choices = {place("nincs/lista")};
 
     files_.mnufájlment();
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("„/proc/lista”")));
+    EXPECT_TRUE(boxes_.told[0].contains(u'„' + QDir::toNativeSeparators(place("nincs/lista")) + u'”'));
     EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
     EXPECT_EQ(state_.változott, 1);
     EXPECT_EQ(state_.aktuálisfájl, QString());
@@ -397,7 +399,7 @@ TEST_F(WordListFiles, exit_stays_when_the_name_is_cancelled_or_the_file_cannot_b
     boxes_.answers = {Answer::yes, Answer::yes};
 
     EXPECT_FALSE(files_.kilépéskérdés());
-    dialogs_.choices = {QStringLiteral("/proc/lista")};
+    dialogs_.choices = {place("nincs/lista")};
     EXPECT_FALSE(files_.kilépéskérdés());
 
     EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));

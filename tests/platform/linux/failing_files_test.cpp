@@ -112,6 +112,16 @@ TEST_F(FailingFiles, leaves_the_old_file_whole_when_the_process_is_killed_in_the
     EXPECT_EQ(read_file(path), "old:régi\r\n");
 }
 
+TEST_F(FailingFiles, deletes_a_read_only_file) {
+    const QString path = in_folder(QStringLiteral("hang.wav"));
+    write_file(path, "RIFF");
+    QFile::setPermissions(path, QFile::ReadOwner);
+
+    EXPECT_FALSE(files::remove(path));
+
+    EXPECT_FALSE(QFile::exists(path));
+}
+
 TEST_F(FailingFiles, deletes_a_link_and_not_what_it_leads_to) {
     write_file(in_folder(QStringLiteral("hang.wav")), "RIFF");
     for (const char *target : {"hang.wav", "nincs.wav"}) {

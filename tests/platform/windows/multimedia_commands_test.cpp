@@ -82,10 +82,33 @@ TEST_F(SystemMultimedia, fails_for_a_missing_file_with_a_code) {
     EXPECT_EQ(mode(), QString());
 }
 
-TEST_F(SystemMultimedia, sends_no_command_whose_path_holds_a_quotation_mark) {
-    const QString path = piece(u"a.mid") + QStringLiteral("\" type sequencer alias midi");
+TEST_F(SystemMultimedia, opens_a_path_that_is_longer_than_drivers_take) {
+    const QString folder = folder_.filePath(QString(100, u'a') + u'/' + QString(100, u'b'));
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const QString path = folder + QStringLiteral("/a.mid");
+    write_file(path, rest_of_half_a_minute());
 
-    EXPECT_EQ(open(path), static_cast<quint32>(MCIERR_FILE_NOT_FOUND));
+    EXPECT_EQ(open(path), 0U);
+}
+
+// No file has a quotation mark in its name here, but a list of another system may name one.
+TEST_F(SystemMultimedia, sends_no_command_whose_path_holds_a_quotation_mark) {
+    const QString there = piece(u"a.mid");
+    const QString mark(u'"');
+    for (const QString &path :
+         {mark, mark + there, there + mark, mark + there + mark, folder_.filePath(QStringLiteral("\"b\" c.mid")),
+          there + QStringLiteral("\" type sequencer alias midi")}) {
+        EXPECT_EQ(open(path), static_cast<quint32>(MCIERR_FILE_NOT_FOUND)) << path.toStdString();
+        EXPECT_EQ(mode(), QString()) << path.toStdString();
+    }
+
+    EXPECT_EQ(open(there), 0U);
+}
+
+TEST_F(SystemMultimedia, leaves_a_quotation_without_its_end_to_the_system) {
+    const QString path = piece(u"a.mid");
+
+    EXPECT_NE(commands_->send(QStringLiteral("open \"%1 type sequencer alias midi").arg(path), 0).code, 0U);
 
     EXPECT_EQ(mode(), QString());
 }

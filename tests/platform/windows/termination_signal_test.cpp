@@ -8,6 +8,13 @@
 
 namespace {
 
+/// What the system runs on a thread of its own when a console is left or its user presses Ctrl+Break. Most programs
+/// with windows have no console.
+LPTHREAD_START_ROUTINE routine_of_the_system() {
+    const FARPROC address = GetProcAddress(GetModuleHandleW(L"kernelbase.dll"), "CtrlRoutine");
+    return reinterpret_cast<LPTHREAD_START_ROUTINE>(reinterpret_cast<void *>(address));
+}
+
 TEST(TerminationSignal, calls_back_from_the_event_loop) {
     int argc = 1;
     char name[] = "test";
@@ -20,9 +27,12 @@ TEST(TerminationSignal, calls_back_from_the_event_loop) {
     });
     QTimer::singleShot(10000, &application, &QCoreApplication::quit);
 
-    // A program that was started without a console has none.
-    AllocConsole();
-    ASSERT_NE(GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, 0), 0);
+    ASSERT_NE(routine_of_the_system(), nullptr);
+    const HANDLE thread = CreateThread(nullptr, 0, routine_of_the_system(),
+                                       reinterpret_cast<void *>(static_cast<ULONG_PTR>(CTRL_BREAK_EVENT)), 0, nullptr);
+    ASSERT_NE(thread, nullptr);
+    EXPECT_EQ(WaitForSingleObject(thread, 10000), WAIT_OBJECT_0);
+    CloseHandle(thread);
     EXPECT_FALSE(asked);
     application.exec();
 
