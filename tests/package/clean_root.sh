@@ -96,8 +96,8 @@ remove_root() {
     rm -rf --one-file-system "$root"
 }
 
-# enter_root <user> <command> [<argument>...]: in place of the calling process. The root of the other system is put away,
-# as a mere change of root would not do: after that, the browser engine could not lock its pages in.
+# enter_root <user> <command> [<argument>...]: in place of the calling process. The root of the other system is put
+# away, as a mere change of root would not do: after that, the browser engine could not lock its pages in.
 # shellcheck disable=SC2016  # what it expands is its own
 readonly enter_root_script='
     cd "$1" && pivot_root . mnt && umount --lazy /mnt && cd / || exit 125
@@ -111,8 +111,8 @@ enter_root() {
 
 # in_root <command> [<argument>...]: as the administrator of the clean system.
 in_root() {
-    (enter_root root env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
-        "$@")
+    (enter_root root env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 \
+        DEBIAN_FRONTEND=noninteractive "$@")
 }
 
 # apt_get <argument>...: with the lists that are there; when these name what the archive has no more, with new ones.

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# installation_test.sh <package> <folder for the system>: in a Debian 12 with nothing else, the package is installed with
-# what it depends on, used by an ordinary user, and removed.
+# installation_test.sh <package> <folder for the system>: in a Debian 12 with nothing else, the package is installed
+# with what it depends on, used by an ordinary user, and removed.
 set -euo pipefail
 here=$(dirname "$(realpath "$0")")
 source "$here/../e2e/lib.sh"
@@ -125,8 +125,9 @@ end_the_program() {
 
 # As a file manager does it: by the type that the name of the file has and the program that is for this type.
 open_the_list_as_a_desktop_does() {
-    [[ $(as_learner_now gio info --attributes=standard::content-type "$saved_list") == *"standard::content-type: $type"* ]] ||
-        fail "The list passes for: $(as_learner_now gio info --attributes=standard::content-type "$saved_list")"
+    local found
+    found=$(as_learner_now gio info --attributes=standard::content-type "$saved_list")
+    [[ $found == *"standard::content-type: $type"* ]] || fail "The list passes for: $found"
     as_learner_now gio open "$saved_list" >"$temp/program.log" 2>&1
     wait_for_main_window
     wait_for_title "$(title_of_list "$saved_list")"

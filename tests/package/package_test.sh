@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# package_test.sh <package> <version of the program> [<test>...]: what can be said of the Debian package without installing
-# it. The unpacked package is "$tree", its control fields are "$tree/DEBIAN/control".
+# package_test.sh <package> <version of the program> [<test>...]: what can be said of the Debian package without
+# installing it. The unpacked package is "$tree", its control fields are "$tree/DEBIAN/control".
 set -euo pipefail
 source "$(dirname "$0")/../e2e/lib.sh"
 
@@ -41,7 +41,8 @@ value() {
 test_lintian_has_nothing_to_say() {
     local as_root=()
     ((EUID != 0)) || as_root=(--allow-root)
-    expect_silence lintian --display-info --pedantic --suppress-tags binary-has-unneeded-section "${as_root[@]}" "$package"
+    expect_silence lintian --display-info --pedantic --suppress-tags binary-has-unneeded-section \
+        "${as_root[@]}" "$package"
 }
 
 test_the_change_logs_are_those_of_this_version() {
