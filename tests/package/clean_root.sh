@@ -46,8 +46,7 @@ tidy_up_clean_root() {
         show_what_was_seen
     fi
     end_children
-    remove_root
-    find "$temp" -mindepth 1 -delete
+    remove_root && find "$temp" -mindepth 1 -delete
     exit "$status"
 }
 
@@ -57,8 +56,8 @@ have_base_system() {
     debootstrap --variant=minbase --print-debs bookworm "$temp/probe" "$mirror" >"$temp/debootstrap.log" 2>&1 ||
         skip "no base system is at hand, and $mirror cannot be reached."
     rm -rf "$temp/probe"
-    debootstrap --variant=minbase --cache-dir="$root_cache/archives" bookworm "$temp/base" "$mirror" \
-        >"$temp/debootstrap.log" 2>&1 || fail "No base system: $(tail -n 20 "$temp/debootstrap.log")"
+    debootstrap --variant=minbase bookworm "$temp/base" "$mirror" >"$temp/debootstrap.log" 2>&1 ||
+        fail "No base system: $(tail -n 20 "$temp/debootstrap.log")"
     rm -f "$temp/base/var/cache/apt/archives"/*.deb
     tar --create --gzip --one-file-system --directory="$temp/base" --file="$temp/base.tar.gz" .
     mv "$temp/base.tar.gz" "$root_cache"
@@ -82,17 +81,20 @@ make_root() {
     echo force-unsafe-io >"$root/etc/dpkg/dpkg.cfg.d/fast"
     printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d"
     chmod +x "$root/usr/sbin/policy-rc.d"
+    printf '%s\n' 'Acquire::Languages "none";' 'Acquire::GzipIndexes "true";' >"$root/etc/apt/apt.conf.d/small"
     printf 'deb %s %s main\n' "$mirror" bookworm "$mirror" bookworm-updates \
         "${ZIMBORA_DEBIAN_SECURITY_MIRROR:-http://deb.debian.org/debian-security}" bookworm-security \
         >"$root/etc/apt/sources.list"
 }
 
+# Not while a folder of the system itself is mounted in it.
 remove_root() {
     [[ -n ${root:-} ]] || return 0
     local place
     for place in tmp/.X11-unix var/lib/apt/lists var/cache/apt/archives dev/shm proc .; do
         ! mountpoint -q "$root/$place" || umount --lazy "$root/$place"
     done
+    ! grep -qF " $root" /proc/self/mountinfo || fail "Still mounted in $root: $(grep -F " $root" /proc/self/mountinfo)"
     rm -rf --one-file-system "$root"
 }
 
