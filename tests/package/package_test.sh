@@ -170,6 +170,7 @@ test_the_manual_pages_read_well() {
         [[ -f $page ]] || fail "There is no $page."
         MANROFFSEQ='' MANWIDTH=80 expect_silence formatted "$page"
         expect_whatis "$page"
+        [[ $(zcat "$page") == ".TH ZIMBORA 1 "*"\"Zimbora $version\""* ]] || fail "$page is of another version."
     done
     [[ $(zcat "$share/man/hu/man1/zimbora.1.gz") == *szótár* ]] || fail "The Hungarian page is not Hungarian."
 }
