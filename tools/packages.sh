@@ -1,4 +1,4 @@
-# Debian 12 packages, sourced by ./run, ./test and ./build-windows.
+# Debian 12 packages, sourced by ./run, ./test, ./build-deb and ./build-windows.
 
 # What building and running the program takes.
 build_packages=(
@@ -18,8 +18,13 @@ test_packages=(
     clang clang-format clang-tidy libclang-rt-14-dev
     xterm cups cups-client printer-driver-cups-pdf poppler-utils
 )
-# What making and checking the Debian package takes.
-deb_packages=(dpkg-dev file lintian desktop-file-utils appstream)
+# What making the Debian package takes besides.
+deb_packages=(dpkg-dev file)
+# What the tests of that package take besides.
+deb_test_packages=(
+    lintian desktop-file-utils appstream shared-mime-info libglib2.0-bin man-db
+    debootstrap debian-archive-keyring
+)
 # What building for Windows takes besides.
 windows_packages=(
     g++-mingw-w64-x86-64-posix dpkg-dev xz-utils icoutils debian-archive-keyring ca-certificates

@@ -123,7 +123,7 @@ Function check_folder
     ${EndIf}
     ${If} $2 == "."
       ${If} ${Cmd} `MessageBox MB_OKCANCEL|MB_ICONINFORMATION "A mappa nevében pont van: $INSTDIR$\r$\n$\r$\nA program az \
-          ilyen mappába nem tud szószedetet menteni; azokat máshová kell majd mentenie. Így is ide telepíti?" IDCANCEL`
+          ilyen mappába nem tud szószedetet menteni; a szószedeteket máshová kell majd mentenie. Így is ide telepíti?" IDCANCEL`
         Abort
       ${EndIf}
       ${Break}
