@@ -17,5 +17,5 @@ class PrintSpooler {
                                                        const QByteArray &pdf) = 0;
 };
 
-/// Null on a system where the toolkit's printer can do both.
+/// Null on a system whose printers take no finished documents.
 [[nodiscard]] std::unique_ptr<PrintSpooler> make_print_spooler();

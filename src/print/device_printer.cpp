@@ -67,6 +67,13 @@ double MeasuringPrinter::text_height(const QString &) const {
     return metrics_.height() / dots();
 }
 
+void MeasuringPrinter::draw_text(QPainter &painter, const QFont &font, const QPointF &place,
+                                 const QString &text) const {
+    const double ascent = QFontMetricsF(font, &device_).ascent();
+    painter.setFont(font);
+    painter.drawText(place * dots() + QPointF(0, ascent), text);
+}
+
 bool DevicePrinter::ready() {
     if (!failed_ && !painter_.isActive())
         failed_ = !painter_.begin(&device());
@@ -74,10 +81,8 @@ bool DevicePrinter::ready() {
 }
 
 void DevicePrinter::draw(const QPointF &place, const QString &text) {
-    if (!ready())
-        return;
-    painter_.setFont(font());
-    painter_.drawText(place * dots() + QPointF(0, ascent()), text);
+    if (ready())
+        draw_text(painter_, font(), place, text);
 }
 
 bool DevicePrinter::begin_next_page() {

@@ -27,12 +27,12 @@ class MeasuringPrinter : public PagePrinter {
     [[nodiscard]] QPagedPaintDevice &device() { return device_; }
     [[nodiscard]] const QPagedPaintDevice &device() const { return device_; }
     [[nodiscard]] const QFont &font() const { return font_; }
-    /// Of the device, a twip.
-    [[nodiscard]] double dots() const;
-    /// From the top of a line to its letters' feet, in dots.
-    [[nodiscard]] double ascent() const { return metrics_.ascent(); }
+    /// Draws `text` with a painter of the device, its top left corner at `place`, in twips.
+    void draw_text(QPainter &painter, const QFont &font, const QPointF &place, const QString &text) const;
 
   private:
+    /// Of the device, a twip.
+    [[nodiscard]] double dots() const;
     void use_font(const QFont &font);
 
     QPagedPaintDevice &device_;

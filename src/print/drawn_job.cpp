@@ -2,16 +2,10 @@
 
 #include <utility>
 
-DrawnJob::DrawnJob(std::unique_ptr<QPrinter> printer) : device_(std::move(printer)), printer_(*device_) {}
-
-DrawnJob::~DrawnJob() {
-    if (!handed_over_)
-        device_->abort();
-}
+DrawnJob::DrawnJob(std::unique_ptr<QPrinter> printer) : device_(std::move(printer)), pages_(*device_) {}
 
 std::optional<Failure> DrawnJob::hand_over() {
-    handed_over_ = true;
-    if (device_->printerState() == QPrinter::Error)
+    if (!pages_.print_all() || device_->printerState() == QPrinter::Error)
         return failure();
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #include "print/page_recorder.h"
 
 #include <QPageLayout>
+#include <utility>
 
 namespace {
 
@@ -22,7 +23,7 @@ PageRecorder::Page &PageRecorder::page() {
 }
 
 void PageRecorder::draw(const QPointF &place, const QString &text) {
-    page().append({place, text, in_twips(font())});
+    page().append({place, text, font()});
 }
 
 bool PageRecorder::begin_next_page() {
@@ -45,10 +46,24 @@ void PageRecorder::paint(QPainter &painter, int page) const {
     painter.translate(device().pageLayout().paintRect(QPageLayout::Point).topLeft() * twips_per_point);
     painter.setPen(Qt::black);
     for (const Printed &one : pages_.at(page)) {
-        painter.setFont(one.font);
+        const QFont font = in_twips(one.font);
+        painter.setFont(font);
         // The metrics of a painter's own device would count in its dots.
-        const double ascent = QFontMetricsF(one.font).ascent();
+        const double ascent = QFontMetricsF(font).ascent();
         painter.drawText(one.place + QPointF(0, ascent), one.text);
     }
     painter.restore();
+}
+
+bool PageRecorder::print_all() {
+    QPainter painter;
+    if (!painter.begin(&device()))
+        return false;
+    for (const Page &page : std::as_const(pages_)) {
+        if (&page != &pages_.constFirst() && !device().newPage())
+            return false;
+        for (const Printed &one : page)
+            draw_text(painter, one.font, one.place, one.text);
+    }
+    return painter.end();
 }

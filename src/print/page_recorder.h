@@ -6,7 +6,8 @@
 
 #include "print/device_printer.h"
 
-/// Keeps the pages that a device would print, to be shown on a screen. A page takes no more memory than its texts.
+/// Keeps the pages that a device would print, to be shown on a screen or printed when they are whole. A page takes no
+/// more memory than its texts.
 class PageRecorder final : public MeasuringPrinter {
   public:
     using MeasuringPrinter::MeasuringPrinter;
@@ -16,6 +17,8 @@ class PageRecorder final : public MeasuringPrinter {
     [[nodiscard]] QSizeF paper_size() const;
     /// Draws page `page`, counted from 0, with a painter whose unit is a twip and whose origin is the paper's corner.
     void paint(QPainter &painter, int page) const;
+    /// Prints all pages on the device; false when it has failed.
+    [[nodiscard]] bool print_all();
 
   protected:
     void draw(const QPointF &place, const QString &text) override;

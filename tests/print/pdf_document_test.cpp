@@ -247,8 +247,25 @@ TEST_F(PdfOutput, of_the_toolkits_printer_tells_of_its_failure) {
     DrawnJob job(std::move(device));
     job.printer().print(QStringLiteral("text"));
 
-    EXPECT_FALSE(job.printer().end_document());
-    EXPECT_TRUE(job.failure().sentence.endsWith(QStringLiteral("nem sikerült nyomtatni: a nyomtató hibát jelzett.")));
+    EXPECT_TRUE(job.printer().end_document());
+    const auto failure = job.hand_over();
+    ASSERT_TRUE(failure);
+    EXPECT_TRUE(failure->sentence.endsWith(QStringLiteral("nem sikerült nyomtatni: a nyomtató hibát jelzett.")));
+}
+
+TEST_F(PdfOutput, of_the_toolkits_printer_begins_when_the_document_is_whole) {
+    auto device = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    device->setOutputFormat(QPrinter::PdfFormat);
+    device->setOutputFileName(file());
+    DrawnJob job(std::move(device));
+
+    EXPECT_EQ(nyomtat(job.printer(), nyomtatástípus::szókártyák, {numbered_pairs(2), {}, 20, 1},
+                      [](int, int) { return true; }),
+              nyomtatásvége::kész);
+    EXPECT_FALSE(QFile::exists(file()));
+
+    EXPECT_EQ(job.hand_over(), std::nullopt);
+    EXPECT_EQ(pdf_info(file(), QStringLiteral("Pages")), QStringLiteral("5"));
 }
 
 TEST_F(PdfOutput, that_is_never_handed_over_leaves_no_file) {

@@ -1,6 +1,6 @@
 #include "platform/print_spooler.h"
 
 std::unique_ptr<PrintSpooler> make_print_spooler() {
-    // The toolkit's printer hands its pages to the system as they are drawn, and can take them back.
+    // A printer of Windows takes what is drawn on it.
     return nullptr;
 }
