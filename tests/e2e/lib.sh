@@ -323,21 +323,26 @@ expect_no_list_written() {
 # run_tests <program> <folder with the dictionaries> [<test>...]: runs the tests of the calling script, each in a process
 # of its own; all when none is named.
 run_tests() {
-    local all failed=0 one
     binary=$(realpath "$1")
     dictionaries=$(realpath "$2")
-    shift 2
+    run_prepared_tests set_up_places "$@"
+}
+
+# run_prepared_tests <command that prepares one> <first argument of the script> <second> [<test>...]
+run_prepared_tests() {
+    local prepare=$1 given=("${@:2:2}") all failed=0 one
+    shift 3
     if (($# == 1)); then
         name=$1
         declare -F "$name" >/dev/null || fail "No such test: $name"
-        set_up_places
+        "$prepare"
         start_screen
         "$name"
         return
     fi
     mapfile -t all < <(declare -F | sed -n 's/^declare -f \(test_.*\)/\1/p')
     for one in "${@:-${all[@]}}"; do
-        "$0" "$binary" "$dictionaries" "$one" && echo "ok $one" || failed=1
+        "$0" "${given[@]}" "$one" && echo "ok $one" || failed=1
     done
     return "$failed"
 }

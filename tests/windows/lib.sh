@@ -96,23 +96,8 @@ setting_is() {
     [[ $(registry_value "$settings_key\\$1" "$2") == "$3" ]]
 }
 
-# run_windows_tests <Wine prefix> <what is tested> [<test>...]: runs the tests of the calling script, each in a process of
-# its own; all when none is named.
+# run_windows_tests <Wine prefix> <what is tested> [<test>...]
 run_windows_tests() {
-    local one failed=0 all what=$2
     prefix=$(realpath "$1")
-    shift 2
-    if (($# == 1)); then
-        name=$1
-        declare -F "$name" >/dev/null || fail "No such test: $name"
-        set_up
-        start_screen
-        "$name"
-        return
-    fi
-    mapfile -t all < <(declare -F | sed -n 's/^declare -f \(test_.*\)/\1/p')
-    for one in "${@:-${all[@]}}"; do
-        "$0" "$prefix" "$what" "$one" && echo "ok $one" || failed=1
-    done
-    return "$failed"
+    run_prepared_tests set_up "$@"
 }
