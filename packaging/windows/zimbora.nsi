@@ -1,13 +1,16 @@
 ; The installer: for the user who runs it, so that no administrator is needed. make_packages.sh gives
 ;   VERSION  the program's version
 ;   FILES    file with the macros install_files and remove_files
+;   PLAYLIST path of the initial playlist
 ;   SIZE     of what is installed, in KiB
 ;   ICON, PICTURE, OUTPUT  paths of the icon, the picture at the side of the first page, and the installer
-; "/S" installs without questions, "/D=<folder>" into another folder. The exit code is 2 when nothing was done because
-; the program is running.
+; "/S" installs without questions, "/D=<folder>" into another folder. The exit code is 2 when it has failed, or when
+; nothing was done because the program is running.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
+; A part that cannot be written ends the installation.
+AllowSkipFiles off
 RequestExecutionLevel user
 ManifestDPIAware true
 ManifestSupportedOS Win10
@@ -35,7 +38,7 @@ BrandingText "Zimbora ${VERSION}"
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_UNWELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_ABORTWARNING
-!define MUI_ABORTWARNING_TEXT "Kilép a telepítőből? A Zimbora még nincs telepítve."
+!define MUI_ABORTWARNING_TEXT "Kilép a telepítőből? Még semmi sem változott."
 
 !define MUI_WELCOMEPAGE_TITLE "A Zimbora ${VERSION} telepítése"
 !define MUI_WELCOMEPAGE_TEXT "Angol–magyar, magyar–angol szótár és szótanuló program.$\r$\n$\r$\n\
@@ -73,13 +76,13 @@ VIAddVersionKey /LANG=${LANG_HUNGARIAN} "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=${LANG_HUNGARIAN} "LegalCopyright" "GNU GPL 3"
 
 ; The system locks the file of a program that runs.
-!macro require_program_not_running
+!macro require_program_not_running folder
   ${Do}
-    ${IfNot} ${FileExists} "${PROGRAM}"
+    ${IfNot} ${FileExists} "${folder}\program\zimbora.exe"
       ${Break}
     ${EndIf}
     ClearErrors
-    FileOpen $0 "${PROGRAM}" a
+    FileOpen $0 "${folder}\program\zimbora.exe" a
     ${IfNot} ${Errors}
       FileClose $0
       ${Break}
@@ -103,18 +106,25 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
+; Whether something is in the folder that neither an installation nor its removal has left there.
+!macro has_files_of_others result
+  StrCpy ${result} 0
+  ${IfNot} ${FileExists} "$INSTDIR\${UNINSTALLER}"
+  ${AndIfNot} ${FileExists} "$INSTDIR\program\*.*"
+    FindFirst $0 $1 "$INSTDIR\*"
+    ${DoWhile} $1 != ""
+      ${If} $1 != "."
+      ${AndIf} $1 != ".."
+        StrCpy ${result} 1
+      ${EndIf}
+      FindNext $0 $1
+    ${Loop}
+    FindClose $0
+  ${EndIf}
+!macroend
+
 ; The program keeps lists in its folder, and takes no list into a folder whose name has a full stop.
 Function check_folder
-  ClearErrors
-  CreateDirectory "$INSTDIR"
-  GetTempFileName $0 "$INSTDIR"
-  ${If} ${Errors}
-    MessageBox MB_OK|MB_ICONEXCLAMATION "Ebbe a mappába nem írhat: $INSTDIR$\r$\n$\r$\nVálasszon másikat."
-    Abort
-  ${EndIf}
-  Delete $0
-  ; Stays when it was there.
-  RMDir "$INSTDIR"
   StrCpy $1 0
   ${Do}
     StrCpy $2 "$INSTDIR" 1 $1
@@ -123,13 +133,31 @@ Function check_folder
     ${EndIf}
     ${If} $2 == "."
       ${If} ${Cmd} `MessageBox MB_OKCANCEL|MB_ICONINFORMATION "A mappa nevében pont van: $INSTDIR$\r$\n$\r$\nA program az \
-          ilyen mappába nem tud szószedetet menteni; a szószedeteket máshová kell majd mentenie. Így is ide telepíti?" IDCANCEL`
+          ilyen mappába nem tud szószedetet menteni; a szószedeteket máshová kell majd mentenie. Így is ide telepíti?" \
+          IDCANCEL`
         Abort
       ${EndIf}
       ${Break}
     ${EndIf}
     IntOp $1 $1 + 1
   ${Loop}
+  !insertmacro has_files_of_others $2
+  ${If} $2 = 1
+    ${If} ${Cmd} `MessageBox MB_OKCANCEL|MB_ICONINFORMATION "Ebben a mappában már más fájlok vannak: $INSTDIR$\r$\n$\r$\nA \
+        telepítés az azonos nevűeket felülírja. Így is ide telepíti?" IDCANCEL`
+      Abort
+    ${EndIf}
+  ${EndIf}
+  ClearErrors
+  CreateDirectory "$INSTDIR"
+  GetTempFileName $0 "$INSTDIR"
+  ${If} ${Errors}
+    MessageBox MB_OK|MB_ICONEXCLAMATION "Ebbe a mappába nem írhat: $INSTDIR$\r$\n$\r$\nVálasszon másikat."
+    Abort
+  ${EndIf}
+  Delete $0
+  ; Stays when something is in it.
+  RMDir "$INSTDIR"
 FunctionEnd
 
 Function un.hide_space_needed
@@ -139,22 +167,32 @@ Function un.hide_space_needed
 FunctionEnd
 
 Section
-  !insertmacro require_program_not_running
-
-  ; A former version may have parts that this one lacks, or lie elsewhere.
-  ReadRegStr $1 HKCU "${UNINSTALL_KEY}" InstallLocation
-  ${If} ${FileExists} "$1\${UNINSTALLER}"
-    ExecWait '"$1\${UNINSTALLER}" /S _?=$1' $2
-    ${If} $2 <> 0
-      Abort "Az előző változat nem távolítható el, ezért semmi sem változott."
+  ReadRegStr $R1 HKCU "${UNINSTALL_KEY}" InstallLocation
+  !insertmacro require_program_not_running "$INSTDIR"
+  ${If} $R1 != ""
+    !insertmacro require_program_not_running "$R1"
+  ${EndIf}
+  ${If} ${Silent}
+    !insertmacro has_files_of_others $2
+    ${If} $2 = 1
+      Abort "A mappában más fájlok vannak, ezért semmi sem változott."
     ${EndIf}
-    Delete "$1\${UNINSTALLER}"
-    RMDir "$1"
   ${EndIf}
 
-  !insertmacro install_files
+  ; What can be removed again is known from the beginning, so that an installation that is broken off can be, too. A
+  ; former version in the same folder is written over: every version so far has had the same parts.
   SetOutPath "$INSTDIR"
   WriteUninstaller "$INSTDIR\${UNINSTALLER}"
+  !insertmacro install_files
+
+  ; One in another folder goes when this one is there.
+  ${If} $R1 != ""
+  ${AndIf} $R1 != $INSTDIR
+  ${AndIf} ${FileExists} "$R1\${UNINSTALLER}"
+    ExecWait '"$R1\${UNINSTALLER}" /S _?=$R1'
+    Delete "$R1\${UNINSTALLER}"
+    RMDir "$R1"
+  ${EndIf}
 
   ; The working folder of the shortcut.
   SetOutPath "$INSTDIR\program"
@@ -185,10 +223,38 @@ Section
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
+; Removes an initial setting that has not been changed: "file" has the same bytes as the one it was installed from.
+!macro remove_when_unchanged file original
+  InitPluginsDir
+  File "/oname=$PLUGINSDIR\original" "${original}"
+  ClearErrors
+  FileOpen $0 "${file}" r
+  FileOpen $1 "$PLUGINSDIR\original" r
+  ${IfNot} ${Errors}
+    ${Do}
+      ; Nothing is read at the end.
+      StrCpy $2 ""
+      StrCpy $3 ""
+      FileReadByte $0 $2
+      FileReadByte $1 $3
+      ${If} $2 != $3
+      ${OrIf} $3 == ""
+        ${Break}
+      ${EndIf}
+    ${Loop}
+    FileClose $0
+    FileClose $1
+    ${If} $2 == $3
+      Delete "${file}"
+    ${EndIf}
+  ${EndIf}
+!macroend
+
 Section "un.A program és a szótárak"
   SectionIn RO
-  !insertmacro require_program_not_running
+  !insertmacro require_program_not_running "$INSTDIR"
   !insertmacro remove_files
+  !insertmacro remove_when_unchanged "$INSTDIR\program\kavaro\zenebeáll.ini" "${PLAYLIST}"
   Delete "${SHORTCUT}"
 
   ReadRegStr $1 HKCU "${CLASSES}\.szs" ""
@@ -207,6 +273,8 @@ Section "un.A program és a szótárak"
   DeleteRegKey HKCU "${CLASSES}\${LIST_CLASS}"
   !insertmacro tell_desktop_of_file_types
 
+  ; The browser control of the help is asked for its newest engine by this.
+  DeleteRegValue HKCU "Software\Microsoft\Internet Explorer\Main\FeatureControl\FEATURE_BROWSER_EMULATION" "zimbora.exe"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
   Delete "$INSTDIR\${UNINSTALLER}"
 SectionEnd

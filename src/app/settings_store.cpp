@@ -10,7 +10,10 @@ QString place(const QObject &window, const QString &key) {
 }  // namespace
 
 beállítástár::beállítástár()
-    : store_(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Zimbora"), QStringLiteral("szotar")) {}
+    : store_(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Zimbora"), QStringLiteral("szotar")) {
+    // Of this user only.
+    store_.setFallbacksEnabled(false);
+}
 
 beállítástár::beállítástár(const QString &file) : store_(file, QSettings::IniFormat) {}
 

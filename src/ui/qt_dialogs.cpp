@@ -13,6 +13,9 @@
 namespace {
 
 const QString word_list_filter = QStringLiteral("Szószedet fájl (*.szs)");
+/// Shows the same files. Where the toolkit finds "*." for saving, it has Windows add the extension, but a name is taken
+/// as it was chosen.
+const QString saved_word_list_filter = QStringLiteral("Szószedet fájl (*?szs)");
 const QString pdf_filter = QStringLiteral("PDF-fájl (*.pdf)");
 
 Answer answer_of(int button) {
@@ -107,6 +110,7 @@ std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, con
                                                           : QStringLiteral("Mentés másként"));
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     if (!proposal.contains(u'*'))
         dialog.selectFile(proposal);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
@@ -140,7 +144,7 @@ std::optional<QString> QtFileDialogs::open(const QString &proposal) {
 }
 
 std::optional<QString> QtFileDialogs::save(const QString &proposal) {
-    return choose(window_, QFileDialog::AcceptSave, proposal, word_list_filter);
+    return choose(window_, QFileDialog::AcceptSave, proposal, saved_word_list_filter);
 }
 
 std::optional<QString> QtFileDialogs::save_pdf(const QString &proposal) {

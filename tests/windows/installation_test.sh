@@ -26,7 +26,7 @@ remove() {
 }
 
 no_removal_is_running() {
-    ! pgrep -f 'Un_[A-Z]*\.exe' >/dev/null
+    ! pgrep -f '~nsu[0-9A-F]*\.tmp.Un\.exe' >/dev/null
 }
 
 start_installed_program() {
@@ -103,17 +103,21 @@ test_removal_leaves_lists_own_sounds_and_settings() {
     make_list "$program/animals.szs" dog:kutya cat:macska horse:ló
     cp "$program/hangok/gong.wav" "$program/hangok/saját.wav"
     "$wine" reg add "$settings_key\\frm_kirakó_beáll" /v nyelv /d 0 >/dev/null
+    "$wine" reg add "$engine_key" /v zimbora.exe /t REG_DWORD /d 11001 >/dev/null
+    bytes_of_lines ' 0' >"$program/kavaro/zenebeáll.ini"
     bytes_of_lines 'C:\lists\animals.szs' >"$drive/zbrmkfnh.ini"
     # When
     remove
     # Then
     expect_left_in_place program/animals.szs program/hangok/saját.wav program/kavaro/zenebeáll.ini
     expect_lines "$program/animals.szs" dog:kutya cat:macska horse:ló
+    expect_lines "$program/kavaro/zenebeáll.ini" ' 0'
     cmp "$shown_parts/program/hangok/gong.wav" "$program/hangok/saját.wav"
     expect_lines "$drive/zbrmkfnh.ini" 'C:\lists\animals.szs'
     setting_is frm_kirakó_beáll nyelv 0 || fail "A setting was lost."
     [[ ! -e $start_menu/Zimbora.lnk ]] || fail "The start menu still has it."
     ! has_registry_key "$uninstall_key" || fail "The list of programs still has it."
+    [[ -z $(registry_value "$engine_key" zimbora.exe) ]] || fail "What it asked of the browser control is still there."
     ! has_registry_key "$classes_key\\.szs" || fail "Word lists are still opened by it."
     ! has_registry_key "$classes_key\\Zimbora.WordList" || fail "Its file type is still there."
 }
@@ -165,7 +169,7 @@ test_an_update_in_another_folder_removes_the_former_program() {
     install '/D=C:\Zimbora'
     # Then
     expect_all_parts_in "$drive/Zimbora"
-    expect_left_in_place program/animals.szs program/kavaro/zenebeáll.ini
+    expect_left_in_place program/animals.szs
     place='C:\Zimbora'
     start_installed_program
     add_apple
@@ -182,14 +186,50 @@ test_a_running_program_is_neither_updated_nor_removed() {
     # Then
     ((status == 2)) || fail "The installer ended with code $status."
     expect_all_parts_in "$(unix_path "$place")"
-    # When
-    "$wine" "$place\\Eltávolítás.exe" /S
-    wait_until "the end of the removal" no_removal_is_running
+    # When: in its own place, so that its end can be awaited.
+    status=0
+    "$wine" "$place\\Eltávolítás.exe" /S "_?=$place" || status=$?
     # Then
+    ((status == 2)) || fail "The uninstaller ended with code $status."
     expect_all_parts_in "$(unix_path "$place")"
     [[ -e $(unix_path "$place")/Eltávolítás.exe ]] || fail "The way to remove it has gone."
     has_registry_key "$uninstall_key" || fail "The list of programs has lost it."
     add_apple
+}
+
+test_a_part_that_cannot_be_written_ends_the_installation() {
+    # Given
+    local status=0
+    mkdir -p "$(unix_path "$place")/program/am.txt"
+    # When
+    install || status=$?
+    # Then
+    ((status == 2)) || fail "The installer ended with code $status."
+    ! has_registry_key "$uninstall_key" || fail "The list of programs has it."
+}
+
+test_nothing_is_installed_unasked_among_files_of_others() {
+    # Given
+    local status=0 installer
+    echo "mine" >"$drive/lists/Olvassel.txt"
+    # When
+    install '/D=C:\lists' || status=$?
+    # Then
+    ((status == 2)) || fail "The installer ended with code $status."
+    [[ $(ls "$drive/lists") == Olvassel.txt && $(<"$drive/lists/Olvassel.txt") == mine ]] || fail "The folder was changed."
+    # When: on the pages of the installer that is asked.
+    "$wine" "$packages"/zimbora-*-windows-installer.exe '/D=C:\lists' &
+    wait_for_title "Zimbora Telepítő"
+    installer=$(xdotool getactivewindow)
+    press Return
+    wait_until "the page of the folder" page_has_box 'C:\lists'
+    press Return
+    wait_until "a message" another_window_is_in_front "$installer"
+    import -window root "${ZIMBORA_E2E_PICTURES:-$temp}/windows-installer-other-files.png"
+    press Escape
+    wait_until "the page again" page_has_box 'C:\lists'
+    # Then
+    [[ $(ls "$drive/lists") == Olvassel.txt ]] || fail "The folder was changed."
 }
 
 test_what_opened_word_lists_before_does_so_again_after_the_removal() {

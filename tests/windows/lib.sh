@@ -9,6 +9,7 @@ source "$here/../e2e/exercise_lib.sh"
 
 readonly settings_key='HKCU\Software\Zimbora\szotar'
 readonly uninstall_key='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Zimbora'
+readonly engine_key='HKCU\Software\Microsoft\Internet Explorer\Main\FeatureControl\FEATURE_BROWSER_EMULATION'
 readonly classes_key='HKCU\Software\Classes'
 readonly machine_classes_key='HKLM\Software\Classes'
 

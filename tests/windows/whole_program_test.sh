@@ -40,6 +40,17 @@ test_a_path_in_quotation_marks_on_the_command_line_is_opened() {
     expect_selected_pair dog kutya
 }
 
+test_a_name_is_taken_as_it_was_chosen() {
+    # Given
+    start_program
+    add_apple
+    # When
+    save_in_dialog "$lists\\fruit"
+    # Then
+    expect_lines "$drive/lists/fruit" apple:alma
+    [[ $(ls "$drive/lists") == fruit ]] || fail "Not the only list: $(ls "$drive/lists")"
+}
+
 test_music_is_playing_until_the_piece_ends() {
     # Given
     start_program

@@ -8,7 +8,7 @@
 #include "platform/windows/com_object.h"
 
 /// The place in a window of the program where an embedded control lives; it fills the whole inner surface. There is no
-/// frame with menus around it, and the control's pages may run no programs of their own.
+/// frame with menus around it, and the control's pages may bring no programs (ActiveX).
 class WebControlSite final : public ComObject<IOleClientSite, IOleInPlaceSite, IDispatch> {
   public:
     explicit WebControlSite(HWND window) : window_(window) {}
