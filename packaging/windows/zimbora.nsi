@@ -143,7 +143,7 @@ Function check_folder
   ${Loop}
   !insertmacro has_files_of_others $2
   ${If} $2 = 1
-    ${If} ${Cmd} `MessageBox MB_OKCANCEL|MB_ICONINFORMATION "Ebben a mappában már más fájlok vannak: $INSTDIR$\r$\n$\r$\nA \
+    ${If} ${Cmd} `MessageBox MB_OKCANCEL|MB_DEFBUTTON2|MB_ICONEXCLAMATION "Ebben a mappában már más fájlok vannak: $INSTDIR$\r$\n$\r$\nA \
         telepítés az azonos nevűeket felülírja. Így is ide telepíti?" IDCANCEL`
       Abort
     ${EndIf}
@@ -185,10 +185,11 @@ Section
   WriteUninstaller "$INSTDIR\${UNINSTALLER}"
   !insertmacro install_files
 
-  ; One in another folder goes when this one is there.
+  ; One in another folder goes when this one is there, which takes over its settings.
   ${If} $R1 != ""
   ${AndIf} $R1 != $INSTDIR
   ${AndIf} ${FileExists} "$R1\${UNINSTALLER}"
+    CopyFiles /SILENT "$R1\program\kavaro\*.ini" "$INSTDIR\program\kavaro"
     ExecWait '"$R1\${UNINSTALLER}" /S _?=$R1'
     Delete "$R1\${UNINSTALLER}"
     RMDir "$R1"
@@ -250,11 +251,7 @@ SectionEnd
   ${EndIf}
 !macroend
 
-Section "un.A program és a szótárak"
-  SectionIn RO
-  !insertmacro require_program_not_running "$INSTDIR"
-  !insertmacro remove_files
-  !insertmacro remove_when_unchanged "$INSTDIR\program\kavaro\zenebeáll.ini" "${PLAYLIST}"
+Function un.unregister
   Delete "${SHORTCUT}"
 
   ReadRegStr $1 HKCU "${CLASSES}\.szs" ""
@@ -276,7 +273,21 @@ Section "un.A program és a szótárak"
   ; The browser control of the help is asked for its newest engine by this.
   DeleteRegValue HKCU "Software\Microsoft\Internet Explorer\Main\FeatureControl\FEATURE_BROWSER_EMULATION" "zimbora.exe"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
+FunctionEnd
+
+Section "un.A program és a szótárak"
+  SectionIn RO
+  !insertmacro require_program_not_running "$INSTDIR"
+  !insertmacro remove_files
+  !insertmacro remove_when_unchanged "$INSTDIR\program\kavaro\zenebeáll.ini" "${PLAYLIST}"
   Delete "$INSTDIR\${UNINSTALLER}"
+
+  ; What Windows knows of the program may be another installation, when this folder was moved from its place.
+  ReadRegStr $1 HKCU "${UNINSTALL_KEY}" InstallLocation
+  ${If} $1 == $INSTDIR
+  ${OrIfNot} ${FileExists} "$1\${UNINSTALLER}"
+    Call un.unregister
+  ${EndIf}
 SectionEnd
 
 ; The files that the program keeps on drive C, or in its stand-in: see src/platform/drive_c.h.

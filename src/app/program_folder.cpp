@@ -96,6 +96,8 @@ std::optional<QString> folder_that_is_there(const ProgramFolderPlaces &places) {
         return QDir(places.executable).absolutePath();
     if (!places.build_bin.isEmpty() && QDir(places.executable) == QDir(places.build_bin))
         return QDir(places.staged).absolutePath();
+    if (places.installed_dictionaries.isEmpty())
+        return QDir(places.executable).absolutePath();
     return std::nullopt;
 }
 
@@ -114,8 +116,6 @@ QString find_program_folder(const ProgramFolderPlaces &places) {
         return *ready;
     const QDir own = own_folder(places);
     QDir().mkpath(own.path());
-    if (places.installed_dictionaries.isEmpty())
-        return own.absolutePath();
     const QDir installed(places.installed_dictionaries);
     link_dictionaries(installed, own);
     // Its address is the text of the folder immediately followed by this one.

@@ -23,6 +23,15 @@ TEST_F(ProgramFolder, is_the_staged_one_for_a_program_in_its_build_folder) {
     EXPECT_EQ(find_program_folder(started_from("bin")), place("staged"));
 }
 
+TEST_F(ProgramFolder, is_the_folder_of_the_executable_where_an_installation_is_one_folder) {
+    ProgramFolderPlaces places = started_from("other");
+    places.installed_dictionaries.clear();
+
+    EXPECT_EQ(find_program_folder(places), place("other"));
+    EXPECT_FALSE(program_folder_is_missing(places));
+    EXPECT_FALSE(QDir(place("documents/Zimbora")).exists());
+}
+
 TEST_F(ProgramFolder, is_made_with_a_copy_of_the_help_beside_it) {
     QDir(root_.path()).mkpath(QStringLiteral("share/help"));
     write_file(place("share/help/Kavaro súgó.mht"), "help");

@@ -165,15 +165,34 @@ test_an_update_in_another_folder_removes_the_former_program() {
     install
     former=$(unix_path "$place")
     make_list "$former/program/animals.szs" dog:kutya
+    bytes_of_lines csengő.wav >"$former/program/kavaro/grathang.ini"
     # When
     install '/D=C:\Zimbora'
-    # Then
+    # Then: with the settings of the former one.
+    expect_lines "$drive/Zimbora/program/kavaro/grathang.ini" csengő.wav
+    rm "$drive/Zimbora/program/kavaro/grathang.ini" "$former/program/kavaro/grathang.ini"
     expect_all_parts_in "$drive/Zimbora"
     expect_left_in_place program/animals.szs
     place='C:\Zimbora'
     start_installed_program
     add_apple
     press alt+F4
+}
+
+test_a_moved_program_removes_itself_only() {
+    # Given
+    install
+    mv "$(unix_path "$place")" "$drive/Zimbora"
+    install
+    # When
+    "$wine" 'C:\Zimbora\Eltávolítás.exe' /S
+    # Then
+    wait_until "the end of the removal" test ! -e "$drive/Zimbora"
+    wait_until "the end of its copy" no_removal_is_running
+    expect_all_parts_in "$(unix_path "$place")"
+    [[ $(registry_value "$uninstall_key" InstallLocation) == "$place" ]] || fail "The list of programs has lost it."
+    [[ $(registry_value "$classes_key\\.szs") == Zimbora.WordList ]] || fail "Word lists are not opened by it any more."
+    [[ -f $start_menu/Zimbora.lnk ]] || fail "There is no entry in the start menu."
 }
 
 test_a_running_program_is_neither_updated_nor_removed() {
