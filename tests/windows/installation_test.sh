@@ -34,6 +34,14 @@ start_installed_program() {
     start_program "$@"
 }
 
+save_apple_as_proposed() {
+    add_apple
+    press alt+f m
+    wait_for_title "Mentés másként"
+    press Return
+    wait_until "the saved list" main_window_names "$place\\program\\apple.szs"
+}
+
 expect_all_parts_in() {
     diff -r "$shown_parts" "$1" --exclude 'Eltávolítás.exe' || fail "The installation is not what was packed."
 }
@@ -59,12 +67,8 @@ test_the_installed_program_does_the_main_job_where_it_was_put() {
     expect_all_parts_in "$(unix_path "$place")"
     # When
     start_installed_program
-    add_apple
-    press alt+f m
-    wait_for_title "Mentés másként"
-    press Return
+    save_apple_as_proposed
     # Then
-    wait_until "the saved list" main_window_names "$place\\program\\apple.szs"
     expect_lines "$(unix_path "$place")/program/apple.szs" apple:alma
     expect_lines "$drive/zbrmkfnh.ini" "$place\\program\\apple.szs"
 }
@@ -331,12 +335,8 @@ test_the_portable_program_runs_from_where_it_is_unpacked() {
     # When
     place=$lists'\Zimbora'
     start_installed_program
-    add_apple
-    press alt+f m
-    wait_for_title "Mentés másként"
-    press Return
+    save_apple_as_proposed
     # Then
-    wait_until "the saved list" main_window_names "$place\\program\\apple.szs"
     expect_lines "$(unix_path "$place")/program/apple.szs" apple:alma
     rm "$(unix_path "$place")/program/apple.szs"
     expect_all_parts_in "$(unix_path "$place")"
