@@ -106,8 +106,8 @@ test_removal_leaves_lists_own_sounds_and_settings() {
     program=$(unix_path "$place")/program
     make_list "$program/animals.szs" dog:kutya cat:macska horse:ló
     cp "$program/hangok/gong.wav" "$program/hangok/saját.wav"
-    "$wine" reg add "$settings_key\\frm_kirakó_beáll" /v nyelv /d 0 >/dev/null
-    "$wine" reg add "$engine_key" /v zimbora.exe /t REG_DWORD /d 11001 >/dev/null
+    "$wine" reg add "$settings_key\\frm_kirakó_beáll" /v nyelv /d 0 /f >/dev/null
+    "$wine" reg add "$engine_key" /v zimbora.exe /t REG_DWORD /d 11001 /f >/dev/null
     bytes_of_lines ' 0' >"$program/kavaro/zenebeáll.ini"
     bytes_of_lines 'C:\lists\animals.szs' >"$drive/zbrmkfnh.ini"
     # When
@@ -129,7 +129,7 @@ test_removal_leaves_lists_own_sounds_and_settings() {
 test_removal_takes_the_settings_along_on_demand() {
     # Given
     install
-    "$wine" reg add "$settings_key\\frm_kirakó_beáll" /v nyelv /d 0 >/dev/null
+    "$wine" reg add "$settings_key\\frm_kirakó_beáll" /v nyelv /d 0 /f >/dev/null
     mkdir -p "$drive/zbrmk/angol"
     bytes_of_lines ' 0' ' 0' ' 0' >"$drive/zbrmk/angol/kisablak.ini"
     make_list "$(unix_path "$place")/program/animals.szs" dog:kutya
@@ -257,7 +257,7 @@ test_nothing_is_installed_unasked_among_files_of_others() {
 
 test_what_opened_word_lists_before_does_so_again_after_the_removal() {
     # Given
-    "$wine" reg add "$classes_key\\.szs" /ve /d Other.List >/dev/null
+    "$wine" reg add "$classes_key\\.szs" /ve /d Other.List /f >/dev/null
     install
     [[ $(registry_value "$classes_key\\.szs") == Zimbora.WordList ]] || fail "Word lists are not opened by the program."
     # An update must not take itself for what was there before.
