@@ -9,7 +9,7 @@ if(WIN32)
   set(zimbora_installed_silence_folder .)
   set(zimbora_installed_silence programnull.wav)
 else()
-  # The program makes each user's program folder from these; see src/app/program_folder.h.
+  # The program makes each user's program folder from these; see src/state/program_folder.h.
   set(zimbora_installed_executable "${CMAKE_INSTALL_BINDIR}")
   set(zimbora_installed_program share/zimbora)
   set(zimbora_installed_help share/zimbora/help)

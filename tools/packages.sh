@@ -14,10 +14,11 @@ build_packages=(
 display_packages=(xvfb openbox xdotool x11-utils xclip imagemagick procps)
 # What the tests take besides.
 test_packages=(
-    libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
-    clang clang-format clang-tidy libclang-rt-14-dev
+    libgtest-dev libgmock-dev clang-format
     xterm cups cups-client printer-driver-cups-pdf poppler-utils
 )
+# What the sanitizers, fuzzers, clang-tidy and the benchmarks take besides.
+thorough_test_packages=(libbenchmark-dev libsqlite3-dev clang clang-tidy libclang-rt-14-dev)
 # What making the Debian package takes besides.
 deb_packages=(dpkg-dev file)
 # What the tests of that package take besides.

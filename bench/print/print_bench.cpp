@@ -7,12 +7,12 @@
 #include <functional>
 #include <string>
 
-#include "app/program_folder.h"
 #include "platform/code_page.h"
 #include "print/page_layouts.h"
 #include "print/page_recorder.h"
 #include "print/pdf_document.h"
 #include "print/peak_memory.h"
+#include "state/program_folder.h"
 #include "support/bench_dictionary.h"
 #include "support/table.h"
 #include "wordlist/szs_file.h"

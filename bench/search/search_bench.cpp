@@ -11,13 +11,13 @@
 #include <string>
 #include <vector>
 
-#include "app/program_folder.h"
 #include "dictionary/dictionary_search.h"
 #include "search/hits.h"
 #include "search/mapped_search.h"
 #include "search/numbers.h"
 #include "search/program_search.h"
 #include "search/sqlite_search.h"
+#include "state/program_folder.h"
 #include "support/bench_dictionary.h"
 #include "support/table.h"
 

@@ -11,11 +11,11 @@
 #include <string>
 
 #include "app/program.h"
-#include "app/program_folder.h"
 #include "platform/code_page.h"
+#include "state/program_folder.h"
 #include "support/bench_dictionary.h"
 #include "support/table.h"
-#include "ui/list_box.h"
+#include "ui/controls/list_box.h"
 #include "window/turn_watch.h"
 
 // Keystrokes with very many hits, the one with the most among them, in the main window of the whole program.

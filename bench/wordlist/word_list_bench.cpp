@@ -8,9 +8,9 @@
 #include <string>
 #include <variant>
 
-#include "app/program_folder.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
+#include "state/program_folder.h"
 #include "support/bench_dictionary.h"
 #include "support/table.h"
 #include "wordlist/szs_file.h"

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/colour_copy.h"
-#include "ui/fonts.h"
+#include "ui/drawing/fonts.h"
+#include "ui/window/colour_copy.h"
 
 namespace {
 

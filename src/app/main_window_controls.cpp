@@ -3,7 +3,7 @@
 #include <QMenuBar>
 #include <limits>
 
-#include "ui/named.h"
+#include "ui/controls/named.h"
 
 namespace {
 

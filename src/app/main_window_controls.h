@@ -8,8 +8,8 @@
 #include <QRadioButton>
 #include <array>
 
-#include "ui/list_box.h"
-#include "ui/window.h"
+#include "ui/controls/list_box.h"
+#include "ui/window/window.h"
 #include "wordlist/recent_files.h"
 #include "wordlist/word_pair_list.h"
 

@@ -1,10 +1,10 @@
 #include <QCoreApplication>
 
 #include "app/main_window.h"
-#include "ui/about_window.h"
-#include "ui/system_description.h"
-#include "ui/text_window.h"
-#include "ui/timed_text_window.h"
+#include "ui/messages/about_window.h"
+#include "ui/messages/system_description.h"
+#include "ui/messages/text_window.h"
+#include "ui/messages/timed_text_window.h"
 
 namespace {
 

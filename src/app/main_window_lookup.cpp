@@ -2,13 +2,13 @@
 #include <QElapsedTimer>
 
 #include "app/main_window.h"
-#include "app/program_folder.h"
 #include "dictionary/byte_source.h"
 #include "dictionary/dictionary_search.h"
 #include "dictionary/meanings.h"
 #include "dictionary/order_tool.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
+#include "state/program_folder.h"
 
 namespace {
 

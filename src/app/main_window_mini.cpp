@@ -6,7 +6,7 @@
 #include "lookup/mini_window_file.h"
 #include "lookup/screen_place.h"
 #include "platform/files.h"
-#include "ui/twips.h"
+#include "ui/drawing/twips.h"
 
 namespace {
 

@@ -11,13 +11,13 @@
 #include <optional>
 #include <utility>
 
-#include "lookup/system_browser.h"
+#include "lookup/widgets/system_browser.h"
 #include "platform/information_tool.h"
-#include "ui/font_sized_style.h"
-#include "ui/fonts.h"
-#include "ui/splash_window.h"
-#include "ui/toolkit_texts.h"
-#include "ui/twips.h"
+#include "ui/drawing/font_sized_style.h"
+#include "ui/drawing/fonts.h"
+#include "ui/drawing/twips.h"
+#include "ui/messages/splash_window.h"
+#include "ui/messages/toolkit_texts.h"
 
 namespace {
 

@@ -3,19 +3,19 @@
 #include <QString>
 #include <memory>
 
-#include "app/global.h"
 #include "app/main_window.h"
-#include "app/program_folder.h"
-#include "app/settings_store.h"
 #include "platform/drive_c.h"
 #include "platform/multimedia_commands.h"
 #include "platform/system_random.h"
 #include "platform/termination_signal.h"
 #include "platform/top_most.h"
-#include "print/qt_printers.h"
-#include "ui/qt_dialogs.h"
-#include "ui/reference_window.h"
-#include "ui/window_fitting.h"
+#include "print/widgets/qt_printers.h"
+#include "state/global.h"
+#include "state/program_folder.h"
+#include "state/settings_store.h"
+#include "ui/messages/qt_dialogs.h"
+#include "ui/window/reference_window.h"
+#include "ui/window/window_fitting.h"
 
 /// The program's parts, made and wired. One object a process, made after the QApplication.
 class Program final {

@@ -3,8 +3,8 @@
 #include <QString>
 #include <array>
 
-#include "app/global.h"
 #include "platform/multimedia_commands.h"
+#include "state/global.h"
 
 /// Plays a wave sound and a MIDI piece, one of each at a time: a new one silences the one before it. Nothing waits for
 /// the end of a sound, and nothing tells that a file could not be played.

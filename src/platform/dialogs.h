@@ -6,7 +6,7 @@
 /// The user's answer to a question.
 enum class Answer { yes, no, cancel };
 
-/// Message boxes. Each call returns when the user has closed the box. The real ones are in ui/qt_dialogs.h.
+/// Message boxes. Each call returns when the user has closed the box. The real ones are in ui/messages/qt_dialogs.h.
 class MessageBoxes {
   public:
     virtual ~MessageBoxes() = default;

@@ -15,7 +15,7 @@ class PagePreview {
     [[nodiscard]] virtual PageRecorder &pages() = 0;
 };
 
-/// The system's printers. The real ones are in print/qt_printers.h.
+/// The system's printers. The real ones are in print/widgets/qt_printers.h.
 class Printers {
   public:
     virtual ~Printers() = default;

@@ -5,8 +5,8 @@
 #include <QVector>
 #include <optional>
 
-#include "app/global.h"
 #include "platform/dialogs.h"
+#include "state/global.h"
 #include "wordlist/word_pair_list.h"
 
 /// What the file procedures want of the window that shows the word list.

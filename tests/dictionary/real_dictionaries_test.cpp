@@ -7,13 +7,14 @@
 #include "support/files_for_tests.h"
 #include "support/memory_source.h"
 #include "support/printing.h"
+#include "support/test_places.h"
 
 namespace {
 
 /// The dictionaries that were made for this build.
 class RealDictionary : public testing::TestWithParam<const char *> {
   protected:
-    RealDictionary() : path_(QStringLiteral(ZIMBORA_TEST_PROGRAM "/") + QString::fromLatin1(GetParam())) {}
+    RealDictionary() : path_(test_places::in_program(QString::fromLatin1(GetParam()))) {}
 
     QString path_;
     QByteArray bytes_ = read_file(path_);

@@ -4,49 +4,31 @@
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
+#include <QSet>
 #include <optional>
 
 namespace {
 
 const QString source_folder = QStringLiteral(ZIMBORA_SOURCE_DIR);
 
-/// The floor on which a source stands: 0 the ground, 1 decisions without a widget, 2 ui/, 3 windows, 4 the roof.
-/// Nothing for a folder that is in none of the floors.
+/// The floor on which a source stands, read off its path: 0 the ground, 1 decisions without a widget, 2 ui/, 3 windows,
+/// 4 the roof. Nothing for a folder that is in none of the floors.
 std::optional<int> floor_of(const QString &file) {
-    static const QStringList ground_of_app{QStringLiteral("app/global"), QStringLiteral("app/settings_store"),
-                                           QStringLiteral("app/program_folder")};
-    static const QStringList shared_by_windows{QStringLiteral("exercises/direction_buttons"),
-                                               QStringLiteral("exercises/exercise_surroundings"),
-                                               QStringLiteral("exercises/game_menu"),
-                                               QStringLiteral("lookup/browser_plugin"),
-                                               QStringLiteral("lookup/control_browser"),
-                                               QStringLiteral("lookup/missing_browser"),
-                                               QStringLiteral("lookup/system_browser"),
-                                               QStringLiteral("lookup/web_browser"),
-                                               QStringLiteral("lookup/webengine/engine_browser"),
-                                               QStringLiteral("lookup/webengine/engine_page"),
-                                               QStringLiteral("lookup/webengine/engine_plugin"),
-                                               QStringLiteral("media/media_surroundings"),
-                                               QStringLiteral("media/list_buttons"),
-                                               QStringLiteral("print/drawn_job"),
-                                               QStringLiteral("print/page_view"),
-                                               QStringLiteral("print/print_progress"),
-                                               QStringLiteral("print/print_settings_controls"),
-                                               QStringLiteral("print/print_settings_printing"),
-                                               QStringLiteral("print/qt_printers")};
-    static const QMap<QString, int> floors{
-        {QStringLiteral("platform"), 0},  {QStringLiteral("wordlist"), 1}, {QStringLiteral("dictionary"), 1},
-        {QStringLiteral("exercises"), 1}, {QStringLiteral("lookup"), 1},   {QStringLiteral("media"), 1},
-        {QStringLiteral("print"), 1},     {QStringLiteral("ui"), 2},       {QStringLiteral("app"), 4}};
-    const QString stem = file.section(u'.', 0, 0);
-    if (ground_of_app.contains(stem))
-        return 0;
-    if (shared_by_windows.contains(stem))
-        return 3;
-    const auto folder = floors.constFind(file.section(u'/', 0, 0));
-    if (folder == floors.constEnd())
+    static const QMap<QString, int> floors{{QStringLiteral("platform"), 0},  {QStringLiteral("state"), 0},
+                                           {QStringLiteral("wordlist"), 1},  {QStringLiteral("dictionary"), 1},
+                                           {QStringLiteral("exercises"), 1}, {QStringLiteral("lookup"), 1},
+                                           {QStringLiteral("media"), 1},     {QStringLiteral("print"), 1},
+                                           {QStringLiteral("ui"), 2},        {QStringLiteral("app"), 4}};
+    const QStringList path = file.split(u'/');
+    const auto floor = floors.constFind(path.first());
+    if (floor == floors.constEnd())
         return std::nullopt;
-    return *folder == 1 && stem.endsWith(QStringLiteral("_window")) ? 3 : *folder;
+    return path.contains(QStringLiteral("widgets")) ? 3 : *floor;
+}
+
+/// The folder in which a source lies.
+QString place_of(const QString &file) {
+    return file.section(u'/', 0, -2);
 }
 
 QString folder_of(const QString &file) {
@@ -99,6 +81,42 @@ TEST(Includes, of_a_window_never_name_another_folders_window) {
             }
         }
     }
+}
+
+using Arrows = QMap<QString, QSet<QString>>;
+
+/// From each folder to those whose headers its sources include.
+Arrows arrows_between_folders() {
+    Arrows arrows;
+    for (const QString &file : sources()) {
+        for (const QString &header : includes_of(file)) {
+            if (place_of(header) != place_of(file))
+                arrows[place_of(file)].insert(place_of(header));
+        }
+    }
+    return arrows;
+}
+
+/// Everything that can be reached from a folder along the arrows.
+QSet<QString> reached_from(const QString &folder, const Arrows &arrows) {
+    QSet<QString> reached;
+    QStringList open{folder};
+    while (!open.isEmpty()) {
+        for (const QString &next : arrows.value(open.takeFirst())) {
+            if (!reached.contains(next)) {
+                reached.insert(next);
+                open.append(next);
+            }
+        }
+    }
+    return reached;
+}
+
+TEST(Includes, never_lead_back_to_the_folder_they_come_from) {
+    const Arrows arrows = arrows_between_folders();
+    ASSERT_GT(arrows.size(), 10);
+    for (const QString &folder : arrows.keys())
+        EXPECT_FALSE(reached_from(folder, arrows).contains(folder)) << folder.toStdString();
 }
 
 TEST(SystemHeaders, are_included_by_the_ports_only) {

@@ -10,6 +10,7 @@
 #include "support/files_for_tests.h"
 #include "support/memory_source.h"
 #include "support/printing.h"
+#include "support/test_places.h"
 
 namespace {
 
@@ -147,7 +148,7 @@ class ShorteningInTheRealDictionary : public testing::Test {
         return ::shortened(dictionary_, QString::fromUtf16(word));
     }
 
-    FileSource dictionary_{QStringLiteral(ZIMBORA_TEST_PROGRAM "/ma.txt")};
+    FileSource dictionary_{test_places::in_program(QStringLiteral("ma.txt"))};
 };
 
 TEST_F(ShorteningInTheRealDictionary, ends_at_the_longest_beginning_of_a_headword) {

@@ -4,10 +4,10 @@
 
 #include <QTemporaryDir>
 
-#include "print/drawn_job.h"
 #include "print/font_choice.h"
 #include "print/page_layouts.h"
 #include "print/pdf_job.h"
+#include "print/widgets/drawn_job.h"
 #include "support/files_for_tests.h"
 #include "support/pdf_reader.h"
 #include "support/printing.h"

@@ -12,7 +12,7 @@
 #include <QtTest/QTest>
 #include <functional>
 
-#include "exercises/exercise_surroundings.h"
+#include "exercises/common/widgets/exercise_surroundings.h"
 #include "support/fake_dialogs.h"
 #include "support/printing.h"
 #include "support/seeded_random.h"

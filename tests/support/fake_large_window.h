@@ -7,7 +7,7 @@
 #include <functional>
 #include <utility>
 
-#include "lookup/large_window.h"
+#include "lookup/widgets/large_window.h"
 
 /// A main window without a window: it finds the entries that begin with the searched text and notes what is asked of
 /// it, one call a line.

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "lookup/web_browser.h"
+#include "lookup/widgets/web_browser.h"
 
 /// A browser that notes what it is told to do, and stands where a test says.
 class FakeWebBrowser final : public WebBrowser {

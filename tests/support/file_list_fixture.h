@@ -8,7 +8,7 @@
 
 #include "support/files_for_tests.h"
 #include "support/printing.h"
-#include "ui/file_list.h"
+#include "ui/controls/file_list.h"
 
 /// A list of the sounds of a folder of its own.
 class FileList : public testing::Test {

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "support/files_for_tests.h"
+#include "support/test_places.h"
 
 /// The headwords of every line but the first, in file order.
 inline QByteArrayList headwords_of(const QByteArray &dictionary) {
@@ -20,8 +21,7 @@ inline QByteArrayList headwords_of(const QByteArray &dictionary) {
 
 /// `count` headwords from all over a dictionary of this build, "am.txt" or "ma.txt"; none when it has fewer.
 inline QStringList real_headwords(const char *dictionary, int count) {
-    const QByteArrayList all =
-        headwords_of(read_file(QStringLiteral(ZIMBORA_TEST_PROGRAM "/") + QString::fromLatin1(dictionary)));
+    const QByteArrayList all = headwords_of(read_file(test_places::in_program(QString::fromLatin1(dictionary))));
     QStringList chosen;
     if (all.size() < count)
         return chosen;

@@ -12,7 +12,7 @@
 #include <QtTest/QTest>
 #include <utility>
 
-#include "lookup/help_window.h"
+#include "lookup/widgets/help_window.h"
 #include "support/fake_dialogs.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"

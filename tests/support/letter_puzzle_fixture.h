@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "exercises/letter_puzzle_window.h"
+#include "exercises/letter_puzzle/widgets/letter_puzzle_window.h"
 #include "support/exercise_window_fixture.h"
 
 /// A letter puzzle, what is seen of it, and what a user does with it. Places and sizes are pixels of the frame.

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "exercises/hungarian_text.h"
+#include "exercises/common/hungarian_text.h"
 
 /// The letters of a text, with a bar between two: "cs|é|sz|e".
 inline QString letters_of(const kszöveg &text) {

@@ -13,13 +13,13 @@
 #include <functional>
 #include <memory>
 
-#include "media/media_surroundings.h"
+#include "media/widgets/media_surroundings.h"
 #include "support/fake_dialogs.h"
 #include "support/fake_multimedia.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 #include "support/window_checks.h"
-#include "ui/list_box.h"
+#include "ui/controls/list_box.h"
 
 /// A window of the sounds or the music, with a program folder and a drive C of its own, a device that notes what it is
 /// told, and message boxes that are noted, not shown.

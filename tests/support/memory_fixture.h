@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "exercises/memory_window.h"
+#include "exercises/memory/widgets/memory_window.h"
 #include "support/exercise_window_fixture.h"
 #include "support/timers.h"
-#include "ui/fonts.h"
+#include "ui/drawing/fonts.h"
 
 /// A memory game, what is seen of it, and what a user does with it. The steps of its animations follow each other
 /// without waiting.

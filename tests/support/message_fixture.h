@@ -9,8 +9,8 @@
 
 #include "support/printing.h"
 #include "support/window_checks.h"
-#include "ui/reference_window.h"
-#include "ui/window_fitting.h"
+#include "ui/window/reference_window.h"
+#include "ui/window/window_fitting.h"
 
 /// What the small windows in front of the main window are given.
 class MessageTest : public testing::Test {

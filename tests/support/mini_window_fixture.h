@@ -11,7 +11,7 @@
 #include <QtTest/QTest>
 #include <memory>
 
-#include "lookup/mini_window.h"
+#include "lookup/widgets/mini_window.h"
 #include "support/fake_desktop.h"
 #include "support/fake_dialogs.h"
 #include "support/fake_large_window.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exercises/multiple_choice_window.h"
+#include "exercises/multiple_choice/widgets/multiple_choice_window.h"
 #include "support/exercise_window_fixture.h"
 
 /// A multiple choice, what is seen of it, and what a user does with it.

@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-#include "media/music_settings_window.h"
+#include "media/widgets/music_settings_window.h"
 #include "support/media_window_fixture.h"
 
 /// The settings window of the background music, over four MIDI files.

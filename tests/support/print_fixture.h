@@ -14,7 +14,7 @@
 #include <QTimer>
 #include <memory>
 
-#include "print/print_settings_window.h"
+#include "print/widgets/print_settings_window.h"
 #include "support/fake_dialogs.h"
 #include "support/fake_printers.h"
 #include "support/files_for_tests.h"

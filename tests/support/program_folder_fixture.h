@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <string>
 
-#include "app/program_folder.h"
+#include "state/program_folder.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 

@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-#include "media/sound_settings_window.h"
+#include "media/widgets/sound_settings_window.h"
 #include "support/media_window_fixture.h"
 
 /// The settings window of the feedback sounds, over four wave files.

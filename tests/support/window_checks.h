@@ -11,8 +11,8 @@
 #include <QtTest/QTest>
 #include <functional>
 
-#include "ui/picture_box.h"
-#include "ui/window.h"
+#include "ui/controls/picture_box.h"
+#include "ui/window/window.h"
 
 // What the tests of windows ask of a window, whichever it is.
 

@@ -4,7 +4,7 @@
 #include <QLocale>
 #include <QStandardPaths>
 
-#include "ui/fonts.h"
+#include "ui/drawing/fonts.h"
 
 // Style, type face and locale are those of the tests, whatever desktop they run on.
 int main(int argc, char *argv[]) {

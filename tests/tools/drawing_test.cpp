@@ -12,7 +12,7 @@
 
 #include "drawing/record.h"
 #include "support/files_for_tests.h"
-#include "ui/svg_picture.h"
+#include "ui/drawing/svg_picture.h"
 
 namespace {
 

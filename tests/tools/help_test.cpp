@@ -9,6 +9,7 @@
 #include "help/web_archive.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
+#include "support/test_places.h"
 #include "support/web_archive_reader.h"
 
 namespace {
@@ -130,7 +131,7 @@ TEST_F(HelpPacker, turns_links_between_pages_into_places_of_the_document) {
 
 TEST_F(HelpPacker, leaves_no_link_that_leads_to_nothing_in_the_real_help) {
     const QString html = QString::fromUtf8(
-        parts_of(read_file(QStringLiteral(ZIMBORA_TEST_PROGRAM "kavaro/help/Kavaro súgó.mht"))).value(0).bytes);
+        parts_of(read_file(test_places::program() + QStringLiteral("kavaro/help/Kavaro súgó.mht"))).value(0).bytes);
     static const QRegularExpression link(QStringLiteral("href=\"#([^\"]+)\""));
 
     int links = 0;

@@ -7,11 +7,12 @@
 
 #include "support/files_for_tests.h"
 #include "support/printing.h"
+#include "support/test_places.h"
 #include "tools/midi_reader.h"
 
 namespace {
 
-const QString program = QStringLiteral(ZIMBORA_TEST_PROGRAM);
+const QString program = test_places::program();
 
 QStringList piece_names() {
     return QDir(program + QStringLiteral("/zenemid")).entryList({QStringLiteral("*.mid")});

@@ -7,11 +7,12 @@
 
 #include "support/files_for_tests.h"
 #include "support/printing.h"
+#include "support/test_places.h"
 #include "tools/wave_reader.h"
 
 namespace {
 
-const QString program = QStringLiteral(ZIMBORA_TEST_PROGRAM);
+const QString program = test_places::program();
 
 QByteArrayList sound_names() {
     QByteArrayList names;

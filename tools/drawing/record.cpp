@@ -5,7 +5,7 @@
 #include <QPicture>
 #include <QSvgRenderer>
 
-#include "ui/recorded_size.h"
+#include "ui/drawing/recorded_size.h"
 
 QByteArray record_drawing(const QByteArray &svg) {
     QSvgRenderer drawing(svg);

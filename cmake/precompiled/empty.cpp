@@ -1,0 +1,1 @@
+// Nothing: a target whose header is precompiled needs a source.

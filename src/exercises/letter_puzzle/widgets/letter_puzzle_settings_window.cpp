@@ -1,0 +1,27 @@
+#include "exercises/letter_puzzle/widgets/letter_puzzle_settings_window.h"
+
+#include "ui/controls/named.h"
+
+namespace {
+
+const QString nyelv_kulcs = QStringLiteral("nyelv");
+
+}  // namespace
+
+frm_kirakó_beáll::frm_kirakó_beáll(const feladatkörnyezet &környezet)
+    : feladatbeállító(környezet, QStringLiteral("frm_kirakó_beáll"), QStringLiteral("Kirakó - Beállítások")),
+      keret_nyelv_(
+          named(new QGroupBox(QStringLiteral("A kikérdezés nyelve")), u"keret_nyelv", u"A kikérdezés nyelve")) {
+    const QRectF nyelvkeret = keret(keretszéle, static_cast<int>(irány_.nyelvoptb.size()));
+    elhelyez(keret_nyelv_, nyelvkeret);
+    irány_.elhelyez(*this, [&](int i) { return sor(nyelvkeret, i); });
+    elkészül(nyelvkeret.bottom() + keretszéle);
+}
+
+void frm_kirakó_beáll::betölt() {
+    irány_.kijelöl(k_.beállítások.beállításolvas(*this, nyelv_kulcs, iránygombok::alap));
+}
+
+void frm_kirakó_beáll::ment() {
+    k_.beállítások.beállításment(*this, nyelv_kulcs, static_cast<int>(merre()));
+}

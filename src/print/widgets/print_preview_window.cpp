@@ -1,0 +1,114 @@
+#include "print/widgets/print_preview_window.h"
+
+#include <QShortcut>
+
+#include "ui/controls/named.h"
+#include "ui/drawing/twips.h"
+#include "ui/window/colour_copy.h"
+
+namespace {
+
+// The design, in twips.
+constexpr double margó = 120;
+constexpr double köz = 60;
+constexpr double csoportköz = 240;
+constexpr double sor = 420;
+constexpr double kép_teteje = margó + sor + margó;
+constexpr double kép_magassága = 8400;
+
+constexpr double képernyőrész = 0.85;
+
+}  // namespace
+
+frm_nyomtatásikép::frm_nyomtatásikép(const Module_hasznos &hasznos, const ablak &főablak, const PageRecorder &lapok)
+    : ablak(QStringLiteral("frm_nyomtatásikép"), menü::nincs, keret::átméretezhető),
+      lapok_(lapok),
+      idáig_(margó),
+      cmd_első_(gomb(u"cmd_első", QStringLiteral("&Első"), 900, {Qt::Key_Home, Qt::CTRL | Qt::Key_Home},
+                     &frm_nyomtatásikép::cmd_első_Click)),
+      cmd_előző_(
+          gomb(u"cmd_előző", QStringLiteral("E&lőző"), 900, {Qt::Key_PageUp}, &frm_nyomtatásikép::cmd_előző_Click)),
+      UpDown_oldal_(named(new QSpinBox, u"UpDown_oldal", u"Oldal")),
+      cmd_következő_(nullptr),
+      cmd_utolsó_(nullptr),
+      kép_(named(new PageView(lapok), u"kép", u"Az oldal képe")) {
+    setWindowTitle(QStringLiteral("Nyomtatási kép"));
+    elhelyezés();
+    global::színmásol(*this, főablak);
+    Module_hasznos::betűméretez(*this, hasznos.ablakméretez(*this, képernyőrész));
+    hasznos.ablakstílus(*this);
+    connect(UpDown_oldal_, &QSpinBox::valueChanged, this, [this](int oldal) { lapra(oldal - 1); });
+    lapra(0);
+}
+
+QPushButton *frm_nyomtatásikép::gomb(const char16_t *név, const QString &felirat, double szélesség,
+                                     const QList<QKeySequence> &kulcsok, void (frm_nyomtatásikép::*mit)()) {
+    auto *új = named(new QPushButton(felirat), név);
+    új->setAccessibleName(QString(felirat).remove(u'&'));
+    elhelyez(új, {idáig_, margó, szélesség, sor});
+    idáig_ += szélesség + köz;
+    connect(új, &QPushButton::clicked, this, [this, mit] { (this->*mit)(); });
+    for (const QKeySequence &kulcs : kulcsok)
+        connect(new QShortcut(kulcs, this), &QShortcut::activated, this, [this, mit] { (this->*mit)(); });
+    return új;
+}
+
+void frm_nyomtatásikép::elhelyezés() {
+    UpDown_oldal_->setRange(1, lapok_.page_count());
+    UpDown_oldal_->setSuffix(QStringLiteral(" / %1").arg(lapok_.page_count()));
+    UpDown_oldal_->setAlignment(Qt::AlignCenter);
+    UpDown_oldal_->setKeyboardTracking(false);
+    elhelyez(UpDown_oldal_, {idáig_, margó, 1700, sor});
+    idáig_ += 1700 + köz;
+    cmd_következő_ = gomb(u"cmd_következő", QStringLiteral("&Következő"), 1150, {Qt::Key_PageDown},
+                          &frm_nyomtatásikép::cmd_következő_Click);
+    cmd_utolsó_ = gomb(u"cmd_utolsó", QStringLiteral("&Utolsó"), 900, {Qt::Key_End, Qt::CTRL | Qt::Key_End},
+                       &frm_nyomtatásikép::cmd_utolsó_Click);
+    idáig_ += csoportköz;
+    gomb(u"cmd_kicsinyít", QStringLiteral("Kic&sinyít"), 1050, {Qt::Key_Minus, Qt::CTRL | Qt::Key_Minus},
+         &frm_nyomtatásikép::cmd_kicsinyít_Click);
+    gomb(u"cmd_nagyít", QStringLiteral("Na&gyít"), 900, {Qt::Key_Plus, Qt::CTRL | Qt::Key_Plus},
+         &frm_nyomtatásikép::cmd_nagyít_Click);
+    gomb(u"cmd_egészoldal", QStringLiteral("Egész &oldal"), 1250, {}, &frm_nyomtatásikép::cmd_egészoldal_Click);
+    gomb(u"cmd_oldalszélesség", QStringLiteral("Ol&dalszélesség"), 1500, {},
+         &frm_nyomtatásikép::cmd_oldalszélesség_Click);
+    idáig_ += csoportköz;
+    QPushButton *bezár = gomb(u"cmd_bezár", QStringLiteral("&Bezár"), 900, {}, &frm_nyomtatásikép::cmd_bezár_Click);
+    mégsegombbeállít(bezár);
+    connect(kép_, &PageView::turned, this, [this](bool előre) { lapra(kép_->page() + (előre ? 1 : -1)); });
+    elhelyez(kép_, {margó, kép_teteje, idáig_ - köz - margó, kép_magassága});
+}
+
+void frm_nyomtatásikép::showEvent(QShowEvent *event) {
+    ablak::showEvent(event);
+    kép_->setFocus();
+}
+
+void frm_nyomtatásikép::Form_Resize() {
+    const QRectF eddig = hely(kép_);
+    elhelyez(kép_, {eddig.left(), eddig.top(), belsőszélesség() - eddig.left() - margó,
+                    belsőmagasság() - eddig.top() - margó});
+}
+
+void frm_nyomtatásikép::cmd_kicsinyít_Click() {
+    kép_->zoom(1 / PageView::zoom_step);
+}
+
+void frm_nyomtatásikép::cmd_nagyít_Click() {
+    kép_->zoom(PageView::zoom_step);
+}
+
+void frm_nyomtatásikép::lapra(int lap) {
+    kép_->show_page(lap);
+    UpDown_oldal_->setValue(kép_->page() + 1);
+    gombokat_beállít();
+}
+
+void frm_nyomtatásikép::gombokat_beállít() {
+    const bool első = kép_->page() == 0;
+    const bool utolsó = kép_->page() == lapok_.page_count() - 1;
+    cmd_első_->setDisabled(első);
+    cmd_előző_->setDisabled(első);
+    cmd_következő_->setDisabled(utolsó);
+    cmd_utolsó_->setDisabled(utolsó);
+}

@@ -1,0 +1,152 @@
+#include "ui/messages/qt_dialogs.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <algorithm>
+
+namespace {
+
+const QString word_list_filter = QStringLiteral("Szószedet fájl (*.szs)");
+/// Shows the same files. Where the toolkit finds "*." for saving, it has Windows add the extension, but a name is taken
+/// as it was chosen.
+const QString saved_word_list_filter = QStringLiteral("Szószedet fájl (*?szs)");
+const QString pdf_filter = QStringLiteral("PDF-fájl (*.pdf)");
+
+Answer answer_of(int button) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return Answer::yes;
+        case QMessageBox::No:
+            return Answer::no;
+        default:
+            return Answer::cancel;
+    }
+}
+
+/// What a box stands in front of: a modal window, which would cover the others' boxes; else `window`, or another window
+/// of the program that is seen while that one is hidden.
+QWidget *seen(QWidget *window) {
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    if (window && window->isVisible())
+        return window;
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto visible = std::find_if(windows.begin(), windows.end(),
+                                      [](auto *one) { return one->isVisible() && one->windowType() == Qt::Window; });
+    return visible == windows.end() ? nullptr : *visible;
+}
+
+/// A message is plain text: a word that looks like markup must not be taken for it.
+class Message : public QMessageBox {
+  public:
+    Message(QWidget *window, const QString &title, const QString &text, Icon icon, StandardButtons buttons)
+        : QMessageBox(icon, title, text, buttons, seen(window)) {
+        setTextFormat(Qt::PlainText);
+    }
+};
+
+/// A question without a cancel button: only its buttons answer it, not Escape nor the X of its frame, which could mean
+/// either answer.
+class UnavoidableQuestion final : public Message {
+  public:
+    UnavoidableQuestion(QWidget *window, const QString &title, const QString &text)
+        : Message(window, title, text, Question, Yes | No) {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        // The end of the program closes every window first, and does not come when one of them refuses.
+        if (watched == qApp && event->type() == QEvent::Quit)
+            program_ends_ = true;
+        return Message::eventFilter(watched, event);
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override {
+        if (!event->matches(QKeySequence::Cancel))
+            Message::keyPressEvent(event);
+    }
+
+    void closeEvent(QCloseEvent *event) override {
+        if (program_ends_)
+            Message::closeEvent(event);
+        else
+            event->ignore();
+    }
+
+  private:
+    bool program_ends_ = false;
+};
+
+/// Tells folders from files and looks into neither: the toolkit's own reads every file of a folder to name its kind,
+/// which takes long on a slow drive and does not end for a file that never does.
+class PlainKinds final : public QFileIconProvider {
+  public:
+    using QFileIconProvider::icon;
+
+    [[nodiscard]] QIcon icon(const QFileInfo &info) const override { return icon(info.isDir() ? Folder : File); }
+
+    [[nodiscard]] QString type(const QFileInfo &info) const override {
+        return info.isDir() ? QStringLiteral("Mappa") : QStringLiteral("Fájl");
+    }
+};
+
+std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, const QString &proposal,
+                              const QString &filter) {
+    PlainKinds kinds;
+    QFileDialog dialog(seen(window), QString(), QFileInfo(proposal).path(), filter);
+    dialog.setIconProvider(&kinds);
+    dialog.setAcceptMode(mode);
+    // The system's own dialog has no title otherwise.
+    dialog.setWindowTitle(mode == QFileDialog::AcceptOpen ? QStringLiteral("Megnyitás")
+                                                          : QStringLiteral("Mentés másként"));
+    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    if (!proposal.contains(u'*'))
+        dialog.selectFile(proposal);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return QDir::toNativeSeparators(dialog.selectedFiles().front());
+}
+
+}  // namespace
+
+void QtMessageBoxes::tell(const QString &text) {
+    Message(window_, QStringLiteral("Zimbora"), text, QMessageBox::Warning, QMessageBox::Ok).exec();
+}
+
+Answer QtMessageBoxes::ask_yes_no(const QString &title, const QString &text) {
+    // Anything but Yes is No: the end of the program, too.
+    return UnavoidableQuestion(window_, title, text).exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+Answer QtMessageBoxes::ask_yes_no_cancel(const QString &title, const QString &text) {
+    return answer_of(
+        Message(window_, title, text, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)
+            .exec());
+}
+
+void QtMessageBoxes::beep() {
+    QApplication::beep();
+}
+
+std::optional<QString> QtFileDialogs::open(const QString &proposal) {
+    return choose(window_, QFileDialog::AcceptOpen, proposal, word_list_filter);
+}
+
+std::optional<QString> QtFileDialogs::save(const QString &proposal) {
+    return choose(window_, QFileDialog::AcceptSave, proposal, saved_word_list_filter);
+}
+
+std::optional<QString> QtFileDialogs::save_pdf(const QString &proposal) {
+    return choose(window_, QFileDialog::AcceptSave, proposal, pdf_filter);
+}

@@ -1,0 +1,67 @@
+#include "ui/messages/result_message_window.h"
+
+#include "ui/window/colour_copy.h"
+
+namespace {
+
+constexpr double margó = 120;
+constexpr QSizeF sorméret(6000, 900);
+constexpr QSizeF gombméret(1500, 600);
+
+}  // namespace
+
+üzenet::üzenet(const Module_hasznos &hasznos, const ablak &főablak, const QString &szószedet)
+    : ablak(QStringLiteral("üzenet")),
+      hasznos_(hasznos),
+      főablak_(főablak),
+      cmd_ok_(new QPushButton(QStringLiteral("Ok"))),
+      Timer1_(new QTimer(this)) {
+    setWindowTitle(szószedet + QStringLiteral(" szószedet"));
+    cmd_ok_->setObjectName(QStringLiteral("cmd_ok"));
+    cmd_ok_->setAccessibleName(QStringLiteral("Ok"));
+    connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
+    Timer1_->setObjectName(QStringLiteral("Timer1"));
+    Timer1_->setSingleShot(true);
+    Timer1_->setTimerType(Qt::PreciseTimer);
+    connect(Timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
+    alapgombbeállít(cmd_ok_);
+    mégsegombbeállít(cmd_ok_);
+}
+
+void üzenet::sorokat_rak(int darab) {
+    double fent = margó;
+    for (int i = 0; i < darab; ++i) {
+        auto *sor = new PictureBox;
+        sor->setObjectName(QStringLiteral("Pic_szöveg(%1)").arg(i));
+        Pic_szöveg_.append(sor);
+        elhelyez(sor, QRectF(QPointF(margó, fent), sorméret));
+        fent += sorméret.height();
+    }
+    elhelyez(cmd_ok_, QRectF(QPointF(margó + (sorméret.width() - gombméret.width()) / 2, fent + margó), gombméret));
+}
+
+void üzenet::üzenetmutat(qint16 ezredmásodperc, const QStringList &sorok) {
+    Q_ASSERT(!sorok.isEmpty() && sorok.size() <= 255);
+    sorokat_rak(static_cast<int>(sorok.size()));
+    global::színmásol(*this, főablak_);
+    hasznos_.ablakméretez(*this, 0.7);
+    hasznos_.ablakstílus(*this);
+    Module_hasznos::szövegbeigazít(*cmd_ok_, QString());
+    for (qsizetype i = 0; i < sorok.size(); ++i) {
+        Pic_szöveg_[i]->set_background(háttérszín());
+        Module_hasznos::szövegbeigazít(*Pic_szöveg_[i], sorok[i]);
+        Pic_szöveg_[i]->setAccessibleName(sorok[i]);
+    }
+    Timer1_->start(ezredmásodperc);
+    cmd_ok_->setFocus();
+    mutatmodálisan();
+    Timer1_->stop();
+}
+
+void üzenet::cmd_ok_Click() {
+    close();
+}
+
+void üzenet::Timer1_Timer() {
+    close();
+}

@@ -1,0 +1,346 @@
+#include "exercises/letter_puzzle/widgets/letter_puzzle_window.h"
+
+#include <QSet>
+
+#include "support/letter_puzzle_fixture.h"
+
+namespace {
+
+using LetterPuzzleWindow = LetterPuzzleTest;
+
+TEST_F(LetterPuzzleWindow, has_every_control_under_its_name_with_its_caption) {
+    start(10);
+
+    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_kirakó"));
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Kirakó"));
+    EXPECT_EQ(label(*window_, "Label_főcím"), QStringLiteral("Rakd ki a szót az összekevert betűkből!"));
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), QStringLiteral("Ok"));
+    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_TRUE(question().startsWith(QStringLiteral("szó")));
+    EXPECT_EQ(tiles().size(), 5);
+    for (const LetterTile *one : tiles())
+        EXPECT_TRUE(one->isVisible());
+}
+
+TEST_F(LetterPuzzleWindow, has_every_menu_item_under_its_name_with_its_caption) {
+    start(2);
+
+    EXPECT_EQ(control<QMenu>(*window_, "mnu_fájl")->title(), QStringLiteral("&Fájl"));
+    EXPECT_EQ(menu_items(),
+              QStringList({QStringLiteral("mnu_fájl_újrakezd &Újrakezd"), QStringLiteral("mnu_fájl_beáll &Beállítások"),
+                           QStringLiteral("mnu_fájl_elválaszt"), QStringLiteral("mnu_fájl_kilép &Kilép")}));
+}
+
+TEST_F(LetterPuzzleWindow, has_a_tile_for_each_hungarian_letter_of_a_hungarian_answer) {
+    store("nyelv", 0);
+    start(grape);
+
+    EXPECT_EQ(question(), QStringLiteral("grape"));
+    EXPECT_EQ(answer(), QStringLiteral("sz ő l ő"));
+}
+
+TEST_F(LetterPuzzleWindow, has_a_tile_for_each_character_of_an_english_answer) {
+    start({{QStringLiteral("ship"), QStringLiteral("hajó")}});
+
+    EXPECT_EQ(question(), QStringLiteral("hajó"));
+    EXPECT_EQ(answer(), QStringLiteral("s h i p"));
+}
+
+TEST_F(LetterPuzzleWindow, has_a_tile_for_the_blank_between_two_words_of_the_answer) {
+    start({{QStringLiteral("to go"), QStringLiteral("elindul valahová")}});
+
+    EXPECT_EQ(question(), QStringLiteral("elindul valahová"));
+    EXPECT_EQ(answer(), QStringLiteral("t o _ g o"));
+}
+
+TEST_F(LetterPuzzleWindow, is_right_only_with_the_blank_in_its_place) {
+    start({{QStringLiteral("to go"), QStringLiteral("elindul")}});
+
+    lay_out({2, 0, 1, 3, 4});
+    check();
+    EXPECT_EQ(messages_.back().lines, wrong_message);
+
+    answer_rightly();
+    EXPECT_EQ(messages_.back().lines, QStringList(QStringLiteral("to go - elindul")));
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(LetterPuzzleWindow, is_right_with_equal_letters_exchanged) {
+    store("nyelv", 0);
+    start(grape);
+
+    lay_out({0, 3, 2, 1});
+    check();
+
+    EXPECT_EQ(messages_.back().lines, QStringList(QStringLiteral("grape - szőlő")));
+}
+
+TEST_F(LetterPuzzleWindow, tells_the_language_of_the_answer) {
+    start(grape);
+    EXPECT_EQ(label(*window_, "Label1"), QStringLiteral("Angolul:"));
+
+    store("nyelv", 0);
+    start(grape);
+    EXPECT_EQ(label(*window_, "Label1"), QStringLiteral("Magyarul:"));
+}
+
+TEST_F(LetterPuzzleWindow, reports_a_right_answer_with_its_pair_and_asks_on) {
+    start(10);
+    const QString asked = question();
+    during_message_ = [&] {
+        EXPECT_EQ(question(), asked);
+        EXPECT_TRUE(closed_up());
+        EXPECT_EQ(row(), answer());
+    };
+
+    answer_rightly();
+
+    ASSERT_EQ(messages_.size(), 1);
+    EXPECT_EQ(messages_[0].milliseconds, 2000);
+    EXPECT_EQ(messages_[0].lines, QStringList(QStringLiteral("word%1 - szó%1").arg(asked.mid(3))));
+    EXPECT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    EXPECT_NE(question(), asked);
+    EXPECT_EQ(answer(), QStringLiteral("w o r d ") + question().mid(3));
+}
+
+TEST_F(LetterPuzzleWindow, reports_english_first_whichever_side_is_asked) {
+    store("nyelv", 0);
+    start(grape);
+
+    answer_rightly();
+
+    EXPECT_EQ(messages_[0].lines, QStringList(QStringLiteral("grape - szőlő")));
+}
+
+TEST_F(LetterPuzzleWindow, reports_a_wrong_answer_and_keeps_the_word_as_it_was_laid) {
+    start(10);
+    const QString asked = question();
+
+    answer_wrongly();
+
+    ASSERT_EQ(messages_.size(), 1);
+    EXPECT_EQ(messages_[0].milliseconds, 2000);
+    EXPECT_EQ(messages_[0].lines, wrong_message);
+    EXPECT_EQ(question(), asked);
+    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_TRUE(closed_up());
+    EXPECT_EQ(row(), asked.mid(3) + QStringLiteral(" d r o w"));
+    EXPECT_TRUE(window_->isVisible());
+}
+
+TEST_F(LetterPuzzleWindow, does_not_ask_a_failed_word_again) {
+    start(3);
+    QSet<QString> asked;
+
+    for (int i = 0; i < 3; ++i) {
+        asked.insert(question());
+        answer_wrongly();
+        answer_rightly();
+    }
+
+    EXPECT_EQ(asked.size(), 3);
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(LetterPuzzleWindow, closes_after_the_last_word_without_another_message) {
+    start(3);
+    QSet<QString> asked;
+
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(window_->isVisible());
+        EXPECT_EQ(counter(), QStringLiteral(" %1/ 3").arg(i + 1));
+        asked.insert(question());
+        answer_rightly();
+    }
+
+    EXPECT_FALSE(window_->isVisible());
+    EXPECT_EQ(asked.size(), 3);
+    EXPECT_EQ(messages_.size(), 3);
+}
+
+TEST_F(LetterPuzzleWindow, ends_its_modal_display_after_the_last_word) {
+    load(grape);
+    bool was_open = false;
+
+    show_modally(*window_, [&] {
+        was_open = window_->isVisible();
+        answer_rightly();
+    });
+
+    EXPECT_TRUE(was_open);
+    EXPECT_EQ(messages_.size(), 1);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(LetterPuzzleWindow, does_not_ask_on_when_it_was_closed_during_the_message) {
+    start(3);
+    const QString asked = question();
+    during_message_ = [this] { window_->close(); };
+
+    answer_rightly();
+
+    EXPECT_FALSE(window_->isVisible());
+    EXPECT_EQ(question(), asked);
+    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+}
+
+TEST_F(LetterPuzzleWindow, újrakezd_begins_anew_in_the_middle_of_a_game) {
+    start(3);
+    answer_rightly();
+    answer_rightly();
+    EXPECT_EQ(counter(), QStringLiteral(" 3/ 3"));
+
+    trigger("mnu_fájl_újrakezd");
+
+    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+    messages_.clear();
+    for (int i = 0; i < 3; ++i)
+        answer_rightly();
+    EXPECT_EQ(messages_.size(), 3);
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(LetterPuzzleWindow, uses_a_saved_direction_from_the_next_word_on) {
+    start(3);
+    const QString asked = question();
+    const QVector<QRect> lying = places();
+
+    in_settings([](frm_kirakó_beáll &settings) {
+        EXPECT_EQ(settings.windowModality(), Qt::ApplicationModal);
+        click(settings, "nyelvoptb(0)");
+        click(settings, "cmd_ok");
+    });
+
+    EXPECT_EQ(question(), asked);
+    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+    EXPECT_EQ(places(), lying);
+    answer_rightly();
+    EXPECT_TRUE(question().startsWith(QStringLiteral("word")));
+    EXPECT_TRUE(answer().startsWith(QStringLiteral("sz ó ")));
+    EXPECT_EQ(label(*window_, "Label1"), QStringLiteral("Magyarul:"));
+}
+
+TEST_F(LetterPuzzleWindow, goes_on_as_before_when_the_settings_are_cancelled) {
+    start(3);
+
+    in_settings([](frm_kirakó_beáll &settings) {
+        click(settings, "nyelvoptb(0)");
+        click(settings, "cmd_mégsem");
+    });
+
+    answer_rightly();
+    EXPECT_TRUE(question().startsWith(QStringLiteral("szó")));
+}
+
+TEST_F(LetterPuzzleWindow, keeps_its_settings_for_the_next_opening_apart_from_the_other_exercises) {
+    start(3);
+    in_settings([](frm_kirakó_beáll &settings) {
+        click(settings, "nyelvoptb(0)");
+        click(settings, "cmd_ok");
+    });
+    trigger("mnu_fájl_kilép");
+
+    start(3);
+
+    EXPECT_TRUE(question().startsWith(QStringLiteral("word")));
+    EXPECT_EQ(settings_.beállításolvas(ablak(QStringLiteral("választás_beáll")), QStringLiteral("nyelv"), 7), 7);
+}
+
+TEST_F(LetterPuzzleWindow, draws_the_changing_direction_for_every_word) {
+    store("nyelv", 2);
+    start(40);
+    int english = 0;
+
+    for (int i = 0; i < 40; ++i) {
+        const bool from_english = question().startsWith(QStringLiteral("word"));
+        english += from_english ? 1 : 0;
+        EXPECT_EQ(answer().startsWith(QStringLiteral("sz ó ")), from_english);
+        EXPECT_EQ(label(*window_, "Label1"), from_english ? QStringLiteral("Magyarul:") : QStringLiteral("Angolul:"));
+        answer_rightly();
+    }
+
+    EXPECT_GT(english, 8);
+    EXPECT_LT(english, 31);
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(LetterPuzzleWindow, passes_pairs_over_that_lack_a_side) {
+    start({{QStringLiteral("nothing"), QString()},
+           {QStringLiteral("grape"), QStringLiteral("szőlő")},
+           {QString(), QStringLiteral("semmi")}});
+
+    EXPECT_EQ(question(), QStringLiteral("szőlő"));
+    answer_rightly();
+
+    EXPECT_FALSE(window_->isVisible());
+    EXPECT_EQ(messages_.size(), 1);
+}
+
+TEST_F(LetterPuzzleWindow, closes_at_once_when_no_pair_has_both_sides) {
+    const QVector<szópár> lists[] = {{{QStringLiteral("nothing"), QString()}, {QString(), QStringLiteral("semmi")}},
+                                     {}};
+    for (const QVector<szópár> &pairs : lists) {
+        load(pairs);
+
+        window_->mutatmodálisan();
+
+        EXPECT_FALSE(window_->isVisible());
+        EXPECT_FALSE(window_->windowHandle() && window_->windowHandle()->isVisible());
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_TRUE(messages_.isEmpty());
+    }
+}
+
+TEST_F(LetterPuzzleWindow, ends_its_modal_display_with_escape_menu_and_frame) {
+    expect_each_ends_modal_display(
+        numbered_pairs(3),
+        {[this] { press_key(Qt::Key_Escape); }, [this] { trigger("mnu_fájl_kilép"); }, [this] { window_->close(); }});
+}
+
+TEST_F(LetterPuzzleWindow, reads_the_list_once_and_leaves_it_alone) {
+    start(3);
+    const QVector<szópár> before = list_.pairs;
+    answer_wrongly();
+    answer_rightly();
+    EXPECT_EQ(list_.pairs, before);
+
+    list_.pairs.append({QStringLiteral("late"), QStringLiteral("késő")});
+    trigger("mnu_fájl_újrakezd");
+    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+}
+
+TEST_F(LetterPuzzleWindow, takes_nine_tenths_of_the_screen_with_every_caption_whole) {
+    for (const QSize &pixels : screens) {
+        use_screen(pixels);
+        start(10);
+
+        const double share = std::max(window_->szélesség() / screen_.width(), window_->magasság() / screen_.height());
+        EXPECT_NEAR(share, 0.9, 0.03);
+        expect_no_overlap(*window_);
+        for (const char *name : {"Label_főcím", "Label1", "cmd_ok", "Label_info"})
+            expect_whole_caption(*window_, QString::fromUtf8(name));
+        expect_text_inside(*window_, QStringLiteral("pic_feladvány"));
+    }
+}
+
+TEST_F(LetterPuzzleWindow, keeps_a_question_of_two_hundred_letters_inside_its_place) {
+    for (const QSize &pixels : screens) {
+        use_screen(pixels);
+        start({{QStringLiteral("ox"), long_text()}});
+        expect_text_inside(*window_, QStringLiteral("pic_feladvány"));
+
+        start({{QStringLiteral("ox"), long_word()}});
+        expect_text_inside(*window_, QStringLiteral("pic_feladvány"));
+    }
+}
+
+TEST_F(LetterPuzzleWindow, opens_a_list_of_five_thousand_pairs) {
+    start(5000);
+
+    EXPECT_EQ(counter(), QStringLiteral(" 1/ 5000"));
+    answer_rightly();
+    EXPECT_EQ(counter(), QStringLiteral(" 2/ 5000"));
+    expect_whole_caption(*window_, QStringLiteral("Label_info"));
+}
+
+}  // namespace

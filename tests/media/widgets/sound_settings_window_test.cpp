@@ -1,0 +1,285 @@
+#include "media/widgets/sound_settings_window.h"
+
+#include <QAccessible>
+#include <QGroupBox>
+
+#include "support/sound_settings_fixture.h"
+
+namespace {
+
+class SoundSettingsWindow : public SoundSettingsTest {
+  protected:
+    /// Names of the buttons that can be pressed, but for those that close the window.
+    [[nodiscard]] QStringList usable() const {
+        QStringList names;
+        for (const char *name : {"cmd_play", "cmd_hangtörlése"}) {
+            if (enabled(name))
+                names.append(QString::fromUtf8(name));
+        }
+        for (const Row &row : rows) {
+            for (const char *name : {row.add, row.remove}) {
+                if (enabled(name))
+                    names.append(QString::fromUtf8(name));
+            }
+        }
+        return names;
+    }
+};
+
+TEST_F(SoundSettingsWindow, has_every_control_under_its_name_with_its_caption) {
+    start();
+
+    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_hangbeáll"));
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Kavaro Hangbeállítások"));
+    const std::pair<const char *, QString> buttons[] = {
+        {"cmd_play", QStringLiteral("Hang lejátszása")},
+        {"cmd_hangtörlése", QStringLiteral("Hang törlése")},
+        {"cmd_gartula", QStringLiteral("Hozzáadás a gratuláló  hangok listájához")},
+        {"cmd_hangtörl_gratulahangból", QStringLiteral("Törlés a gratuláló hangok listájából")},
+        {"cmd_helyeshang_add", QStringLiteral("Hozzáadás a sikerhangok listájához")},
+        {"cmd_hangtörl_helyeshangból", QStringLiteral("Törlés a sikerhangok listájából")},
+        {"cmd_hibahang_add", QStringLiteral("Hozzáadás a hibahangok listájához")},
+        {"cmd_hangtörl_hibahangból", QStringLiteral("Törlés a hibahangok listájából")},
+        {"cmd_ok", QStringLiteral("Ok")},
+        {"cmd_mégsem", QStringLiteral("Mégsem")}};
+    for (const auto &[name, caption] : buttons)
+        EXPECT_EQ(button(name)->text(), caption);
+    const std::pair<const char *, QString> boxes[] = {
+        {"chk_hang_a_gratulálópanelen", QStringLiteral("Hangjelzések használata a gratuláló panelen")},
+        {"chk_hang_a_feladatokban_helyes",
+         QStringLiteral("Hangjelzések használata a feladatokban helyes megoldás esetén")},
+        {"chk_hang_a_feladatokban_hiba",
+         QStringLiteral("Hangjelzések használata a feladatokban hibás megoldás esetén")},
+        {"chk_hangjelzés_segítségkérés", QStringLiteral("Hangjelzés segítségkérés esetén")},
+        {"chk_hang_a_főablakban", QStringLiteral("Hangok a grafikus főablakban")}};
+    for (const auto &[name, caption] : boxes)
+        EXPECT_EQ(box(name)->text(), caption);
+    EXPECT_EQ(label("Label1"), QStringLiteral("A gratuláló panelen megszólaló hangok:"));
+    EXPECT_EQ(label("Label2"), QStringLiteral("Helyes megoldás esetén megszólaló hangok:"));
+    EXPECT_EQ(label("Label3"), QStringLiteral("Hibás megoldás esetén megszólaló hangok:"));
+    EXPECT_EQ(control<QGroupBox>(*window_, "frame_hangjelzések")->title(), QStringLiteral("Hangjelzések"));
+}
+
+TEST_F(SoundSettingsWindow, takes_colour_and_icon_of_the_program) {
+    start();
+
+    EXPECT_EQ(window_->háttérszín(), reference_.háttérszín());
+    EXPECT_FALSE(window_->windowIcon().isNull());
+}
+
+TEST_F(SoundSettingsWindow, lists_the_waves_of_the_folder_and_counts_them) {
+    put_sound(QStringLiteral("leírás.txt"));
+    put_sound(QStringLiteral("dal.mid"));
+    QDir().mkdir(sound(QStringLiteral("mappa.wav")));
+
+    start();
+
+    EXPECT_EQ(list("Filelist")->items(), QStringList({bell, horn, chime, gong}));
+    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 4 hang áll rendelkezésemre"));
+    for (const Row &row : rows)
+        EXPECT_EQ(label(row.count), QStringLiteral(" 0 hang"));
+}
+
+TEST_F(SoundSettingsWindow, stands_without_a_folder_of_sounds) {
+    QDir(place("program/hangok")).removeRecursively();
+
+    start();
+    press("Filelist", Qt::Key_Delete);
+
+    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 0 hang áll rendelkezésemre"));
+    EXPECT_EQ(usable(), QStringList());
+    EXPECT_EQ(boxes_.told, QStringList());
+}
+
+TEST_F(SoundSettingsWindow, says_which_of_how_many_files_is_selected) {
+    for (int i = 10; i < 18; ++i)
+        put_sound(QStringLiteral("a%1.wav").arg(i));
+    start();
+
+    click_item("Filelist", QStringLiteral("a12.wav"));
+    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 3\\ 12"));
+    click_item("Filelist", gong);
+    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 12\\ 12"));
+}
+
+TEST_F(SoundSettingsWindow, opens_silently_with_nothing_selected) {
+    write("program/kavaro/helyeshang.ini", "bell.wav\r\nharang.wav\r\n");
+
+    start();
+
+    EXPECT_EQ(multimedia_.sent, QStringList());
+    EXPECT_EQ(list("Filelist")->selected(), -1);
+    EXPECT_EQ(list("lst_helyeshang")->items(), QStringList({bell, chime}));
+    EXPECT_EQ(list("lst_helyeshang")->selected(), -1);
+    EXPECT_EQ(usable(), QStringList());
+}
+
+TEST_F(SoundSettingsWindow, begins_in_the_list_of_files) {
+    load();
+
+    open([this] { EXPECT_EQ(window_->focusWidget(), list("Filelist")); });
+    open([this] {
+        press("Filelist", Qt::Key_Tab);
+        EXPECT_NE(window_->focusWidget(), list("Filelist"));
+    });
+    open([this] { EXPECT_EQ(window_->focusWidget(), list("Filelist")); });
+}
+
+TEST_F(SoundSettingsWindow, stays_silent_while_tab_goes_through_its_lists) {
+    write("program/kavaro/helyeshang.ini", "bell.wav\r\nharang.wav\r\n");
+    start();
+
+    EXPECT_EQ(tab_order(*window_),
+              QStringLiteral("Filelist lst_gratulahang lst_helyeshang Lst_hibahang chk_hang_a_gratulálópanelen "
+                             "chk_hang_a_feladatokban_helyes chk_hang_a_feladatokban_hiba "
+                             "chk_hangjelzés_segítségkérés chk_hang_a_főablakban cmd_ok cmd_mégsem"));
+
+    EXPECT_EQ(multimedia_.sent, QStringList());
+    EXPECT_EQ(list("lst_helyeshang")->selected(), -1);
+}
+
+TEST_F(SoundSettingsWindow, is_reached_by_tab_from_control_to_control) {
+    start();
+    for (const Row &row : rows) {
+        click_item("Filelist", bell);
+        click(row.add);
+    }
+    list("Filelist")->setFocus();
+
+    EXPECT_EQ(tab_order(*window_),
+              QStringLiteral("Filelist cmd_play cmd_hangtörlése "
+                             "lst_gratulahang cmd_gartula cmd_hangtörl_gratulahangból "
+                             "lst_helyeshang cmd_helyeshang_add cmd_hangtörl_helyeshangból "
+                             "Lst_hibahang cmd_hibahang_add cmd_hangtörl_hibahangból "
+                             "chk_hang_a_gratulálópanelen chk_hang_a_feladatokban_helyes "
+                             "chk_hang_a_feladatokban_hiba chk_hangjelzés_segítségkérés chk_hang_a_főablakban "
+                             "cmd_ok cmd_mégsem"));
+}
+
+TEST_F(SoundSettingsWindow, gives_every_control_an_accessible_name) {
+    start();
+
+    for (QWidget *one : window_->vezérlők()) {
+        const auto *spoken = QAccessible::queryAccessibleInterface(one);
+        EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << one->objectName().toStdString();
+    }
+}
+
+TEST_F(SoundSettingsWindow, enables_playing_deleting_and_adding_while_a_file_is_selected) {
+    start();
+
+    click_item("Filelist", bell);
+
+    EXPECT_EQ(usable(),
+              QStringList({QStringLiteral("cmd_play"), QStringLiteral("cmd_hangtörlése"), QStringLiteral("cmd_gartula"),
+                           QStringLiteral("cmd_helyeshang_add"), QStringLiteral("cmd_hibahang_add")}));
+}
+
+TEST_F(SoundSettingsWindow, enables_removing_from_a_list_while_one_of_its_entries_is_selected) {
+    write("program/kavaro/grathang.ini", " 1\r\n 1\r\n 1\r\n 1\r\n 1\r\nbell.wav\r\n");
+    write("program/kavaro/helyeshang.ini", "bell.wav\r\n");
+    write("program/kavaro/hibahang.ini", "bell.wav\r\n");
+
+    for (const Row &row : rows) {
+        start();
+        click_item(row.list, bell);
+
+        EXPECT_EQ(usable(), QStringList(QString::fromUtf8(row.remove)));
+    }
+}
+
+TEST_F(SoundSettingsWindow, plays_a_file_that_is_clicked_each_time) {
+    start();
+
+    click_item("Filelist", horn);
+    EXPECT_EQ(multimedia_.take_sent(), start_of(horn));
+    click_item("Filelist", gong);
+    EXPECT_EQ(multimedia_.take_sent(), change_to(gong));
+    click_item("Filelist", gong);
+    EXPECT_EQ(multimedia_.take_sent(), change_to(gong));
+}
+
+TEST_F(SoundSettingsWindow, plays_a_file_that_is_reached_by_key) {
+    start();
+
+    press("Filelist", Qt::Key_Down);
+    EXPECT_EQ(multimedia_.take_sent(), start_of(bell));
+    press("Filelist", Qt::Key_Down);
+    EXPECT_EQ(multimedia_.take_sent(), change_to(horn));
+    press("Filelist", Qt::Key_End);
+    EXPECT_EQ(multimedia_.take_sent(), change_to(gong));
+    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 4\\ 4"));
+}
+
+TEST_F(SoundSettingsWindow, plays_the_selected_file_again_by_its_button) {
+    start();
+    click_item("Filelist", chime);
+    multimedia_.take_sent();
+
+    click("cmd_play");
+
+    EXPECT_EQ(multimedia_.take_sent(), change_to(chime));
+}
+
+TEST_F(SoundSettingsWindow, plays_an_entry_of_a_list_by_click_and_by_key) {
+    write("program/kavaro/grathang.ini", " 1\r\n 1\r\n 1\r\n 1\r\n 1\r\nharang.wav\r\nbell.wav\r\n");
+    write("program/kavaro/helyeshang.ini", "harang.wav\r\nbell.wav\r\n");
+    write("program/kavaro/hibahang.ini", "harang.wav\r\nbell.wav\r\n");
+    start();
+    click_item("Filelist", horn);
+    multimedia_.take_sent();
+
+    for (const Row &row : rows) {
+        click_item(row.list, bell);
+        EXPECT_EQ(multimedia_.take_sent(), change_to(bell)) << row.list;
+        press(row.list, Qt::Key_Up);
+        EXPECT_EQ(multimedia_.take_sent(), change_to(chime)) << row.list;
+        EXPECT_EQ(selected(row.list), chime);
+    }
+    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 2\\ 4"));
+}
+
+TEST_F(SoundSettingsWindow, has_one_picture_on_all_buttons_that_add_and_another_on_all_that_remove) {
+    start();
+
+    const QImage add = picture(button("cmd_gartula"));
+    const QImage remove = picture(button("cmd_hangtörl_gratulahangból"));
+    EXPECT_FALSE(add.isNull());
+    EXPECT_FALSE(remove.isNull());
+    EXPECT_NE(add, remove);
+    for (const Row &row : rows) {
+        EXPECT_EQ(picture(button(row.add)), add) << row.add;
+        EXPECT_EQ(picture(button(row.remove)), remove) << row.remove;
+    }
+}
+
+TEST_F(SoundSettingsWindow, shows_every_caption_whole_and_apart) {
+    for (const QSize &pixels : screens) {
+        use_screen(pixels);
+        start();
+        click_item("Filelist", bell);
+
+        expect_no_overlap(*window_);
+        for (const char *name : {"Label_hangszám", "Label1", "Label2", "Label3"})
+            expect_whole_caption(*window_, QString::fromUtf8(name));
+        for (const Row &row : rows) {
+            expect_room_for_the_caption(button(row.add));
+            expect_room_for_the_caption(button(row.remove));
+            expect_whole_caption(*window_, QString::fromUtf8(row.add));
+            expect_whole_caption(*window_, QString::fromUtf8(row.remove));
+            expect_whole_caption(*window_, QString::fromUtf8(row.count));
+        }
+        for (const char *name : switch_names) {
+            expect_whole_caption(*window_, QString::fromUtf8(name));
+            EXPECT_TRUE(
+                window_->hely(control<QWidget>(*window_, "frame_hangjelzések")).contains(window_->hely(box(name))))
+                << name;
+        }
+        for (const char *name : {"cmd_play", "cmd_hangtörlése", "cmd_ok", "cmd_mégsem"})
+            expect_whole_caption(*window_, QString::fromUtf8(name));
+        EXPECT_LE(window_->width(), pixels.width());
+        EXPECT_LE(window_->height(), pixels.height());
+    }
+}
+
+}  // namespace

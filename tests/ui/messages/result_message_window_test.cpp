@@ -1,0 +1,118 @@
+#include "ui/messages/result_message_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QtTest/QTest>
+#include <functional>
+
+#include "support/printing.h"
+
+namespace {
+
+const QStringList four_lines{QStringLiteral("Ehhez a játékhoz "), QStringLiteral("legalább két szót"),
+                             QStringLiteral("kell felvenni"), QStringLiteral("a szószedetbe!")};
+
+class ResultMessageWindow : public testing::Test {
+  protected:
+    ResultMessageWindow() {
+        reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+        main_window_.háttérszínbeállít(Qt::cyan);
+    }
+
+    /// Shows the lines; `look` is called while the window is open, which is closed then.
+    void show(qint16 milliseconds, const QStringList &lines, const std::function<void()> &look) {
+        QTimer::singleShot(0, &window_, [&] {
+            look();
+            window_.close();
+        });
+        window_.üzenetmutat(milliseconds, lines);
+    }
+
+    [[nodiscard]] PictureBox *strip(int i) const {
+        for (QWidget *control : window_.vezérlők()) {
+            if (control->objectName() == QStringLiteral("Pic_szöveg(%1)").arg(i))
+                return dynamic_cast<PictureBox *>(control);
+        }
+        return nullptr;
+    }
+
+    [[nodiscard]] QPushButton *ok() const { return window_.findChild<QPushButton *>(QStringLiteral("cmd_ok")); }
+
+    frm_referencia reference_;
+    ablak main_window_{QStringLiteral("szótár")};
+    Module_hasznos fitting_{reference_, [] { return QRectF(0, 0, 1024 * 15, 768 * 15); }};
+    üzenet window_{fitting_, main_window_, QStringLiteral("/szavak/a.szs")};
+};
+
+TEST_F(ResultMessageWindow, stacks_four_strips_of_equal_height_without_gaps) {
+    show(3000, four_lines, [this] {
+        for (int i = 1; i < 4; ++i) {
+            EXPECT_DOUBLE_EQ(window_.hely(strip(i)).top(), window_.hely(strip(i - 1)).bottom());
+            EXPECT_DOUBLE_EQ(window_.hely(strip(i)).height(), window_.hely(strip(0)).height());
+        }
+        EXPECT_EQ(strip(4), nullptr);
+        for (int i = 0; i < 4; ++i)
+            EXPECT_EQ(strip(i)->property("tag").toString(), four_lines[i]);
+    });
+}
+
+TEST_F(ResultMessageWindow, is_just_tall_enough_for_one_line_with_the_button_under_it) {
+    show(2000, {QStringLiteral("dog - kutya")}, [this] {
+        const double ratio = window_.hely(strip(0)).top() / 120;
+        EXPECT_NEAR(window_.hely(ok()).top() - window_.hely(strip(0)).bottom(), 120 * ratio, 0.001);
+        EXPECT_NEAR(window_.belsőmagasság(), window_.hely(ok()).bottom() + 120, 0.001);
+    });
+}
+
+TEST_F(ResultMessageWindow, has_its_button_in_the_middle_below_the_lines) {
+    show(2000, four_lines, [this] {
+        EXPECT_NEAR(window_.hely(ok()).center().x(), window_.belsőszélesség() / 2, 120);
+        EXPECT_EQ(ok()->text(), QStringLiteral("Ok"));
+    });
+}
+
+TEST_F(ResultMessageWindow, names_the_word_list_in_its_title) {
+    show(2000, four_lines, [this] {
+        EXPECT_EQ(window_.windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - /szavak/a.szs szószedet"));
+    });
+}
+
+TEST_F(ResultMessageWindow, takes_seven_tenths_of_the_screen_in_its_tighter_direction) {
+    show(2000, four_lines, [this] {
+        EXPECT_LE(window_.szélesség(), 1024 * 15 * 0.7 + 200);
+        EXPECT_LE(window_.magasság(), 768 * 15 * 0.7 + 500);
+        EXPECT_GE(window_.szélesség(), 1024 * 15 * 0.6);
+    });
+}
+
+TEST_F(ResultMessageWindow, gives_its_timer_the_time_it_was_passed) {
+    show(3000, four_lines, [this] {
+        const auto *timer = window_.findChild<QTimer *>(QStringLiteral("Timer1"));
+        EXPECT_EQ(timer->interval(), 3000);
+        EXPECT_TRUE(timer->isActive());
+    });
+}
+
+TEST_F(ResultMessageWindow, closes_by_itself_when_the_time_is_over) {
+    QElapsedTimer clock;
+    clock.start();
+
+    window_.üzenetmutat(50, four_lines);
+
+    EXPECT_GE(clock.elapsed(), 45);
+    EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(ResultMessageWindow, closes_by_its_button_and_by_enter) {
+    QTimer::singleShot(0, &window_, [this] { QTest::mouseClick(ok(), Qt::LeftButton); });
+    window_.üzenetmutat(30000, four_lines);
+    EXPECT_FALSE(window_.isVisible());
+
+    üzenet second(fitting_, main_window_, QString());
+    QTimer::singleShot(0, &second, [&second] { QTest::keyClick(&second, Qt::Key_Return); });
+    second.üzenetmutat(30000, four_lines);
+    EXPECT_FALSE(second.isVisible());
+}
+
+}  // namespace

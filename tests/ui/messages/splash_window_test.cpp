@@ -1,0 +1,95 @@
+#include "ui/messages/splash_window.h"
+
+#include <memory>
+
+#include "support/message_fixture.h"
+#include "ui/drawing/fonts.h"
+
+namespace {
+
+class SplashWindow : public MessageTest {
+  protected:
+    void load(const QString &system = QStringLiteral("Debian GNU/Linux 12 (bookworm)")) {
+        window_ = std::make_unique<FrmFolyamat>(fitting_, QStringLiteral("1.20.3"), system);
+    }
+
+    [[nodiscard]] QString text(const char *name) const { return control<QLabel>(*window_, name)->text(); }
+
+    std::unique_ptr<FrmFolyamat> window_;
+    static constexpr const char *labels[] = {"lblCompany",  "lblCompanyProduct", "lblProductName",
+                                             "lblPlatform", "lblVersion",        "lblMaker"};
+};
+
+TEST_F(SplashWindow, names_the_program_its_version_and_the_system) {
+    load();
+
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora"));
+    EXPECT_EQ(text("lblProductName"), QStringLiteral("Zimbora"));
+    EXPECT_EQ(text("lblCompanyProduct"), QStringLiteral("Angol-Magyar, Magyar-Angol Szótár"));
+    EXPECT_EQ(text("lblVersion"), QStringLiteral("1.20.3 verzió"));
+    EXPECT_EQ(text("lblPlatform"), QStringLiteral("Debian GNU/Linux 12 (bookworm)"));
+    EXPECT_EQ(text("lblCompany"), QStringLiteral("A Zimbora fejlesztői"));
+}
+
+TEST_F(SplashWindow, says_why_the_first_start_takes_longer) {
+    load();
+
+    EXPECT_EQ(text("lblMaker"), QStringLiteral("A programkönyvtár első indításkor készül el."));
+    EXPECT_EQ(control<QLabel>(*window_, "lblMaker")->font().families(), QStringList{fonts::times_new_roman_ce});
+}
+
+TEST_F(SplashWindow, has_no_frame_and_stands_in_the_middle_of_the_screen) {
+    load();
+
+    EXPECT_TRUE(window_->windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_NEAR(window_->geometry().center().x(), 512, 1);
+    EXPECT_NEAR(window_->geometry().center().y(), 384, 1);
+    EXPECT_NEAR(share(*window_), 0.5, 0.02);
+}
+
+TEST_F(SplashWindow, has_everything_inside_its_frame_with_whole_texts_on_every_screen) {
+    for (const QSize &pixels : screens) {
+        SCOPED_TRACE(pixels.width());
+        use_screen(pixels);
+        load();
+
+        expect_no_overlap(*window_);
+        const QRectF frame = window_->hely(control<QFrame>(*window_, "Frame1"));
+        for (const char *name : labels) {
+            expect_whole_caption(*window_, QString::fromUtf8(name));
+            EXPECT_TRUE(frame.contains(window_->hely(control<QLabel>(*window_, name)))) << name;
+        }
+        EXPECT_TRUE(frame.contains(window_->hely(control<PictureBox>(*window_, "imgLogo"))));
+    }
+}
+
+TEST_F(SplashWindow, has_whole_texts_on_screens_of_any_width) {
+    for (int width = 640; width <= 2560; width += 10) {
+        SCOPED_TRACE(width);
+        use_screen({width, width * 3 / 4});
+        load();
+
+        for (const char *name : labels)
+            expect_whole_caption(*window_, QString::fromUtf8(name));
+    }
+}
+
+TEST_F(SplashWindow, shows_a_long_name_of_the_system_whole) {
+    load(QStringLiteral("Some Very Long Distribution Name 2026.11 LTS (codename of several words)"));
+
+    expect_whole_caption(*window_, QStringLiteral("lblPlatform"));
+}
+
+TEST_F(SplashWindow, goes_with_its_object_and_blocks_nothing) {
+    load();
+    window_->show();
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_FALSE(window_->isModal());
+
+    window_.reset();
+
+    for (const QWidget *left : QApplication::topLevelWidgets())
+        EXPECT_NE(left->objectName(), QStringLiteral("FrmFolyamat"));
+}
+
+}  // namespace
