@@ -6,6 +6,8 @@
 
 #include "dictionary/order_tool.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int done = 0;
@@ -41,16 +43,16 @@ int main(int count, char *values[]) {
     QStringList arguments;
     for (int i = 1; i < count; ++i)
         arguments.append(QFile::decodeName(values[i]));
-    if (arguments.contains(QStringLiteral("--help")) || arguments.contains(QStringLiteral("-h"))) {
+    if (arguments.contains(u"--help"_s) || arguments.contains(u"-h"_s)) {
         QTextStream(stdout) << QString::fromUtf8(usage);
         return done;
     }
     const bool option = arguments.value(0).startsWith(u'-');
     if (option || arguments.size() > 1) {
-        QTextStream(stderr) << (option ? QStringLiteral("Ismeretlen kapcsoló: „%1”.").arg(arguments[0])
-                                       : QStringLiteral("Legfeljebb egy mappa adható meg."))
-                            << QStringLiteral("\n\n") << QString::fromUtf8(usage);
+        QTextStream(stderr) << (option ? u"Ismeretlen kapcsoló: „%1”."_s.arg(arguments[0])
+                                       : u"Legfeljebb egy mappa adható meg."_s)
+                            << u"\n\n"_s << QString::fromUtf8(usage);
         return called_wrongly;
     }
-    return run(arguments.value(0, QStringLiteral(".")));
+    return run(arguments.value(0, u"."_s));
 }

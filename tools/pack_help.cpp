@@ -6,6 +6,8 @@
 
 #include "help/pack.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int done = 0;
@@ -28,9 +30,8 @@ int run(const QString &folder, const QString &output_folder) {
         QTextStream(stderr) << failure->sentence << Qt::endl;
         return failed;
     }
-    QTextStream(stdout) << QStringLiteral("%1: %2 lap, %3 kép.\n")
-                               .arg(help::archive_name, QString::number(packed->pages),
-                                    QString::number(packed->pictures));
+    QTextStream(stdout) << u"%1: %2 lap, %3 kép.\n"_s.arg(help::archive_name, QString::number(packed->pages),
+                                                          QString::number(packed->pictures));
     return done;
 }
 
@@ -41,15 +42,15 @@ int main(int count, char *values[]) {
     QStringList arguments;
     for (int i = 1; i < count; ++i)
         arguments.append(QFile::decodeName(values[i]));
-    if (arguments.contains(QStringLiteral("--help")) || arguments.contains(QStringLiteral("-h"))) {
+    if (arguments.contains(u"--help"_s) || arguments.contains(u"-h"_s)) {
         QTextStream(stdout) << QString::fromUtf8(usage);
         return done;
     }
     const bool option = arguments.value(0).startsWith(u'-');
     if (option || arguments.size() != 2) {
-        QTextStream(stderr) << (option ? QStringLiteral("Ismeretlen kapcsoló: „%1”.").arg(arguments[0])
-                                       : QStringLiteral("Két mappát kell megadni."))
-                            << QStringLiteral("\n\n") << QString::fromUtf8(usage);
+        QTextStream(stderr) << (option ? u"Ismeretlen kapcsoló: „%1”."_s.arg(arguments[0])
+                                       : u"Két mappát kell megadni."_s)
+                            << u"\n\n"_s << QString::fromUtf8(usage);
         return called_wrongly;
     }
     return run(arguments[0], arguments[1]);

@@ -6,6 +6,8 @@
 #include "drawing/record.h"
 #include "platform/files.h"
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char *argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
@@ -20,7 +22,7 @@ int main(int argc, char *argv[]) {
         failure = *unreadable;
     } else {
         const QByteArray recorded = record_drawing(std::get<QByteArray>(svg));
-        failure = recorded.isEmpty() ? Failure{QStringLiteral("Ez nem SVG-rajz: ") + arguments[1]}
+        failure = recorded.isEmpty() ? Failure{u"Ez nem SVG-rajz: "_s + arguments[1]}
                                      : files::replace_whole(arguments[2], recorded);
     }
     if (!failure)

@@ -5,10 +5,12 @@
 #include <QByteArray>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 double status(const char *line) {
-    QFile file(QStringLiteral("/proc/self/status"));
+    QFile file(u"/proc/self/status"_s);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("no status of the process");
     for (const QByteArray &one : file.readAll().split('\n')) {
@@ -31,7 +33,7 @@ double memory_peak() {
 void forget_peak() {
     // What earlier work has left free is given back, or it would be taken again unseen.
     malloc_trim(0);
-    QFile file(QStringLiteral("/proc/self/clear_refs"));
+    QFile file(u"/proc/self/clear_refs"_s);
     if (!file.open(QIODevice::WriteOnly) || file.write("5") != 1)
         qFatal("the peak cannot be forgotten");
 }

@@ -17,6 +17,8 @@
 #include "support/table.h"
 #include "wordlist/szs_file.h"
 
+using namespace Qt::StringLiterals;
+
 // Printing 5,000 pairs in each layout, and looking at the pages.
 
 namespace {
@@ -40,9 +42,9 @@ QVector<szópár> real_pairs() {
 }
 
 void print(PagePrinter &printer, nyomtatástípus kind, const QVector<szópár> &pairs) {
-    printer.set_face({QStringLiteral("Liberation Serif"), false, false});
+    printer.set_face({u"Liberation Serif"_s, false, false});
     printer.set_font_size(14);
-    const nyomtatandó what{pairs, QStringLiteral("/lists/real pairs.szs"), 14, 2};
+    const nyomtatandó what{pairs, u"/lists/real pairs.szs"_s, 14, 2};
     if (nyomtat(printer, kind, what, [](int, int) { return true; }) != nyomtatásvége::kész)
         qFatal("not printed");
 }
@@ -65,7 +67,7 @@ void timed(const std::string &name, const std::function<int(benchmark::State &)>
 
 void register_layout(const std::string &name, nyomtatástípus kind, const QVector<szópár> &pairs) {
     timed(name + "/into a PDF document", [&pairs, kind](benchmark::State &state) {
-        PdfDocument document(QStringLiteral("real pairs"));
+        PdfDocument document(u"real pairs"_s);
         print(document.printer(), kind, pairs);
         state.counters["MiB of the document"] = static_cast<double>(document.bytes().size()) / (1024.0 * 1024);
         return static_cast<int>(document.bytes().count("/Type /Page\n"));

@@ -21,6 +21,8 @@
 #include "support/bench_dictionary.h"
 #include "support/table.h"
 
+using namespace Qt::StringLiterals;
+
 // Times are of files that the system holds in its cache, per search. The row's own time is the mean over the texts.
 
 namespace {
@@ -154,7 +156,7 @@ std::string name_of(const BenchDictionary &dictionary) {
 }  // namespace
 
 int main(int argc, char *argv[]) {
-    const QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/zimbora-bench-XXXXXX"));
+    const QTemporaryDir folder(QDir::tempPath() + u"/zimbora-bench-XXXXXX"_s);
     // The benchmarks refer to what stands here; a deque does not move it.
     std::deque<Prepared> all;
     const auto prepare = [&all](const BenchDictionary &dictionary) -> const Prepared & {
@@ -167,9 +169,8 @@ int main(int argc, char *argv[]) {
         register_program(name, real);
         register_limit(name, real);
         const QString databases = folder.filePath(file);
-        register_sqlite(name + "/SQLite, index", real, SqliteTable::indexed, databases + QStringLiteral(".indexed"));
-        register_sqlite(name + "/SQLite, clustered", real, SqliteTable::clustered,
-                        databases + QStringLiteral(".clustered"));
+        register_sqlite(name + "/SQLite, index", real, SqliteTable::indexed, databases + u".indexed"_s);
+        register_sqlite(name + "/SQLite, clustered", real, SqliteTable::clustered, databases + u".clustered"_s);
         const Prepared &large = prepare(tenfold(dictionary, folder.path()));
         register_program(name + " tenfold", large);
         register_limit(name + " tenfold", large);

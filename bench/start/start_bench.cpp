@@ -10,6 +10,8 @@
 #include "support/bench_dictionary.h"
 #include "support/table.h"
 
+using namespace Qt::StringLiterals;
+
 // From the start of a process until its first window is painted, and the memory that it has then. Everything that is
 // loaded lies in the system's cache.
 
@@ -20,7 +22,7 @@ constexpr int patience = 30'000;
 
 /// A value of a file of /proc whose lines are "Name:   123 kB", in MiB.
 double mebibytes(const QProcess &process, const QString &file, const QByteArray &name) {
-    QFile lines(QStringLiteral("/proc/%1/%2").arg(process.processId()).arg(file));
+    QFile lines(u"/proc/%1/%2"_s.arg(process.processId()).arg(file));
     if (!lines.open(QIODevice::ReadOnly))
         return 0;
     for (const QByteArray &line : lines.readAll().split('\n')) {
@@ -42,9 +44,9 @@ void start(benchmark::State &state, const QString &program) {
         }
         const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
         state.SetIterationTime(taken.count());
-        state.counters["resident MiB"] = mebibytes(process, QStringLiteral("status"), "VmRSS");
-        state.counters["proportional MiB"] = mebibytes(process, QStringLiteral("smaps_rollup"), "Pss");
-        state.counters["anonymous MiB"] = mebibytes(process, QStringLiteral("smaps_rollup"), "Anonymous");
+        state.counters["resident MiB"] = mebibytes(process, u"status"_s, "VmRSS");
+        state.counters["proportional MiB"] = mebibytes(process, u"smaps_rollup"_s, "Pss");
+        state.counters["anonymous MiB"] = mebibytes(process, u"smaps_rollup"_s, "Anonymous");
         process.closeWriteChannel();
         process.waitForFinished(patience);
     }

@@ -7,6 +7,8 @@
 
 #include "platform/text_lines.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr size_t text_count = 1000;
@@ -21,7 +23,7 @@ QByteArray digit(int copy) {
 }  // namespace
 
 QString staged_program() {
-    return QStringLiteral(ZIMBORA_BENCH_PROGRAM);
+    return u"" ZIMBORA_BENCH_PROGRAM ""_s;
 }
 
 QByteArray bytes_of(const QString &path) {

@@ -18,6 +18,8 @@
 #include "ui/controls/list_box.h"
 #include "window/turn_watch.h"
 
+using namespace Qt::StringLiterals;
+
 // Keystrokes with very many hits, the one with the most among them, in the main window of the whole program.
 
 namespace {
@@ -58,8 +60,8 @@ double milliseconds(qint64 nanoseconds) {
 
 /// Types the letter into an empty window.
 void type(benchmark::State &state, const QWidget &window, const QString &direction, const QString &letter) {
-    auto &text = control<QLineEdit>(window, QStringLiteral("angolszó"));
-    const auto &hits = control<ListBox>(window, QStringLiteral("szólist"));
+    auto &text = control<QLineEdit>(window, u"angolszó"_s);
+    const auto &hits = control<ListBox>(window, u"szólist"_s);
     // Empties the text and the lists.
     control<QRadioButton>(window, direction).click();
     TurnWatch watch;
@@ -114,9 +116,7 @@ int main(int argc, char *argv[]) {
     set_up_toolkit();
     Program program({staged_program(), {}, {}, {}, {}, {}});
     program.start({});
-    register_keystrokes(program.main_window(), QStringLiteral("nyelv(0)"),
-                        letters_to_type(english_hungarian_file, QStringLiteral("a")));
-    register_keystrokes(program.main_window(), QStringLiteral("nyelv(1)"),
-                        letters_to_type(hungarian_english_file, QStringLiteral("m")));
+    register_keystrokes(program.main_window(), u"nyelv(0)"_s, letters_to_type(english_hungarian_file, u"a"_s));
+    register_keystrokes(program.main_window(), u"nyelv(1)"_s, letters_to_type(hungarian_english_file, u"m"_s));
     return run_benchmarks(argc, argv);
 }

@@ -16,6 +16,8 @@
 #include "wordlist/szs_file.h"
 #include "wordlist/word_pair_list.h"
 
+using namespace Qt::StringLiterals;
+
 // Opening and saving a long word list, beside reading and writing the same bytes plainly.
 
 namespace {
@@ -70,8 +72,8 @@ void timed(const std::string &name, const std::function<void()> &what) {
 
 int main(int argc, char *argv[]) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("long.szs"));
-    const QString plain = folder.filePath(QStringLiteral("plain"));
+    const QString path = folder.filePath(u"long.szs"_s);
+    const QString plain = folder.filePath(u"plain"_s);
     const QVector<szópár> pairs = real_pairs();
     save(path, pairs);
     const QByteArray bytes = bytes_of(path);

@@ -6,14 +6,16 @@
 #include "platform/command_line.h"
 #include "platform/display_system.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ProgramFolderPlaces program_folder_places() {
     return {qEnvironmentVariable("ZIMBORA_PROGRAM"),
             QCoreApplication::applicationDirPath(),
-            QStringLiteral(ZIMBORA_BUILD_BIN),
-            QStringLiteral(ZIMBORA_STAGED_PROGRAM),
-            QStringLiteral(ZIMBORA_INSTALLED_DICTIONARIES),
+            u"" ZIMBORA_BUILD_BIN ""_s,
+            u"" ZIMBORA_STAGED_PROGRAM ""_s,
+            u"" ZIMBORA_INSTALLED_DICTIONARIES ""_s,
             QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)};
 }
 
@@ -22,9 +24,9 @@ ProgramFolderPlaces program_folder_places() {
 int main(int argc, char *argv[]) {
     choose_display_system();
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Zimbora"));
-    QApplication::setApplicationVersion(QStringLiteral(ZIMBORA_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("zimbora"));
+    QApplication::setApplicationName(u"Zimbora"_s);
+    QApplication::setApplicationVersion(u"" ZIMBORA_VERSION ""_s);
+    QApplication::setDesktopFileName(u"zimbora"_s);
     set_up_toolkit();
     Program program(program_folder_places());
     QTimer::singleShot(0, &application, [&] { program.start(command_line_text()); });

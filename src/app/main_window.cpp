@@ -10,6 +10,8 @@
 #include "ui/drawing/fonts.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Resting heights, in twips, and the steps of the way between them.
@@ -22,12 +24,11 @@ constexpr double alatta = 850;
 }  // namespace
 
 szótár::szótár(szótárkörnyezet környezet)
-    : ablak(QStringLiteral("szótár"), menü::van),
+    : ablak(u"szótár"_s, menü::van),
       k_(std::move(környezet)),
       v_(*this, lista_),
       m_(*menüsor()),
-      fájlok_(k_.állapot, lista_, *this, k_.üzenetek, k_.fájlablakok,
-              k_.meghajtó.path(QStringLiteral("c:\\zbrmkfnh.ini"))),
+      fájlok_(k_.állapot, lista_, *this, k_.üzenetek, k_.fájlablakok, k_.meghajtó.path(u"c:\\zbrmkfnh.ini"_s)),
       üzenet_([this] { return std::make_unique<üzenet>(k_.hasznos, *this, k_.állapot.aktuálisfájl); }),
       tanulás_([this] { return std::make_unique<tanulás>(feladatnak()); }),
       kikérdező_([this] { return std::make_unique<kikérdező>(feladatnak()); }),
@@ -46,7 +47,7 @@ szótár::szótár(szótárkörnyezet környezet)
       zeneóra_(
           játszó_, [this]() -> lejátszólista & { return zenebeáll_.get(); },
           [this](const QString &név) { k_.referencia.feliratbeállít(név); }) {
-    setWindowTitle(QStringLiteral("névtelen szószedet"));
+    setWindowTitle(u"névtelen szószedet"_s);
     méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
     háttérszínbeállít(k_.referencia.háttérszín());
     eseményeket_köt();
@@ -65,7 +66,7 @@ void szótár::eseményeket_köt() {
 }
 
 void szótár::Form_Load(const QString &parancssor) {
-    k_.referencia.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+    k_.referencia.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
     global::színmásol(*this, *this);
     k_.állapot.változott = 0;
     fájlok_.fájlistolvas();

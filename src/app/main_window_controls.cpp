@@ -5,6 +5,8 @@
 
 #include "ui/controls/named.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips. Two heights follow from it: `Ok` ends at 3860 and `módosít` at 7370, 850 above the window's
@@ -58,11 +60,11 @@ Control *never_shown(Control *control) {
 }
 
 /// What the makers' page is called; its address is nothing that anybody would want to read.
-const QString készítők_lapja = QStringLiteral("A Zimbora lapja");
+const QString készítők_lapja = u"A Zimbora lapja"_s;
 
 /// A label that looks like what it is: a click on it opens something.
 QLabel *link(const QString &caption) {
-    auto *label = new QLabel(QStringLiteral("<a href='#'>%1</a>").arg(caption));
+    auto *label = new QLabel(u"<a href='#'>%1</a>"_s.arg(caption));
     label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     label->setAlignment(Qt::AlignCenter);
     return label;
@@ -77,52 +79,52 @@ QAction *separator(QMenu &menu, const char16_t *name) {
 szótárvezérlők::szótárvezérlők(ablak &mire, szópárlista &lista)
     // In the order of reading, which is the order of Tab. "Szószedetből töröl" comes right behind the list: it
     // would be disabled if the focus went anywhere else.
-    : Label1(placed(mire, new QLabel(QStringLiteral("&Angolul:")), u"Label1",
-                    {left_column, caption_top, list_width, caption_height}, nullptr)),
+    : Label1(placed(mire, new QLabel(u"&Angolul:"_s), u"Label1", {left_column, caption_top, list_width, caption_height},
+                    nullptr)),
       angolszó(
           placed(mire, text_box(), u"angolszó", {left_column, search_top, list_width, row_height}, u"Keresett szó")),
-      Ok(placed(mire, disabled_button(QStringLiteral("Ok")), u"Ok",
-                {left_column, lookup_buttons_top, list_width * 0.4, row_height}, u"Ok, keresés")),
+      Ok(placed(mire, disabled_button(u"Ok"_s), u"Ok", {left_column, lookup_buttons_top, list_width * 0.4, row_height},
+                u"Ok, keresés")),
       szólist(placed(mire, new ListBox, u"szólist", {left_column, hits_top, list_width, lookup_bottom - hits_top},
                      u"Találatok")),
-      Label2(placed(mire, new QLabel(QStringLiteral("Magyarul:")), u"Label2",
+      Label2(placed(mire, new QLabel(u"Magyarul:"_s), u"Label2",
                     {middle_column, caption_top, list_width, caption_height}, nullptr)),
       magyarlist(placed(mire, new ListBox, u"magyarlist",
                         {middle_column, search_top, list_width, lookup_bottom - search_top}, u"Jelentések")),
       Label3(placed(mire, new QLabel, u"Label3",
                     {left_column + list_width * 0.44, lookup_buttons_top, list_width * 0.56, row_height}, nullptr)),
-      hozzáad(placed(mire, disabled_button(QStringLiteral("Szószedethez ad")), u"hozzáad",
+      hozzáad(placed(mire, disabled_button(u"Szószedethez ad"_s), u"hozzáad",
                      {middle_column, lookup_buttons_top, list_width, row_height}, u"Szószedethez ad")),
-      nyelv{placed(mire, new QRadioButton(QStringLiteral("Angolról magyarra")), u"nyelv(0)",
+      nyelv{placed(mire, new QRadioButton(u"Angolról magyarra"_s), u"nyelv(0)",
                    {right_column, search_top, button_width, row_height}, u"Angolról magyarra"),
-            placed(mire, new QRadioButton(QStringLiteral("Magyarról angolra")), u"nyelv(1)",
+            placed(mire, new QRadioButton(u"Magyarról angolra"_s), u"nyelv(1)",
                    {right_column, search_top + row_height, button_width, row_height}, u"Magyarról angolra")},
-      cmd_kisablak(placed(mire, new QPushButton(QStringLiteral("Kisablak")), u"cmd_kisablak",
+      cmd_kisablak(placed(mire, new QPushButton(u"Kisablak"_s), u"cmd_kisablak",
                           {right_column, mini_window_top, button_width, row_height}, u"Kisablak")),
       Label4(placed(mire, link(készítők_lapja), u"Label4", {right_column, address_top, button_width, caption_height},
                     u"A készítők lapja")),
-      kilép(placed(mire, new QPushButton(QStringLiteral("Kilép")), u"kilép",
+      kilép(placed(mire, new QPushButton(u"Kilép"_s), u"kilép",
                    {right_column, lookup_buttons_top, button_width, row_height}, u"Kilép")),
       megoldlist(placed(mire, never_shown(new ListBox), u"megoldlist", {left_column, hits_top, list_width, row_height},
                         u"A találatok jelentései")),
-      Command2(placed(mire, never_shown(new QPushButton(QStringLiteral("Állományt átalakít (nem látható)"))),
-                      u"Command2", {right_column, hits_top, button_width, row_height}, u"Állományt átalakít")),
+      Command2(placed(mire, never_shown(new QPushButton(u"Állományt átalakít (nem látható)"_s)), u"Command2",
+                      {right_column, hits_top, button_width, row_height}, u"Állományt átalakít")),
       szószedet(placed(mire, new ListBox(&lista, szópárlista::angol_oszlop), u"szószedet",
                        {left_column, pairs_top, list_width, pairs_bottom - pairs_top}, u"Szószedet, angol szavak")),
       szómagylist(placed(mire, new ListBox(&lista, szópárlista::magyar_oszlop), u"szómagylist",
                          {middle_column, pairs_top, list_width, pairs_bottom - pairs_top},
                          u"Szószedet, magyar szavak")),
-      sztöröl(placed(mire, disabled_button(QStringLiteral("Szószedetből töröl")), u"sztöröl",
+      sztöröl(placed(mire, disabled_button(u"Szószedetből töröl"_s), u"sztöröl",
                      {right_column, pairs_top, button_width, row_height}, u"Szószedetből töröl")),
       szóangtext(placed(mire, text_box(), u"szóangtext", {left_column, edit_top, list_width, row_height},
                         u"A kijelölt pár angol szava")),
       szómagytext(placed(mire, text_box(), u"szómagytext", {middle_column, edit_top, list_width, row_height},
                          u"A kijelölt pár magyar szava")),
-      módosít(placed(mire, disabled_button(QStringLiteral("Módosít")), u"módosít",
+      módosít(placed(mire, disabled_button(u"Módosít"_s), u"módosít",
                      {right_column, edit_top, button_width, row_height}, u"Módosít")) {
     Label1->setBuddy(angolszó);
     nyelv[0]->setChecked(true);
-    sztöröl->setProperty("tag", QStringLiteral("*"));
+    sztöröl->setProperty("tag", u"*"_s);
     // The Hungarian list shows the same pairs in step; the English one takes the keyboard for both.
     szómagylist->setFocusPolicy(Qt::NoFocus);
     QWidget *előző = angolszó;
@@ -135,35 +137,35 @@ szótárvezérlők::szótárvezérlők(ablak &mire, szópárlista &lista)
 }
 
 szótármenü::szótármenü(QMenuBar &sor)
-    : mnufájl(named(sor.addMenu(QStringLiteral("&Fájl")), u"mnufájl")),
-      mnufájlúj(named(mnufájl->addAction(QStringLiteral("&Új")), u"mnufájlúj")),
-      mnufájlmegnyit(named(mnufájl->addAction(QStringLiteral("Meg&nyit...")), u"mnufájlmegnyit")),
-      mnufájlhozzáfűz(named(mnufájl->addAction(QStringLiteral("Szószedetet &hozzáfűz")), u"mnufájlhozzáfűz")),
+    : mnufájl(named(sor.addMenu(u"&Fájl"_s), u"mnufájl")),
+      mnufájlúj(named(mnufájl->addAction(u"&Új"_s), u"mnufájlúj")),
+      mnufájlmegnyit(named(mnufájl->addAction(u"Meg&nyit..."_s), u"mnufájlmegnyit")),
+      mnufájlhozzáfűz(named(mnufájl->addAction(u"Szószedetet &hozzáfűz"_s), u"mnufájlhozzáfűz")),
       elv1(separator(*mnufájl, u"elv1")),
-      mnufájlment(named(mnufájl->addAction(QStringLiteral("&Ment")), u"mnufájlment")),
-      mnufájlmentmásként(named(mnufájl->addAction(QStringLiteral("Ment másként...")), u"mnufájlmentmásként")),
+      mnufájlment(named(mnufájl->addAction(u"&Ment"_s), u"mnufájlment")),
+      mnufájlmentmásként(named(mnufájl->addAction(u"Ment másként..."_s), u"mnufájlmentmásként")),
       elv2(separator(*mnufájl, u"elv2")),
-      mnufájlnyomtatás(named(mnufájl->addAction(QStringLiteral("Nyomtatás...")), u"mnufájlnyomtatás")),
+      mnufájlnyomtatás(named(mnufájl->addAction(u"Nyomtatás..."_s), u"mnufájlnyomtatás")),
       elv3(separator(*mnufájl, u"elv3")),
-      mnufeladat(named(sor.addMenu(QStringLiteral("Fel&adatok")), u"mnufeladat")),
-      mnufeladattanul(named(mnufeladat->addAction(QStringLiteral("&Tanulás")), u"mnufeladattanul")),
-      mnufeladatkikérd(named(mnufeladat->addAction(QStringLiteral("&Kikérdezés")), u"mnufeladatkikérd")),
-      mnufeladatválaszt(named(mnufeladat->addAction(QStringLiteral("&Választás")), u"mnufeladatválaszt")),
-      mnu_fájl_kirakó(named(mnufeladat->addAction(QStringLiteral("&Kirakó")), u"mnu_fájl_kirakó")),
-      mnufeladatmemória(named(mnufeladat->addAction(QStringLiteral("&Memória")), u"mnufeladatmemória")),
-      mnu_info(named(sor.addMenu(QStringLiteral("&Info")), u"mnu_info")),
-      mnu_súgó(named(mnu_info->addAction(QStringLiteral("&Súgó")), u"mnu_súgó")),
-      mnunévjegy(named(mnu_info->addAction(QStringLiteral("&Névjegy")), u"mnunévjegy")),
+      mnufeladat(named(sor.addMenu(u"Fel&adatok"_s), u"mnufeladat")),
+      mnufeladattanul(named(mnufeladat->addAction(u"&Tanulás"_s), u"mnufeladattanul")),
+      mnufeladatkikérd(named(mnufeladat->addAction(u"&Kikérdezés"_s), u"mnufeladatkikérd")),
+      mnufeladatválaszt(named(mnufeladat->addAction(u"&Választás"_s), u"mnufeladatválaszt")),
+      mnu_fájl_kirakó(named(mnufeladat->addAction(u"&Kirakó"_s), u"mnu_fájl_kirakó")),
+      mnufeladatmemória(named(mnufeladat->addAction(u"&Memória"_s), u"mnufeladatmemória")),
+      mnu_info(named(sor.addMenu(u"&Info"_s), u"mnu_info")),
+      mnu_súgó(named(mnu_info->addAction(u"&Súgó"_s), u"mnu_súgó")),
+      mnunévjegy(named(mnu_info->addAction(u"&Névjegy"_s), u"mnunévjegy")),
       mnu_cim(named(mnu_info->addAction(készítők_lapja), u"mnu_cim")),
-      mnubeállítás(named(sor.addMenu(QStringLiteral("&Beállítások")), u"mnubeállítás")),
-      mnubeállításhang(named(mnubeállítás->addAction(QStringLiteral("&Hangok...")), u"mnubeállításhang")),
-      mnubeállítászene(named(mnubeállítás->addAction(QStringLiteral("&Zene...")), u"mnubeállítászene")) {
+      mnubeállítás(named(sor.addMenu(u"&Beállítások"_s), u"mnubeállítás")),
+      mnubeállításhang(named(mnubeállítás->addAction(u"&Hangok..."_s), u"mnubeállításhang")),
+      mnubeállítászene(named(mnubeállítás->addAction(u"&Zene..."_s), u"mnubeállítászene")) {
     mnufájlnyomtatás->setShortcut(QKeySequence::Print);
     mnu_súgó->setShortcut(Qt::Key_F1);
-    sor.setObjectName(QStringLiteral("menüsor"));
+    sor.setObjectName(u"menüsor"_s);
     for (size_t i = 0; i < mnufájlfájl.size(); ++i) {
         mnufájlfájl[i] = mnufájl->addAction(QString());
-        mnufájlfájl[i]->setObjectName(QStringLiteral("mnufájlfájl(%1)").arg(i + 1));
+        mnufájlfájl[i]->setObjectName(u"mnufájlfájl(%1)"_s.arg(i + 1));
         mnufájlfájl[i]->setVisible(false);
     }
 }

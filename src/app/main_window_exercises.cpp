@@ -1,5 +1,7 @@
 #include "app/main_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int választáshoz_kell = 2;
@@ -50,8 +52,7 @@ void szótár::mnufeladatválaszt_Click() {
         feladatot_mutat(választás_);
         return;
     }
-    üzenetmutat(3000, {QStringLiteral("Ehhez a játékhoz "), QStringLiteral("legalább két szót"),
-                       QStringLiteral("kell felvenni"), QStringLiteral("a szószedetbe!")});
+    üzenetmutat(3000, {u"Ehhez a játékhoz "_s, u"legalább két szót"_s, u"kell felvenni"_s, u"a szószedetbe!"_s});
 }
 
 void szótár::mnu_fájl_kirakó_Click() {

@@ -6,6 +6,8 @@
 #include "ui/messages/text_window.h"
 #include "ui/messages/timed_text_window.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int rövid_üzenet_ideje = 5000;
@@ -53,13 +55,13 @@ void szótár::mnunévjegy_Click() {
 void szótár::rendszeradatokat_mutat() {
     const InformationTool indult = k_.rendszeradatok();
     if (indult == InformationTool::unavailable)
-        k_.üzenetek.tell(QStringLiteral("System Information Is Unavailable At This Time"));
+        k_.üzenetek.tell(u"System Information Is Unavailable At This Time"_s);
     if (indult != InformationTool::unknown)
         return;
     const QString program = QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion();
-    const QString mappák = QStringLiteral("Programkönyvtár: %1\nA „c:\\” mappa: %2")
-                               .arg(k_.állapot.programkönyvtár, k_.meghajtó.path(u"c:\\"));
-    frm_üzenet(k_.hasznos, *this).mutat(QStringLiteral("Rendszeradatok"), rendszerleírás(program, mappák));
+    const QString mappák =
+        u"Programkönyvtár: %1\nA „c:\\” mappa: %2"_s.arg(k_.állapot.programkönyvtár, k_.meghajtó.path(u"c:\\"));
+    frm_üzenet(k_.hasznos, *this).mutat(u"Rendszeradatok"_s, rendszerleírás(program, mappák));
 }
 
 void szótár::rövid_üzenetet_mutat(const QString &szöveg) {

@@ -4,6 +4,8 @@
 #include "app/main_window.h"
 #include "wordlist/szs_file.h"
 
+using namespace Qt::StringLiterals;
+
 void szótár::lista_eseményeket_köt() {
     connect(v_.hozzáad, &QPushButton::clicked, &események_, [this] { hozzáad_Click(); });
     connect(v_.szószedet, &ListBox::itemSelected, &események_, [this] { szószedet_Click(); });
@@ -108,6 +110,6 @@ void szótár::fókusz_változott(const QWidget *honnan, const QWidget *hová) {
 
     if (hová == v_.szószedet)
         v_.sztöröl->setEnabled(!lista_.üres());
-    else if (honnan == v_.szószedet && hová->property("tag") != QStringLiteral("*"))
+    else if (honnan == v_.szószedet && hová->property("tag") != u"*"_s)
         v_.sztöröl->setEnabled(false);
 }

@@ -10,6 +10,8 @@
 #include "platform/files.h"
 #include "state/program_folder.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// How long a search may go on before other events get their turn, in milliseconds. A key that is held down repeats
@@ -80,13 +82,13 @@ void szótár::Ok_Click() {
     const keresésvége vég = bytes ? szótárkereső(forrás).keres(*bytes, figyelő) : keresésvége{};
     if (vég.megszakadt)
         return;
-    v_.Label3->setText(QStringLiteral("%1 találat").arg(vég.darab));
+    v_.Label3->setText(u"%1 találat"_s.arg(vég.darab));
     if (vég.kijelölendő >= 0)
         v_.szólist->select(vég.kijelölendő);
 }
 
 void szótár::nincs_szótár(const QString &fájl) {
-    v_.Label3->setText(QStringLiteral("nincs szótárfájl"));
+    v_.Label3->setText(u"nincs szótárfájl"_s);
     bool &szólt = hiány_szólt_[angolról() ? 0 : 1];
     if (szólt)
         return;
@@ -114,8 +116,8 @@ void szótár::nyelv_Click() {
     // A search in the other dictionary must not go on filling the lists.
     ++keresés_;
     keresőlisták_ürít();
-    v_.Label1->setText(angolról() ? QStringLiteral("&Angolul:") : QStringLiteral("&Magyarul:"));
-    v_.Label2->setText(angolról() ? QStringLiteral("Magyarul:") : QStringLiteral("Angolul:"));
+    v_.Label1->setText(angolról() ? u"&Angolul:"_s : u"&Magyarul:"_s);
+    v_.Label2->setText(angolról() ? u"Magyarul:"_s : u"Angolul:"_s);
     v_.angolszó->clear();
     v_.angolszó->setFocus();
 }

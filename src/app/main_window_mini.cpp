@@ -8,9 +8,11 @@
 #include "platform/files.h"
 #include "ui/drawing/twips.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kisablakfájl_helye = QStringLiteral("c:\\zbrmk\\angol\\kisablak.ini");
+const QString kisablakfájl_helye = u"c:\\zbrmk\\angol\\kisablak.ini"_s;
 
 }  // namespace
 

@@ -6,6 +6,8 @@
 #include "platform/code_page.h"
 #include "platform/text_lines.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QList<QByteArray> nagybetűs_sorok(QByteArrayView bytes) {
@@ -32,21 +34,21 @@ qsizetype rossz_helyen(const QList<QByteArray> &sorok) {
     : mappa_(std::move(mappa)), kiír_(std::move(kiír)), megálljon_(std::move(megálljon)) {}
 
 std::optional<Failure> állományátalakító::átalakít() {
-    kiír_(QStringLiteral("Folyamatban..."));
-    const FileContent bemenet = files::read_whole(mappa_ + QStringLiteral("/magyar.skt"));
+    kiír_(u"Folyamatban..."_s);
+    const FileContent bemenet = files::read_whole(mappa_ + u"/magyar.skt"_s);
     if (const auto *hiba = std::get_if<Failure>(&bemenet))
         return *hiba;
     QList<QByteArray> sorok = nagybetűs_sorok(std::get<QByteArray>(bemenet));
     const qsizetype rossz = rossz_helyen(sorok);
-    kiír_(QStringLiteral("%1,%2").arg(rossz).arg(sorok.size()));
+    kiír_(u"%1,%2"_s.arg(rossz).arg(sorok.size()));
     if (rossz > 0) {
         if (!rendez(sorok))
             return std::nullopt;
         const QByteArray kimenet = sorok.join("\r\n") + "\r\n";
-        if (auto hiba = files::replace_whole(mappa_ + QStringLiteral("/magyarvg.skt"), kimenet))
+        if (auto hiba = files::replace_whole(mappa_ + u"/magyarvg.skt"_s, kimenet))
             return hiba;
     }
-    kiír_(QStringLiteral("Művelet kész."));
+    kiír_(u"Művelet kész."_s);
     return std::nullopt;
 }
 

@@ -4,8 +4,10 @@
 
 #include "lookup/help_address.h"
 
+using namespace Qt::StringLiterals;
+
 QUrl address_of_control(const QString &text) {
-    static const QString archive = QStringLiteral("mhtml:");
+    static const QString archive = u"mhtml:"_s;
     if (!text.startsWith(archive, Qt::CaseInsensitive))
         return súgócímek::url(text);
     // A file name may hold a "!" too; the part's name is an address, which holds none that is not encoded.
@@ -13,7 +15,7 @@ QUrl address_of_control(const QString &text) {
     const qsizetype end = inside.lastIndexOf(u'!');
     QString file = end < 0 ? inside : inside.left(end);
     // Between the slashes of an address it has a path with backslashes.
-    static const QRegularExpression not_an_address(QStringLiteral("^file:/*(?=[A-Za-z]:\\\\)"),
+    static const QRegularExpression not_an_address(u"^file:/*(?=[A-Za-z]:\\\\)"_s,
                                                    QRegularExpression::CaseInsensitiveOption);
     return súgócímek::url(file.remove(not_an_address));
 }

@@ -4,10 +4,12 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString súgó_helye = QStringLiteral("kavaro\\help\\Kavaro súgó.mht");
-const QString készítők_lapja_helye = QStringLiteral("kavaro\\help\\keszito.html");
+const QString súgó_helye = u"kavaro\\help\\Kavaro súgó.mht"_s;
+const QString készítők_lapja_helye = u"kavaro\\help\\keszito.html"_s;
 
 /// A path as the system has it: a backslash separates folders everywhere.
 QString útvonal(QString szöveg) {
@@ -15,7 +17,7 @@ QString útvonal(QString szöveg) {
 }
 
 bool útvonal_e(const QString &szöveg) {
-    static const QRegularExpression meghajtó(QStringLiteral("^[A-Za-z]:"));
+    static const QRegularExpression meghajtó(u"^[A-Za-z]:"_s);
     return szöveg.startsWith(u'/') || szöveg.startsWith(u'\\') || meghajtó.match(szöveg).hasMatch();
 }
 
@@ -56,13 +58,13 @@ QString súgócímek::készítőcím() const {
 
 QUrl súgócímek::url(const QString &szöveg) {
     // A number behind the colon is a port.
-    static const QRegularExpression séma(QStringLiteral("^[A-Za-z][A-Za-z0-9+-]+:(?!\\d)"));
+    static const QRegularExpression séma(u"^[A-Za-z][A-Za-z0-9+-]+:(?!\\d)"_s);
     const QString cím = szöveg.trimmed();
     if (cím.isEmpty())
         return {};
     if (útvonal_e(cím))
         return fájlcím(cím);
-    return QUrl(séma.match(cím).hasMatch() ? cím : QStringLiteral("http://") + cím);
+    return QUrl(séma.match(cím).hasMatch() ? cím : u"http://"_s + cím);
 }
 
 std::optional<Failure> súgócímek::akadály(const QUrl &cím) const {
@@ -71,15 +73,15 @@ std::optional<Failure> súgócímek::akadály(const QUrl &cím) const {
         return std::nullopt;
     if (cím.isLocalFile())
         return fájlakadály(cím);
-    return Failure{QStringLiteral("A(z) „%1” cím itt nem nyitható meg. A súgó ablaka weblapokat (http, https) és a "
-                                  "program saját fájljait mutatja.")
-                       .arg(cím.toDisplayString())};
+    return Failure{
+        u"A(z) „%1” cím itt nem nyitható meg. A súgó ablaka weblapokat (http, https) és a "
+        "program saját fájljait mutatja."_s.arg(cím.toDisplayString())};
 }
 
 std::variant<QUrl, Failure> súgócímek::nyitható(const QString &szöveg) const {
     QUrl cím = url(szöveg);
     if (!cím.isValid())
-        return Failure{QStringLiteral("A(z) „%1” nem cím.").arg(szöveg.trimmed())};
+        return Failure{u"A(z) „%1” nem cím."_s.arg(szöveg.trimmed())};
     if (auto gond = akadály(cím))
         return *std::move(gond);
     return cím;
@@ -98,8 +100,7 @@ std::optional<Failure> súgócímek::fájlakadály(const QUrl &cím) const {
         if (fájl.isFile() && benne_van(QFileInfo(mappa).canonicalFilePath(), fájl.canonicalFilePath()))
             return std::nullopt;
         if (!fájl.exists() && benne_van(mappa, QDir::cleanPath(út)))
-            return Failure{QStringLiteral("Nem található: „%1”.").arg(megnevezés)};
+            return Failure{u"Nem található: „%1”."_s.arg(megnevezés)};
     }
-    return Failure{
-        QStringLiteral("A(z) „%1” fájl itt nem nyitható meg: nem a program mappájában van.").arg(megnevezés)};
+    return Failure{u"A(z) „%1” fájl itt nem nyitható meg: nem a program mappájában van."_s.arg(megnevezés)};
 }

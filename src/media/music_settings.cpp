@@ -8,22 +8,24 @@
 
 #include "media/settings_lines.h"
 
+using namespace Qt::StringLiterals;
+
 zenebeállítások::zenebeállítások(DriveC meghajtó, QString programkönyvtár)
     : meghajtó_(std::move(meghajtó)), programkönyvtár_(std::move(programkönyvtár)) {}
 
 QString zenebeállítások::zenemappa() const {
-    return programkönyvtár_ + QStringLiteral("/zenemid");
+    return programkönyvtár_ + u"/zenemid"_s;
 }
 
 QString zenebeállítások::saját_fájl() const {
-    return meghajtó_.path(QStringLiteral("c:\\zbrmk\\kavaro\\zenebeáll.ini"));
+    return meghajtó_.path(u"c:\\zbrmk\\kavaro\\zenebeáll.ini"_s);
 }
 
 std::optional<Failure> zenebeállítások::betölt() {
     engedélyezve = true;
     lista.feltölt({});
     const QString saját = saját_fájl();
-    const QString fájl = files::exists(saját) ? saját : programkönyvtár_ + QStringLiteral("/kavaro/zenebeáll.ini");
+    const QString fájl = files::exists(saját) ? saját : programkönyvtár_ + u"/kavaro/zenebeáll.ini"_s;
     if (!files::exists(fájl))
         return std::nullopt;
     const auto olvasott = beállítássorok::olvas(fájl);
@@ -40,9 +42,9 @@ std::optional<Failure> zenebeállítások::betölt() {
     lista.feltölt(nevek);
     if (kapcsoló)
         return std::nullopt;
-    return Failure{QStringLiteral("A(z) „%1” fájl első sora nem a zene kapcsolója. A zene engedélyezve marad; a fájlt "
-                                  "a zenei beállítások ablakának „Ok” gombja írja újra.")
-                       .arg(QDir::toNativeSeparators(fájl))};
+    return Failure{
+        u"A(z) „%1” fájl első sora nem a zene kapcsolója. A zene engedélyezve marad; a fájlt "
+        "a zenei beállítások ablakának „Ok” gombja írja újra."_s.arg(QDir::toNativeSeparators(fájl))};
 }
 
 std::optional<Failure> zenebeállítások::ment() const {

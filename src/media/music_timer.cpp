@@ -2,6 +2,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 zeneóra::zeneóra(lejátszó &játszó, std::function<lejátszólista &()> lista, std::function<void(const QString &)> felirat)
     : játszó_(játszó), lista_(std::move(lista)), felirat_(std::move(felirat)) {}
 
@@ -10,7 +12,7 @@ void zeneóra::Timer_zene_Timer() {
     if (!lista.zene_enged())
         return;
     const QString állapot = játszó_.midiállapot();
-    if (állapot.startsWith(QStringLiteral("playing")) || állapot.startsWith(QStringLiteral("paused")))
+    if (állapot.startsWith(u"playing"_s) || állapot.startsWith(u"paused"_s))
         return;
     if (lista.darab() == 0)
         return;

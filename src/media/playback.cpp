@@ -1,5 +1,7 @@
 #include "media/playback.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr size_t hang = 0;
@@ -23,22 +25,22 @@ void lejátszó::küld(const QString &parancs) {
 
 void lejátszó::hanglejátszás(QString &fájl) {
     if (eszköznyitva_[hang])
-        küld(QStringLiteral("close hang"));
+        küld(u"close hang"_s);
     eszköznyitva_[hang] = true;
     if (fájl.isEmpty() || átalakíthatatlan(fájl)) {
         eszköznyitva_[hang] = false;
         return;
     }
-    if (fájl == QStringLiteral("*"))
-        fájl = állapot_.programkönyvtár + QStringLiteral("null.wav");
-    küld(QStringLiteral("open ") + quoted_for_command(fájl) + QStringLiteral(" type waveaudio alias hang"));
-    küld(QStringLiteral("play hang "));
+    if (fájl == u"*"_s)
+        fájl = állapot_.programkönyvtár + u"null.wav"_s;
+    küld(u"open "_s + quoted_for_command(fájl) + u" type waveaudio alias hang"_s);
+    küld(u"play hang "_s);
     eszköznyitva_[hang] = true;
 }
 
 void lejátszó::midilejátszás(const QString &fájl) {
     if (eszköznyitva_[midi]) {
-        küld(QStringLiteral("close midi"));
+        küld(u"close midi"_s);
         zeneszól_ = false;
     }
     eszköznyitva_[midi] = true;
@@ -46,12 +48,12 @@ void lejátszó::midilejátszás(const QString &fájl) {
         eszköznyitva_[midi] = false;
         return;
     }
-    küld(QStringLiteral("open ") + quoted_for_command(fájl) + QStringLiteral(" type sequencer alias midi"));
-    küld(QStringLiteral("play midi "));
+    küld(u"open "_s + quoted_for_command(fájl) + u" type sequencer alias midi"_s);
+    küld(u"play midi "_s);
     eszköznyitva_[midi] = true;
     zeneszól_ = true;
 }
 
 QString lejátszó::midiállapot() {
-    return eszköz_.send(QStringLiteral("Status midi mode"), állapot_hossza).text;
+    return eszköz_.send(u"Status midi mode"_s, állapot_hossza).text;
 }

@@ -3,6 +3,8 @@
 #include "platform/code_page.h"
 #include "platform/text_lines.h"
 
+using namespace Qt::StringLiterals;
+
 namespace beállítássorok {
 
 std::optional<bool> kapcsoló(const QString &sor) {
@@ -12,7 +14,7 @@ std::optional<bool> kapcsoló(const QString &sor) {
 }
 
 QString kapcsolósor(bool be) {
-    return be ? QStringLiteral(" 1") : QStringLiteral(" 0");
+    return be ? u" 1"_s : u" 0"_s;
 }
 
 std::variant<QStringList, Failure> olvas(const QString &fájl) {
@@ -31,14 +33,14 @@ FileContent bájtok(const QStringList &sorok) {
     QByteArray bytes;
     for (const QString &sor : sorok) {
         if (sor.contains(u'\n')) {
-            return Failure{QStringLiteral("A(z) „%1” nevű fájl nem kerülhet a listára, mert a nevében sortörés van.")
-                               .arg(sor.simplified())};
+            return Failure{
+                u"A(z) „%1” nevű fájl nem kerülhet a listára, mert a nevében sortörés van."_s.arg(sor.simplified())};
         }
         const auto kódolt = code_page::encode(sor);
         if (!kódolt) {
-            return Failure{QStringLiteral("A(z) „%1” nevű fájl nem kerülhet a listára, mert a nevében a(z) „%2” betű "
-                                          "nem írható le a közép-európai kódlapon.")
-                               .arg(sor, code_page::first_missing(sor))};
+            return Failure{
+                u"A(z) „%1” nevű fájl nem kerülhet a listára, mert a nevében a(z) „%2” betű "
+                "nem írható le a közép-európai kódlapon."_s.arg(sor, code_page::first_missing(sor))};
         }
         bytes += *kódolt + "\r\n";
     }

@@ -7,26 +7,28 @@
 
 #include "media/settings_lines.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString gratulafájl = QStringLiteral("grathang.ini");
-const QString helyesfájl = QStringLiteral("helyeshang.ini");
-const QString hibafájl = QStringLiteral("hibahang.ini");
+const QString gratulafájl = u"grathang.ini"_s;
+const QString helyesfájl = u"helyeshang.ini"_s;
+const QString hibafájl = u"hibahang.ini"_s;
 
 Failure nem_öt_kapcsoló(const QString &fájl) {
-    return {QStringLiteral("A(z) „%1” fájl nem öt kapcsolóval kezdődik. A hiányzó kapcsolók bekapcsolva maradnak; a "
-                           "fájlt a hangbeállítások ablakának „Ok” gombja írja újra.")
-                .arg(QDir::toNativeSeparators(fájl))};
+    return {
+        u"A(z) „%1” fájl nem öt kapcsolóval kezdődik. A hiányzó kapcsolók bekapcsolva maradnak; a "
+        "fájlt a hangbeállítások ablakának „Ok” gombja írja újra."_s.arg(QDir::toNativeSeparators(fájl))};
 }
 
 }  // namespace
 
 QString hangbeállítások::hangmappa() const {
-    return programkönyvtár_ + QStringLiteral("/hangok");
+    return programkönyvtár_ + u"/hangok"_s;
 }
 
 QString hangbeállítások::fájl(const QString &név) const {
-    return programkönyvtár_ + QStringLiteral("/kavaro/") + név;
+    return programkönyvtár_ + u"/kavaro/"_s + név;
 }
 
 /// Those of which the folder has a file, each once.

@@ -6,17 +6,19 @@
 #include <QSaveFile>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace files {
 namespace {
 
-const QString no_permission = QStringLiteral("nincs jogosultság az írásához.");
+const QString no_permission = u"nincs jogosultság az írásához."_s;
 
 QString reason_not_writable(const QSaveFile &file, const QString &path) {
     const QFileInfo place(path);
     if (place.isDir())
-        return QStringLiteral("ez egy mappa neve.");
+        return u"ez egy mappa neve."_s;
     if (!place.dir().exists())
-        return QStringLiteral("a mappa nem létezik.");
+        return u"a mappa nem létezik."_s;
     // Replacing a file needs both; the toolkit tells of either as of any other error.
     if (!QFileInfo(place.path()).isWritable() || (place.exists() && !place.isWritable()))
         return no_permission;
@@ -24,11 +26,11 @@ QString reason_not_writable(const QSaveFile &file, const QString &path) {
         case QFileDevice::PermissionsError:
             return no_permission;
         case QFileDevice::ResourceError:
-            return QStringLiteral("nincs elég hely a lemezen.");
+            return u"nincs elég hely a lemezen."_s;
         case QFileDevice::OpenError:
-            return QStringLiteral("ide nem hozható létre fájl.");
+            return u"ide nem hozható létre fájl."_s;
         default:
-            return QStringLiteral("írási hiba történt.");
+            return u"írási hiba történt."_s;
     }
 }
 
@@ -40,7 +42,7 @@ FileContent read_whole(const QString &path) {
         return cannot_read(path, reason_not_readable(path));
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        return cannot_read(path, QStringLiteral("olvasási hiba történt."));
+        return cannot_read(path, u"olvasási hiba történt."_s);
     return bytes;
 }
 
@@ -55,8 +57,8 @@ std::optional<Failure> replace_whole(const QString &path, const QByteArray &byte
         if (taken == bytes.size() && file.flush() && file.commit())
             return std::nullopt;
     }
-    return Failure{QStringLiteral("A(z) „%1” fájl nem írható: %2")
-                       .arg(QDir::toNativeSeparators(path), reason_not_writable(file, path))};
+    return Failure{
+        u"A(z) „%1” fájl nem írható: %2"_s.arg(QDir::toNativeSeparators(path), reason_not_writable(file, path))};
 }
 
 std::optional<Failure> make_folder(const QString &path) {
@@ -66,26 +68,26 @@ std::optional<Failure> make_folder(const QString &path) {
     QString there = path;
     while (!QFileInfo::exists(there) && QFileInfo(there).path() != there)
         there = QFileInfo(there).path();
-    QString reason = QStringLiteral("hiba történt.");
+    QString reason = u"hiba történt."_s;
     if (!QFileInfo(there).isDir())
-        reason = QStringLiteral("a helyén egy fájl van.");
+        reason = u"a helyén egy fájl van."_s;
     else if (!QFileInfo(there).isWritable())
         reason = no_permission;
-    return Failure{QStringLiteral("A(z) „%1” mappa nem hozható létre: %2").arg(QDir::toNativeSeparators(path), reason)};
+    return Failure{u"A(z) „%1” mappa nem hozható létre: %2"_s.arg(QDir::toNativeSeparators(path), reason)};
 }
 
 std::optional<Failure> remove(const QString &path) {
     const QFileInfo place(path);
     if (QFile::remove(path) || (!place.exists() && !place.isSymLink()))
         return std::nullopt;
-    QString reason = QStringLiteral("egy másik program használja, vagy hiba történt.");
+    QString reason = u"egy másik program használja, vagy hiba történt."_s;
     if (place.isDir())
-        reason = QStringLiteral("ez egy mappa.");
+        reason = u"ez egy mappa."_s;
     else if (!QFileInfo(place.path()).isWritable())
-        reason = QStringLiteral("nincs jogosultság a törléséhez.");
+        reason = u"nincs jogosultság a törléséhez."_s;
     else if (!place.isWritable())
-        reason = QStringLiteral("írásvédett.");
-    return Failure{QStringLiteral("A(z) „%1” fájl nem törölhető: %2").arg(QDir::toNativeSeparators(path), reason)};
+        reason = u"írásvédett."_s;
+    return Failure{u"A(z) „%1” fájl nem törölhető: %2"_s.arg(QDir::toNativeSeparators(path), reason)};
 }
 
 bool exists(const QString &path) {
@@ -93,18 +95,18 @@ bool exists(const QString &path) {
 }
 
 Failure cannot_read(const QString &path, const QString &reason) {
-    return {QStringLiteral("A(z) „%1” fájl nem olvasható: %2").arg(QDir::toNativeSeparators(path), reason)};
+    return {u"A(z) „%1” fájl nem olvasható: %2"_s.arg(QDir::toNativeSeparators(path), reason)};
 }
 
 QString reason_not_readable(const QString &path) {
     const QFileInfo place(path);
     if (!place.exists())
-        return QStringLiteral("a fájl nem létezik.");
+        return u"a fájl nem létezik."_s;
     if (place.isDir())
-        return QStringLiteral("ez egy mappa.");
+        return u"ez egy mappa."_s;
     if (!place.isReadable())
-        return QStringLiteral("nincs jogosultság az olvasásához.");
-    return QStringLiteral("a fájl nem nyitható meg.");
+        return u"nincs jogosultság az olvasásához."_s;
+    return u"a fájl nem nyitható meg."_s;
 }
 
 }  // namespace files

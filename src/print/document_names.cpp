@@ -4,9 +4,11 @@
 
 #include "platform/files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kiterjesztés = QStringLiteral(".pdf");
+const QString kiterjesztés = u".pdf"_s;
 
 /// The path that stands behind the "*" is only a proposal when the list was never saved.
 QString mentett_út(const QString &aktuálisfájl) {
@@ -23,7 +25,7 @@ QString mentett_út(const QString &aktuálisfájl) {
 dokumentumnevek dokumentum(const QString &aktuálisfájl, const QString &programkönyvtár) {
     const QString út = mentett_út(aktuálisfájl);
     const QFileInfo fájl(út);
-    const QString cím = út.isEmpty() ? QStringLiteral("névtelen szószedet") : fájl.completeBaseName();
+    const QString cím = út.isEmpty() ? u"névtelen szószedet"_s : fájl.completeBaseName();
     const QString mappa = út.isEmpty() ? programkönyvtár : fájl.path();
     return {út, cím, mappa + u'/' + cím + kiterjesztés};
 }

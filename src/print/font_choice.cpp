@@ -4,6 +4,8 @@
 #include <QRawFont>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char *table_name = "OS/2";
@@ -19,7 +21,7 @@ constexpr char last_serif = 10;
 }  // namespace
 
 int választott_betűtípus(const QStringList &betűtípusok, const std::function<bool(const QString &)> &talpas) {
-    for (const QString &keresett : {QStringLiteral("Times New Roman CE"), QStringLiteral("Times New Roman")}) {
+    for (const QString &keresett : {u"Times New Roman CE"_s, u"Times New Roman"_s}) {
         const auto hol = static_cast<int>(betűtípusok.indexOf(keresett));
         if (hol >= 0)
             return hol;

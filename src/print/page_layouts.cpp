@@ -3,9 +3,11 @@
 #include <QStringList>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString elválasztó = QStringLiteral("  -  ");
+const QString elválasztó = u"  -  "_s;
 
 constexpr double címméret = 12;
 // Rows stand between these shares of the page's height.
@@ -25,7 +27,7 @@ void címet_ír(PagePrinter &hova, const nyomtatandó &mit) {
     hova.set_y(hova.page_height() / 20);
     hova.set_font_size(mit.betűméret);
     hova.set_font_size(címméret);
-    hova.print_line(mit.út + QStringLiteral(" szószedet"));
+    hova.print_line(mit.út + u" szószedet"_s);
     hova.set_font_size(mit.betűméret);
 }
 

@@ -3,6 +3,8 @@
 #include <QMarginsF>
 #include <QPageSize>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A dot is a twip then.
@@ -24,5 +26,5 @@ PdfDocument::PdfDocument(const QString &title, const QPageLayout &pages) : write
     writer_.setResolution(dots_per_inch);
     writer_.setPageLayout(pages);
     writer_.setTitle(title);
-    writer_.setCreator(QStringLiteral("Zimbora"));
+    writer_.setCreator(u"Zimbora"_s);
 }

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 PdfJob::PdfJob(QString path, const QString &title) : path_(std::move(path)), document_(title) {}
 
 std::optional<Failure> PdfJob::hand_over() {
@@ -10,5 +12,5 @@ std::optional<Failure> PdfJob::hand_over() {
 }
 
 Failure PdfJob::failure() const {
-    return {QStringLiteral("A(z) „%1” fájl nem készíthető el.").arg(QDir::toNativeSeparators(path_))};
+    return {u"A(z) „%1” fájl nem készíthető el."_s.arg(QDir::toNativeSeparators(path_))};
 }

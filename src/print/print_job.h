@@ -24,7 +24,8 @@ class PrintJob {
 
 /// The failure of printing on `printer`, for a reason that is the end of a sentence.
 [[nodiscard]] inline Failure not_printed(const QString &printer, const QString &reason) {
-    return {QStringLiteral("A(z) „%1” nyomtatóval nem sikerült nyomtatni: %2").arg(printer, reason)};
+    using namespace Qt::StringLiterals;
+    return {u"A(z) „%1” nyomtatóval nem sikerült nyomtatni: %2"_s.arg(printer, reason)};
 }
 
 /// A job, or why there can be none.

@@ -11,6 +11,11 @@
 
 #include "platform/files.h"
 
+using namespace Qt::StringLiterals;
+
+const QString english_hungarian_file = u"am.txt"_s;
+const QString hungarian_english_file = u"ma.txt"_s;
+
 namespace {
 
 bool holds_a_dictionary(const QDir &folder) {
@@ -39,7 +44,7 @@ std::optional<QByteArray> bytes_of(const QString &path) {
 /// Makes `copy` a copy of the file `original`, unless it is one. A missing original leaves everything as it is.
 void renew_copy(const QString &original, const QString &copy) {
     const std::optional<QByteArray> bytes = bytes_of(original);
-    if (!bytes || bytes_of(copy) == bytes || !QFileInfo(copy).dir().mkpath(QStringLiteral(".")))
+    if (!bytes || bytes_of(copy) == bytes || !QFileInfo(copy).dir().mkpath(u"."_s))
         return;
     // Where the copy cannot be written, who reads it tells that it is missing.
     static_cast<void>(files::replace_whole(copy, *bytes));
@@ -77,7 +82,7 @@ void copy_folder_once(const QDir &installed, const QDir &own, const QString &nam
     const QDir from(installed.filePath(name));
     if (own.exists(name) || from.isEmpty(QDir::Files))
         return;
-    const QString unfinished_name = u'.' + name + QStringLiteral("-XXXXXX");
+    const QString unfinished_name = u'.' + name + u"-XXXXXX"_s;
     remove_interrupted(own, unfinished_name);
     QTemporaryDir unfinished(own.filePath(unfinished_name));
     if (!unfinished.isValid() || !copy_files(from, QDir(unfinished.path())))
@@ -102,7 +107,7 @@ std::optional<QString> folder_that_is_there(const ProgramFolderPlaces &places) {
 }
 
 QDir own_folder(const ProgramFolderPlaces &places) {
-    return {QDir(places.documents).filePath(QStringLiteral("Zimbora"))};
+    return {QDir(places.documents).filePath(u"Zimbora"_s)};
 }
 
 }  // namespace
@@ -119,10 +124,9 @@ QString find_program_folder(const ProgramFolderPlaces &places) {
     const QDir installed(places.installed_dictionaries);
     link_dictionaries(installed, own);
     // Its address is the text of the folder immediately followed by this one.
-    copy_help(QDir(installed.filePath(QStringLiteral("help"))),
-              QDir(own.absolutePath() + QStringLiteral("kavaro/help")));
+    copy_help(QDir(installed.filePath(u"help"_s)), QDir(own.absolutePath() + u"kavaro/help"_s));
     // So is that of the silence.
-    renew_copy(installed.filePath(QStringLiteral("null.wav")), own.absolutePath() + QStringLiteral("null.wav"));
+    renew_copy(installed.filePath(u"null.wav"_s), own.absolutePath() + u"null.wav"_s);
     for (const char16_t *folder : {u"hangok", u"zenemid", u"kavaro"})
         copy_folder_once(installed, own, QString::fromUtf16(folder));
     return own.absolutePath();

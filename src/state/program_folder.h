@@ -32,5 +32,5 @@ struct ProgramFolderPlaces {
 [[nodiscard]] bool program_folder_is_missing(const ProgramFolderPlaces &places);
 
 /// Names of the two dictionaries in the program folder.
-inline const QString english_hungarian_file = QStringLiteral("am.txt");
-inline const QString hungarian_english_file = QStringLiteral("ma.txt");
+extern const QString english_hungarian_file;
+extern const QString hungarian_english_file;

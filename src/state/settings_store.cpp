@@ -1,5 +1,7 @@
 #include "state/settings_store.h"
 
+using namespace Qt::StringLiterals;
+
 namespace global {
 namespace {
 
@@ -9,8 +11,7 @@ QString place(const QObject &window, const QString &key) {
 
 }  // namespace
 
-beállítástár::beállítástár()
-    : store_(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Zimbora"), QStringLiteral("szotar")) {
+beállítástár::beállítástár() : store_(QSettings::NativeFormat, QSettings::UserScope, u"Zimbora"_s, u"szotar"_s) {
     // Of this user only.
     store_.setFallbacksEnabled(false);
 }

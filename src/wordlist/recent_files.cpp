@@ -3,6 +3,8 @@
 #include "platform/code_page.h"
 #include "platform/text_lines.h"
 
+using namespace Qt::StringLiterals;
+
 namespace legutóbbifájlok {
 
 QStringList olvas(QByteArrayView bytes, const std::function<bool(const QString &)> &létezik) {
@@ -26,20 +28,19 @@ FileContent ír(const QString &aktuális, const QStringList &menü) {
         const auto sor = code_page::encode(út);
         if (!sor)
             return Failure{
-                QStringLiteral("A(z) „%1” fájl nem kerülhet a legutóbbi fájlok közé, mert a nevében szereplő „%2” "
-                               "jel nincs meg a közép-európai kódlapon.")
-                    .arg(út, code_page::first_missing(út))};
+                u"A(z) „%1” fájl nem kerülhet a legutóbbi fájlok közé, mert a nevében szereplő „%2” "
+                "jel nincs meg a közép-európai kódlapon."_s.arg(út, code_page::first_missing(út))};
         bytes += *sor + "\r\n";
     }
     return bytes;
 }
 
 QString felirat(int n, const QString &út) {
-    return u'&' + QString::number(n) + QStringLiteral(": ") + QString(út).replace(u'&', QStringLiteral("&&"));
+    return u'&' + QString::number(n) + u": "_s + QString(út).replace(u'&', u"&&"_s);
 }
 
 QString útvonal(const QString &felirat) {
-    return felirat.mid(4).replace(QStringLiteral("&&"), QStringLiteral("&"));
+    return felirat.mid(4).replace(u"&&"_s, u"&"_s);
 }
 
 }  // namespace legutóbbifájlok

@@ -3,6 +3,8 @@
 #include "platform/code_page.h"
 #include "platform/text_lines.h"
 
+using namespace Qt::StringLiterals;
+
 namespace szsfájl {
 namespace {
 
@@ -30,9 +32,9 @@ bool van_benne_sorvég(const szópár &pár) {
 }
 
 Failure nincs_a_kódlapon(const QString &szó) {
-    return {QStringLiteral("A(z) „%1” szóban a(z) „%2” jel nem menthető, mert a szószedetfájl közép-európai kódlapján "
-                           "nincs meg.")
-                .arg(idézet(szó), code_page::first_missing(szó))};
+    return {
+        u"A(z) „%1” szóban a(z) „%2” jel nem menthető, mert a szószedetfájl közép-európai kódlapján "
+        "nincs meg."_s.arg(idézet(szó), code_page::first_missing(szó))};
 }
 
 }  // namespace
@@ -62,13 +64,10 @@ FileContent ír(const QVector<szópár> &párok) {
 
 QString akadály(const szópár &pár) {
     if (pár.angol.contains(u':'))
-        return QStringLiteral(
-                   "A(z) „%1” angol szóban nem lehet kettőspont, mert a szószedetfájlban az választja el az "
-                   "angol szót a magyartól.")
-            .arg(idézet(pár.angol));
+        return u"A(z) „%1” angol szóban nem lehet kettőspont, mert a szószedetfájlban az választja el az "
+               "angol szót a magyartól."_s.arg(idézet(pár.angol));
     if (van_benne_sorvég(pár))
-        return QStringLiteral("A(z) „%1” szópárban nem lehet sortörés.")
-            .arg(idézet((pár.angol + u':' + pár.magyar).simplified()));
+        return u"A(z) „%1” szópárban nem lehet sortörés."_s.arg(idézet((pár.angol + u':' + pár.magyar).simplified()));
     return {};
 }
 

@@ -10,11 +10,13 @@
 #include "wordlist/recent_files.h"
 #include "wordlist/szs_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kilépéscím = QStringLiteral("Kilépés");
-const QString mentéskérdés = QStringLiteral("Akarja menteni a változtatásokat?");
-const QString csillag = QStringLiteral("*");
+const QString kilépéscím = u"Kilépés"_s;
+const QString mentéskérdés = u"Akarja menteni a változtatásokat?"_s;
+const QString csillag = u"*"_s;
 
 /// "*" in front of the current file's name says that its naming was cancelled.
 bool menthető(const QString &fájl) {
@@ -53,7 +55,7 @@ void szószedetfájlok::parancssorból(const QString &parancssor) {
     const bool idézett = parancssor.size() >= 2 && parancssor.startsWith(u'"') && parancssor.endsWith(u'"');
     const QString út = idézett ? parancssor.mid(1, parancssor.size() - 2) : parancssor;
     if (!files::exists(út)) {
-        üzenetek_.tell(QStringLiteral("Sikertelen fájlmegnyitás!"));
+        üzenetek_.tell(u"Sikertelen fájlmegnyitás!"_s);
         return;
     }
     if (const auto párok = párokat(út))
@@ -127,7 +129,7 @@ std::optional<QString> szószedetfájlok::meglévőfájl(const QString &javaslat
 }
 
 QString szószedetfájlok::programkönyvtárminta() const {
-    return állapot_.programkönyvtár + QStringLiteral("/*.szs");
+    return állapot_.programkönyvtár + u"/*.szs"_s;
 }
 
 void szószedetfájlok::mnufájlhozzáfűz() {
@@ -185,7 +187,7 @@ bool szószedetfájlok::kiír(const QString &út) {
     const auto *hiba = std::get_if<Failure>(&tartalom);
     const auto írási = hiba ? *hiba : files::replace_whole(út, std::get<QByteArray>(tartalom));
     if (írási)
-        üzenetek_.tell(QStringLiteral("A szószedet mentése nem sikerült. ") + írási->sentence);
+        üzenetek_.tell(u"A szószedet mentése nem sikerült. "_s + írási->sentence);
     return !írási;
 }
 
@@ -204,8 +206,7 @@ QString szószedetfájlok::névmegadás() {
         if (név->isEmpty() || van_benne_pont(*név))
             continue;
         if (!files::exists(*név) ||
-            üzenetek_.ask_yes_no(QStringLiteral("Fájl felülírása"),
-                                 QStringLiteral("A %1 szószedet fájl már létezik. Felülírja?").arg(*név)) ==
+            üzenetek_.ask_yes_no(u"Fájl felülírása"_s, u"A %1 szószedet fájl már létezik. Felülírja?"_s.arg(*név)) ==
                 Answer::yes)
             return *név;
     }
@@ -213,10 +214,10 @@ QString szószedetfájlok::névmegadás() {
 
 QString szószedetfájlok::javasoltnév() const {
     // A proposal with one of these could not be accepted, or would name another folder.
-    static const QRegularExpression tiltott(QStringLiteral(R"([\\/:*?"<>|.\x00-\x1f])"));
+    static const QRegularExpression tiltott(uR"([\\/:*?"<>|.\x00-\x1f])"_s);
     QString első = lista_.üres() ? QString() : lista_.pár(0).angol.left(100);
-    első.replace(tiltott, QStringLiteral("_"));
-    return állapot_.programkönyvtár + u'/' + első + QStringLiteral(".szs");
+    első.replace(tiltott, u"_"_s);
+    return állapot_.programkönyvtár + u'/' + első + u".szs"_s;
 }
 
 void szószedetfájlok::fájllistír() {
@@ -251,5 +252,5 @@ bool szószedetfájlok::kilépéskérdés() {
 }
 
 void szószedetfájlok::címbeállít() {
-    ablak_.címbeállít(QStringLiteral("Zimbora Angol-Magyar szótár - %1 szószedet").arg(állapot_.aktuálisfájl));
+    ablak_.címbeállít(u"Zimbora Angol-Magyar szótár - %1 szószedet"_s.arg(állapot_.aktuálisfájl));
 }

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString jelentésválasztó = QStringLiteral(", ");
+const QString jelentésválasztó = u", "_s;
 
 /// The separators on both sides make "ház" another meaning than "házi".
 bool van_már(const QString &jelentések, const QString &jelentés) {

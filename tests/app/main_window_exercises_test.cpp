@@ -1,5 +1,7 @@
 #include "support/main_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MainWindowExercises : public MainWindowTest {
@@ -49,8 +51,8 @@ TEST_F(MainWindowExercises, learning_window_takes_the_place_of_the_main_window) 
     start_with_list("dog:kutya\r\ncat:macska\r\n");
 
     practise("mnufeladattanul", "tanulás", [](const ablak &learning) {
-        EXPECT_EQ(shown(learning, "label1"), QStringLiteral("dog"));
-        EXPECT_EQ(shown(learning, "label3"), QStringLiteral("kutya"));
+        EXPECT_EQ(shown(learning, "label1"), u"dog"_s);
+        EXPECT_EQ(shown(learning, "label3"), u"kutya"_s);
     });
 }
 
@@ -58,18 +60,18 @@ TEST_F(MainWindowExercises, learning_window_shows_the_list_as_it_is_at_every_ope
     start_with_list("dog:kutya\r\n");
     practise("mnufeladattanul", "tanulás", [](const ablak &) {});
     click_item("szószedet", 0);
-    text_box("szómagytext")->setText(QStringLiteral("eb"));
+    text_box("szómagytext")->setText(u"eb"_s);
     click("módosít");
 
     practise("mnufeladattanul", "tanulás",
-             [](const ablak &learning) { EXPECT_EQ(shown(learning, "label3"), QStringLiteral("eb")); });
+             [](const ablak &learning) { EXPECT_EQ(shown(learning, "label3"), u"eb"_s); });
 }
 
 TEST_F(MainWindowExercises, typed_quiz_takes_the_place_of_the_main_window) {
     start_with_list("dog:kutya\r\n");
 
     practise("mnufeladatkikérd", "kikérdező",
-             [](const ablak &quiz) { EXPECT_EQ(shown(quiz, "Pic_kérdés"), QStringLiteral("kutya")); });
+             [](const ablak &quiz) { EXPECT_EQ(shown(quiz, "Pic_kérdés"), u"kutya"_s); });
 }
 
 TEST_F(MainWindowExercises, typed_quiz_is_won_to_the_end_and_the_main_window_is_back) {
@@ -80,27 +82,26 @@ TEST_F(MainWindowExercises, typed_quiz_is_won_to_the_end_and_the_main_window_is_
         QTimer::singleShot(0, window_.get(), [&result] {
             auto *message = dynamic_cast<ablak *>(QApplication::activeModalWidget());
             ASSERT_NE(message, nullptr);
-            EXPECT_EQ(message->objectName(), QStringLiteral("üzenet"));
+            EXPECT_EQ(message->objectName(), u"üzenet"_s);
             for (int i = 0; i < 3; ++i)
-                result.append(shown(*message, qUtf8Printable(QStringLiteral("Pic_szöveg(%1)").arg(i))));
+                result.append(shown(*message, qUtf8Printable(u"Pic_szöveg(%1)"_s.arg(i))));
             message->close();
         });
-        auto *answer = quiz.findChild<QLineEdit *>(QStringLiteral("txt_megoldás"));
-        QTest::keyClicks(answer, QStringLiteral("dog"));
+        auto *answer = quiz.findChild<QLineEdit *>(u"txt_megoldás"_s);
+        QTest::keyClicks(answer, u"dog"_s);
         QTest::keyClick(answer, Qt::Key_Return);
         EXPECT_FALSE(quiz.isVisible());
     });
 
-    EXPECT_EQ(result, QStringList({QStringLiteral("Gratulálok! Sikerült!"), QStringLiteral(" "),
-                                   QStringLiteral("Hibaarány:  0%")}));
+    EXPECT_EQ(result, QStringList({u"Gratulálok! Sikerült!"_s, u" "_s, u"Hibaarány:  0%"_s}));
 }
 
 TEST_F(MainWindowExercises, multiple_choice_opens_with_two_pairs) {
     start_with_list("dog:kutya\r\ncat:macska\r\n");
 
     practise("mnufeladatválaszt", "választás", [](const ablak &game) {
-        EXPECT_NE(game.findChild<QWidget *>(QStringLiteral("pic_kínálat(1)")), nullptr);
-        EXPECT_EQ(game.findChild<QWidget *>(QStringLiteral("pic_kínálat(2)")), nullptr);
+        EXPECT_NE(game.findChild<QWidget *>(u"pic_kínálat(1)"_s), nullptr);
+        EXPECT_EQ(game.findChild<QWidget *>(u"pic_kínálat(2)"_s), nullptr);
     });
 }
 
@@ -116,10 +117,10 @@ TEST_F(MainWindowExercises, multiple_choice_of_one_pair_is_a_warning_before_the_
 
     action("mnufeladatválaszt")->trigger();
 
-    EXPECT_EQ(window, QStringLiteral("üzenet"));
+    EXPECT_EQ(window, u"üzenet"_s);
     EXPECT_TRUE(main_window_seen);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_EQ(pairs(), QStringLiteral("dog:kutya"));
+    EXPECT_EQ(pairs(), u"dog:kutya"_s);
 }
 
 TEST_F(MainWindowExercises, menu_has_the_five_exercises_in_their_order) {
@@ -130,20 +131,19 @@ TEST_F(MainWindowExercises, menu_has_the_five_exercises_in_their_order) {
     for (const QAction *one : menu->actions())
         items.append(one->objectName() + u' ' + one->text());
 
-    EXPECT_EQ(menu->title(), QStringLiteral("Fel&adatok"));
-    EXPECT_EQ(items,
-              QStringList({QStringLiteral("mnufeladattanul &Tanulás"), QStringLiteral("mnufeladatkikérd &Kikérdezés"),
-                           QStringLiteral("mnufeladatválaszt &Választás"), QStringLiteral("mnu_fájl_kirakó &Kirakó"),
-                           QStringLiteral("mnufeladatmemória &Memória")}));
+    EXPECT_EQ(menu->title(), u"Fel&adatok"_s);
+    EXPECT_EQ(items, QStringList({u"mnufeladattanul &Tanulás"_s, u"mnufeladatkikérd &Kikérdezés"_s,
+                                  u"mnufeladatválaszt &Választás"_s, u"mnu_fájl_kirakó &Kirakó"_s,
+                                  u"mnufeladatmemória &Memória"_s}));
 }
 
 TEST_F(MainWindowExercises, letter_puzzle_takes_the_place_of_the_main_window) {
     start_with_list("dog:kutya\r\n");
 
     practise("mnu_fájl_kirakó", "frm_kirakó", [](const ablak &puzzle) {
-        EXPECT_EQ(shown(puzzle, "pic_feladvány"), QStringLiteral("kutya"));
-        EXPECT_NE(puzzle.findChild<QWidget *>(QStringLiteral("Label_betű(2)")), nullptr);
-        EXPECT_EQ(puzzle.findChild<QWidget *>(QStringLiteral("Label_betű(3)")), nullptr);
+        EXPECT_EQ(shown(puzzle, "pic_feladvány"), u"kutya"_s);
+        EXPECT_NE(puzzle.findChild<QWidget *>(u"Label_betű(2)"_s), nullptr);
+        EXPECT_EQ(puzzle.findChild<QWidget *>(u"Label_betű(3)"_s), nullptr);
     });
 }
 
@@ -162,15 +162,15 @@ TEST_F(MainWindowExercises, letter_puzzle_that_is_solved_closes_and_the_main_win
         EXPECT_FALSE(puzzle.isVisible());
     });
 
-    EXPECT_EQ(result, QStringLiteral("üzenet o - ó"));
+    EXPECT_EQ(result, u"üzenet o - ó"_s);
 }
 
 TEST_F(MainWindowExercises, memory_game_takes_the_place_of_the_main_window) {
     start_with_list("a:1\r\nb:2\r\nc:3\r\nd:4\r\ne:5\r\nf:6\r\ng:7\r\n");
 
     practise("mnufeladatmemória", "frm_memory", [](const ablak &game) {
-        EXPECT_NE(game.findChild<QWidget *>(QStringLiteral("pic_kártya(11)")), nullptr);
-        EXPECT_EQ(game.findChild<QWidget *>(QStringLiteral("pic_kártya(12)")), nullptr);
+        EXPECT_NE(game.findChild<QWidget *>(u"pic_kártya(11)"_s), nullptr);
+        EXPECT_EQ(game.findChild<QWidget *>(u"pic_kártya(12)"_s), nullptr);
     });
 }
 
@@ -187,7 +187,7 @@ TEST_F(MainWindowExercises, memory_game_of_six_pairs_is_refused_and_the_main_win
 
     action("mnufeladatmemória")->trigger();
 
-    EXPECT_EQ(message, QStringLiteral("üzenet legalább hat szópárra"));
+    EXPECT_EQ(message, u"üzenet legalább hat szópárra"_s);
     EXPECT_TRUE(window_->isVisible());
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_EQ(pairs(), before);
@@ -204,7 +204,7 @@ TEST_F(MainWindowExercises, exercise_has_the_colour_of_the_program) {
                                      {"mnufeladatmemória", "frm_memory"}})
         practise(item, name, [this](const ablak &exercise) {
             EXPECT_EQ(exercise.háttérszín(), reference_.háttérszín());
-            EXPECT_TRUE(exercise.windowTitle().startsWith(QStringLiteral("Zimbora Angol-Magyar Szótár - ")));
+            EXPECT_TRUE(exercise.windowTitle().startsWith(u"Zimbora Angol-Magyar Szótár - "_s));
         });
 }
 

@@ -1,8 +1,10 @@
 #include "support/main_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString question = QStringLiteral("Kilépés|Akarja menteni a változtatásokat?|yes no cancel");
+const QString question = u"Kilépés|Akarja menteni a változtatásokat?|yes no cancel"_s;
 
 class MainWindowExit : public MainWindowTest {
   protected:
@@ -14,7 +16,7 @@ class MainWindowExit : public MainWindowTest {
 
     /// The folder of the mini window's file exists and holds a file.
     void make_mini_window_folder(const QByteArray &values = {}) {
-        QDir(root_.path()).mkpath(QStringLiteral("c/zbrmk/angol"));
+        QDir(root_.path()).mkpath(u"c/zbrmk/angol"_s);
         write_file(place("c/zbrmk/angol/kisablak.ini"), values);
     }
 
@@ -39,7 +41,7 @@ TEST_F(MainWindowExit, stays_on_cancel_with_the_window_open) {
     EXPECT_EQ(boxes_.asked, QStringList{question});
     EXPECT_FALSE(ended_);
     EXPECT_TRUE(window_->isVisible());
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
 }
 
 TEST_F(MainWindowExit, ends_without_saving_on_no) {
@@ -74,7 +76,7 @@ TEST_F(MainWindowExit, stays_when_the_save_is_cancelled_or_fails) {
 
     EXPECT_FALSE(ended_);
     EXPECT_EQ(boxes_.told.size(), 1);
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
 }
 
 TEST_F(MainWindowExit, asks_only_once_while_it_is_asking) {

@@ -1,5 +1,7 @@
 #include "support/main_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MainWindowFiles : public MainWindowTest {
@@ -7,7 +9,7 @@ class MainWindowFiles : public MainWindowTest {
     [[nodiscard]] QStringList recent_captions() const {
         QStringList captions;
         for (int i = 1; i <= 4; ++i) {
-            const auto *item = window_->findChild<QAction *>(QStringLiteral("mnufájlfájl(%1)").arg(i));
+            const auto *item = window_->findChild<QAction *>(u"mnufájlfájl(%1)"_s.arg(i));
             if (item->isVisible())
                 captions.append(item->text());
         }
@@ -29,11 +31,10 @@ TEST_F(MainWindowFiles, saves_opens_and_shows_a_list) {
 
     dialogs_.choices = {place("gyumi.szs")};
     action("mnufájlmegnyit")->trigger();
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
     EXPECT_EQ(list("szószedet")->selected(), 0);
-    EXPECT_EQ(text_box("szómagytext")->text(), QStringLiteral("alma"));
-    EXPECT_EQ(window_->windowTitle(),
-              QStringLiteral("Zimbora Angol-Magyar szótár - %1 szószedet").arg(place("gyumi.szs")));
+    EXPECT_EQ(text_box("szómagytext")->text(), u"alma"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar szótár - %1 szószedet"_s.arg(place("gyumi.szs")));
 }
 
 TEST_F(MainWindowFiles, opens_the_list_of_the_command_line) {
@@ -41,15 +42,15 @@ TEST_F(MainWindowFiles, opens_the_list_of_the_command_line) {
 
     start(u'"' + path + u'"');
 
-    EXPECT_EQ(pairs(), QStringLiteral("dog:kutya"));
+    EXPECT_EQ(pairs(), u"dog:kutya"_s);
     EXPECT_EQ(state_.aktuálisfájl, QDir::toNativeSeparators(path));
     EXPECT_DOUBLE_EQ(window_->magasság(), window_->hely(button("módosít")).bottom() + 850);
 }
 
 TEST_F(MainWindowFiles, starts_empty_when_the_list_of_the_command_line_is_missing) {
-    start(QStringLiteral("\"/nincs/ilyen.szs\""));
+    start(u"\"/nincs/ilyen.szs\""_s);
 
-    EXPECT_EQ(boxes_.told, QStringList{QStringLiteral("Sikertelen fájlmegnyitás!")});
+    EXPECT_EQ(boxes_.told, QStringList{u"Sikertelen fájlmegnyitás!"_s});
     EXPECT_EQ(pairs(), QString());
 }
 
@@ -58,17 +59,14 @@ TEST_F(MainWindowFiles, shows_recent_files_as_numbered_items_and_opens_them) {
     const QString second = word_list("R&D.szs",
                                      "test:pr\xf3"
                                      "ba\r\n");
-    write_file(place("c/zbrmkfnh.ini"),
-               cp1250((first + QStringLiteral("\r\n/nincs.szs\r\n") + second).toStdU16String().c_str()));
+    write_file(place("c/zbrmkfnh.ini"), cp1250((first + u"\r\n/nincs.szs\r\n"_s + second).toStdU16String().c_str()));
     start();
-    EXPECT_EQ(recent_captions(),
-              QStringList({QStringLiteral("&1: ") + first,
-                           QStringLiteral("&2: ") + QString(second).replace(u'&', QStringLiteral("&&"))}));
+    EXPECT_EQ(recent_captions(), QStringList({u"&1: "_s + first, u"&2: "_s + QString(second).replace(u'&', u"&&"_s)}));
 
     action("mnufájlfájl(2)")->trigger();
 
-    EXPECT_EQ(pairs(), QStringLiteral("test:próba"));
-    EXPECT_TRUE(recent_captions()[0].contains(QStringLiteral("R&&D")));
+    EXPECT_EQ(pairs(), u"test:próba"_s);
+    EXPECT_TRUE(recent_captions()[0].contains(u"R&&D"_s));
     EXPECT_EQ(recent_captions().size(), 2);
 }
 
@@ -99,7 +97,7 @@ TEST_F(MainWindowFiles, opens_a_hundred_thousand_pairs) {
     action("mnufájlmegnyit")->trigger();
 
     EXPECT_EQ(list("szószedet")->count(), 100000);
-    EXPECT_EQ(list("szómagylist")->item(99999), QStringLiteral("szó"));
+    EXPECT_EQ(list("szómagylist")->item(99999), u"szó"_s);
 }
 
 }  // namespace

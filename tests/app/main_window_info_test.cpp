@@ -3,13 +3,15 @@
 
 #include "support/main_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MainWindowInfo : public MainWindowTest {
   protected:
     MainWindowInfo() {
-        QCoreApplication::setApplicationName(QStringLiteral("Zimbora"));
-        QCoreApplication::setApplicationVersion(QStringLiteral("3.1.4"));
+        QCoreApplication::setApplicationName(u"Zimbora"_s);
+        QCoreApplication::setApplicationVersion(u"3.1.4"_s);
         start();
     }
 
@@ -30,20 +32,19 @@ class MainWindowInfo : public MainWindowTest {
 };
 
 TEST_F(MainWindowInfo, has_its_menu_with_help_about_box_and_the_makers_page) {
-    EXPECT_EQ(control<QMenu>("mnu_info")->title(), QStringLiteral("&Info"));
+    EXPECT_EQ(control<QMenu>("mnu_info")->title(), u"&Info"_s);
     QStringList captions;
     for (const QAction *item : control<QMenu>("mnu_info")->actions())
         captions.append(item->text());
-    EXPECT_EQ(captions,
-              QStringList({QStringLiteral("&Súgó"), QStringLiteral("&Névjegy"), QStringLiteral("A Zimbora lapja")}));
+    EXPECT_EQ(captions, QStringList({u"&Súgó"_s, u"&Névjegy"_s, u"A Zimbora lapja"_s}));
     EXPECT_EQ(action("mnu_súgó")->shortcut(), QKeySequence(Qt::Key_F1));
     EXPECT_TRUE(control<QMenu>("mnu_info")->isEnabled());
 }
 
 TEST_F(MainWindowInfo, has_its_button_for_the_mini_window_and_a_link_to_the_makers_page) {
-    EXPECT_EQ(button("cmd_kisablak")->text(), QStringLiteral("Kisablak"));
+    EXPECT_EQ(button("cmd_kisablak")->text(), u"Kisablak"_s);
     EXPECT_TRUE(button("cmd_kisablak")->isVisible());
-    EXPECT_TRUE(control<QLabel>("Label4")->text().contains(QStringLiteral(">A Zimbora lapja</a>")));
+    EXPECT_TRUE(control<QLabel>("Label4")->text().contains(u">A Zimbora lapja</a>"_s));
     EXPECT_TRUE(control<QLabel>("Label4")->isVisible());
 }
 
@@ -54,8 +55,8 @@ TEST_F(MainWindowInfo, opens_the_about_box_with_the_programs_name_and_version) {
         const QWidget *box = modal(u"frmAbout");
         ASSERT_NE(box, nullptr);
         seen = true;
-        EXPECT_EQ(box->windowTitle(), QStringLiteral("About Zimbora"));
-        EXPECT_EQ(box->findChild<QLabel *>(QStringLiteral("lblVersion"))->text(), QStringLiteral("Version: 3.1.4"));
+        EXPECT_EQ(box->windowTitle(), u"About Zimbora"_s);
+        EXPECT_EQ(box->findChild<QLabel *>(u"lblVersion"_s)->text(), u"Version: 3.1.4"_s);
     });
 
     EXPECT_TRUE(seen);
@@ -67,7 +68,7 @@ TEST_F(MainWindowInfo, says_nothing_itself_when_the_systems_information_tool_has
     information_tool_ = InformationTool::started;
 
     open_about_box([&] {
-        QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(QStringLiteral("cmdSysInfo")), Qt::LeftButton);
+        QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(u"cmdSysInfo"_s), Qt::LeftButton);
         EXPECT_NE(modal(u"frmAbout"), nullptr);
     });
 
@@ -77,11 +78,10 @@ TEST_F(MainWindowInfo, says_nothing_itself_when_the_systems_information_tool_has
 TEST_F(MainWindowInfo, tells_when_the_systems_information_tool_is_not_to_be_had) {
     information_tool_ = InformationTool::unavailable;
 
-    open_about_box([&] {
-        QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(QStringLiteral("cmdSysInfo")), Qt::LeftButton);
-    });
+    open_about_box(
+        [&] { QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(u"cmdSysInfo"_s), Qt::LeftButton); });
 
-    EXPECT_EQ(boxes_.told, QStringList{QStringLiteral("System Information Is Unavailable At This Time")});
+    EXPECT_EQ(boxes_.told, QStringList{u"System Information Is Unavailable At This Time"_s});
 }
 
 TEST_F(MainWindowInfo, shows_what_is_known_of_the_system_in_front_of_the_about_box) {
@@ -93,14 +93,14 @@ TEST_F(MainWindowInfo, shows_what_is_known_of_the_system_in_front_of_the_about_b
             QWidget *message = modal(u"frm_üzenet");
             ASSERT_NE(message, nullptr);
             title = message->windowTitle();
-            text = message->findChild<QPlainTextEdit *>(QStringLiteral("txt_üzenet"))->toPlainText();
+            text = message->findChild<QPlainTextEdit *>(u"txt_üzenet"_s)->toPlainText();
             message->close();
         });
-        QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(QStringLiteral("cmdSysInfo")), Qt::LeftButton);
+        QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(u"cmdSysInfo"_s), Qt::LeftButton);
     });
 
-    EXPECT_EQ(title, QStringLiteral("Zimbora Angol-Magyar Szótár - Rendszeradatok"));
-    EXPECT_TRUE(text.contains(QStringLiteral("Program: Zimbora 3.1.4")));
+    EXPECT_EQ(title, u"Zimbora Angol-Magyar Szótár - Rendszeradatok"_s);
+    EXPECT_TRUE(text.contains(u"Program: Zimbora 3.1.4"_s));
     EXPECT_TRUE(text.contains(place("angol"))) << text.toStdString();
     EXPECT_TRUE(text.contains(place("c"))) << text.toStdString();
 }

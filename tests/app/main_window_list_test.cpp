@@ -1,5 +1,7 @@
 #include "support/main_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MainWindowList : public MainWindowTest {
@@ -26,11 +28,11 @@ TEST_F(MainWindowList, double_click_on_a_meaning_adds_the_pair_with_a_beep) {
     QTest::mouseDClick(list("magyarlist")->viewport(), Qt::LeftButton, {},
                        list("magyarlist")->visualRect(list("magyarlist")->model()->index(1, 0)).center());
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:almafa"));
+    EXPECT_EQ(pairs(), u"apple:almafa"_s);
     EXPECT_EQ(boxes_.beeps, 1);
     EXPECT_EQ(state_.változott, 1);
-    EXPECT_EQ(items("szószedet"), QStringList{QStringLiteral("apple")});
-    EXPECT_EQ(items("szómagylist"), QStringList{QStringLiteral("almafa")});
+    EXPECT_EQ(items("szószedet"), QStringList{u"apple"_s});
+    EXPECT_EQ(items("szómagylist"), QStringList{u"almafa"_s});
     EXPECT_EQ(list("szószedet")->selected(), 0);
 }
 
@@ -39,7 +41,7 @@ TEST_F(MainWindowList, always_puts_english_on_the_english_side) {
 
     add("megy");
 
-    EXPECT_EQ(pairs(), QStringLiteral("to go:megy"));
+    EXPECT_EQ(pairs(), u"to go:megy"_s);
 }
 
 TEST_F(MainWindowList, appends_a_further_meaning_to_the_selected_word_and_shows_it) {
@@ -48,19 +50,19 @@ TEST_F(MainWindowList, appends_a_further_meaning_to_the_selected_word_and_shows_
     click("hozzáad");
     click("hozzáad");
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma, almafa"));
-    EXPECT_EQ(text_box("szómagytext")->text(), QStringLiteral("alma, almafa"));
+    EXPECT_EQ(pairs(), u"apple:alma, almafa"_s);
+    EXPECT_EQ(text_box("szómagytext")->text(), u"alma, almafa"_s);
 }
 
 TEST_F(MainWindowList, refuses_an_english_word_with_a_colon_and_changes_nothing) {
     QTest::mouseClick(control<QRadioButton>("nyelv(1)"), Qt::LeftButton);
-    text_box("angolszó")->setText(QStringLiteral("köz"));
+    text_box("angolszó")->setText(u"köz"_s);
     click_item("magyarlist", 1);
 
     click("hozzáad");
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("lane: alley")));
+    EXPECT_TRUE(boxes_.told[0].contains(u"lane: alley"_s));
     EXPECT_EQ(pairs(), QString());
     EXPECT_EQ(state_.változott, 0);
 }
@@ -78,8 +80,8 @@ TEST_F(MainWindowList, click_on_a_pair_puts_it_into_the_text_boxes) {
 
     click_item("szószedet", 1);
 
-    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("goat"));
-    EXPECT_EQ(text_box("szómagytext")->text(), QStringLiteral("kecske"));
+    EXPECT_EQ(text_box("szóangtext")->text(), u"goat"_s);
+    EXPECT_EQ(text_box("szómagytext")->text(), u"kecske"_s);
     EXPECT_EQ(list("szómagylist")->selected(), 1);
 }
 
@@ -89,7 +91,7 @@ TEST_F(MainWindowList, click_on_the_hungarian_side_selects_the_pair) {
     click_item("szómagylist", 0);
 
     EXPECT_EQ(list("szószedet")->selected(), 0);
-    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("apple"));
+    EXPECT_EQ(text_box("szóangtext")->text(), u"apple"_s);
 }
 
 TEST_F(MainWindowList, click_on_the_hungarian_side_lets_the_pair_be_deleted_even_if_it_was_selected_already) {
@@ -100,7 +102,7 @@ TEST_F(MainWindowList, click_on_the_hungarian_side_lets_the_pair_be_deleted_even
     EXPECT_TRUE(list("szószedet")->hasFocus());
     click("sztöröl");
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma goat:kecske"));
+    EXPECT_EQ(pairs(), u"apple:alma goat:kecske"_s);
 }
 
 TEST_F(MainWindowList, modify_is_enabled_only_for_a_real_change_of_two_texts) {
@@ -108,13 +110,13 @@ TEST_F(MainWindowList, modify_is_enabled_only_for_a_real_change_of_two_texts) {
     click_item("szószedet", 0);
     EXPECT_FALSE(button("módosít")->isEnabled());
 
-    text_box("szóangtext")->setText(QStringLiteral("apples"));
+    text_box("szóangtext")->setText(u"apples"_s);
     EXPECT_TRUE(button("módosít")->isEnabled());
     text_box("szóangtext")->clear();
     EXPECT_FALSE(button("módosít")->isEnabled());
-    text_box("szóangtext")->setText(QStringLiteral("apple"));
+    text_box("szóangtext")->setText(u"apple"_s);
     EXPECT_FALSE(button("módosít")->isEnabled());
-    text_box("szómagytext")->setText(QStringLiteral("almák"));
+    text_box("szómagytext")->setText(u"almák"_s);
     EXPECT_TRUE(button("módosít")->isEnabled());
 }
 
@@ -122,11 +124,11 @@ TEST_F(MainWindowList, modify_writes_the_two_texts_back) {
     add_three();
     state_.változott = 0;
     click_item("szószedet", 1);
-    text_box("szómagytext")->setText(QStringLiteral("kecske, gida"));
+    text_box("szómagytext")->setText(u"kecske, gida"_s);
 
     click("módosít");
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma goat:kecske, gida odd:furcsa"));
+    EXPECT_EQ(pairs(), u"apple:alma goat:kecske, gida odd:furcsa"_s);
     EXPECT_EQ(state_.változott, 1);
     EXPECT_EQ(list("szószedet")->selected(), 1);
     EXPECT_FALSE(button("módosít")->isEnabled());
@@ -136,37 +138,37 @@ TEST_F(MainWindowList, modify_refuses_a_colon_in_the_english_word) {
     add_three();
     click_item("szószedet", 0);
     state_.változott = 0;
-    text_box("szóangtext")->setText(QStringLiteral("a:b"));
+    text_box("szóangtext")->setText(u"a:b"_s);
 
     click("módosít");
 
     EXPECT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(pairs().startsWith(QStringLiteral("apple:alma")));
+    EXPECT_TRUE(pairs().startsWith(u"apple:alma"_s));
     EXPECT_EQ(state_.változott, 0);
-    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("a:b"));
+    EXPECT_EQ(text_box("szóangtext")->text(), u"a:b"_s);
 }
 
 TEST_F(MainWindowList, modify_refuses_a_line_break) {
     add_three();
     click_item("szószedet", 0);
-    text_box("szómagytext")->setText(QStringLiteral("egy\nkettő"));
+    text_box("szómagytext")->setText(u"egy\nkettő"_s);
 
     click("módosít");
 
     EXPECT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(pairs().startsWith(QStringLiteral("apple:alma")));
+    EXPECT_TRUE(pairs().startsWith(u"apple:alma"_s));
 }
 
 TEST_F(MainWindowList, enter_in_a_text_box_modifies) {
     add_three();
     click_item("szószedet", 2);
     text_box("szómagytext")->setFocus();
-    text_box("szómagytext")->setText(QStringLiteral("páratlan"));
+    text_box("szómagytext")->setText(u"páratlan"_s);
     EXPECT_TRUE(button("módosít")->isDefault());
 
     QTest::keyClick(text_box("szómagytext"), Qt::Key_Return);
 
-    EXPECT_EQ(items("szómagylist")[2], QStringLiteral("páratlan"));
+    EXPECT_EQ(items("szómagylist")[2], u"páratlan"_s);
     list("szólist")->setFocus();
     EXPECT_FALSE(button("módosít")->isDefault());
 }
@@ -179,7 +181,7 @@ TEST_F(MainWindowList, enter_in_the_meanings_adds) {
     QTest::keyClick(list("magyarlist"), Qt::Key_Down);
     QTest::keyClick(list("magyarlist"), Qt::Key_Return);
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:almafa"));
+    EXPECT_EQ(pairs(), u"apple:almafa"_s);
 }
 
 TEST_F(MainWindowList, delete_is_enabled_while_the_list_or_the_button_has_the_focus) {
@@ -217,9 +219,9 @@ TEST_F(MainWindowList, deleting_selects_the_next_pair) {
 
     click("sztöröl");
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma odd:furcsa"));
+    EXPECT_EQ(pairs(), u"apple:alma odd:furcsa"_s);
     EXPECT_EQ(list("szószedet")->selected(), 1);
-    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("odd"));
+    EXPECT_EQ(text_box("szóangtext")->text(), u"odd"_s);
     EXPECT_TRUE(list("szószedet")->hasFocus());
     EXPECT_TRUE(button("sztöröl")->isEnabled());
 }
@@ -231,7 +233,7 @@ TEST_F(MainWindowList, deleting_the_last_pair_selects_the_new_last) {
     click("sztöröl");
 
     EXPECT_EQ(list("szószedet")->selected(), 1);
-    EXPECT_EQ(text_box("szóangtext")->text(), QStringLiteral("goat"));
+    EXPECT_EQ(text_box("szóangtext")->text(), u"goat"_s);
 }
 
 TEST_F(MainWindowList, deleting_the_only_pair_leaves_nothing_to_save_without_a_file) {
@@ -278,10 +280,10 @@ TEST_F(MainWindowList, holds_a_pair_of_a_million_letters_without_cutting_it) {
     dialogs_.choices = {word_list("a.szs", "long:" + longest + "\r\n")};
 
     action("mnufájlmegnyit")->trigger();
-    text_box("szóangtext")->setText(QStringLiteral("longer"));
+    text_box("szóangtext")->setText(u"longer"_s);
     click("módosít");
 
-    EXPECT_EQ(pairs(), QStringLiteral("longer:") + QString::fromLatin1(longest));
+    EXPECT_EQ(pairs(), u"longer:"_s + QString::fromLatin1(longest));
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 
 #include "support/main_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MainWindowLookup : public MainWindowTest {
@@ -15,15 +17,15 @@ class MainWindowLookup : public MainWindowTest {
 TEST_F(MainWindowLookup, searches_while_the_word_is_typed) {
     type("app");
 
-    EXPECT_EQ(items("szólist"), QStringList({QStringLiteral("apple pie"), QStringLiteral("apple")}));
-    EXPECT_EQ(hit_count(), QStringLiteral("2 találat"));
+    EXPECT_EQ(items("szólist"), QStringList({u"apple pie"_s, u"apple"_s}));
+    EXPECT_EQ(hit_count(), u"2 találat"_s);
 }
 
 TEST_F(MainWindowLookup, selects_the_exact_hit_and_shows_its_meanings) {
     type("apple");
 
     EXPECT_EQ(list("szólist")->selected(), 1);
-    EXPECT_EQ(items("magyarlist"), QStringList({QStringLiteral("alma"), QStringLiteral("almafa")}));
+    EXPECT_EQ(items("magyarlist"), QStringList({u"alma"_s, u"almafa"_s}));
     EXPECT_EQ(list("magyarlist")->selected(), 0);
     EXPECT_TRUE(button("hozzáad")->isEnabled());
 }
@@ -31,9 +33,8 @@ TEST_F(MainWindowLookup, selects_the_exact_hit_and_shows_its_meanings) {
 TEST_F(MainWindowLookup, shows_headwords_with_their_to_and_keeps_the_meanings_beside_them) {
     type("go");
 
-    EXPECT_EQ(items("szólist"), QStringList({QStringLiteral("to go"), QStringLiteral("go"), QStringLiteral("goat")}));
-    EXPECT_EQ(items("megoldlist"),
-              QStringList({QStringLiteral("megy÷jár÷"), QStringLiteral("menet÷"), QStringLiteral("kecske÷")}));
+    EXPECT_EQ(items("szólist"), QStringList({u"to go"_s, u"go"_s, u"goat"_s}));
+    EXPECT_EQ(items("megoldlist"), QStringList({u"megy÷jár÷"_s, u"menet÷"_s, u"kecske÷"_s}));
     EXPECT_EQ(list("szólist")->selected(), 1);
 }
 
@@ -42,7 +43,7 @@ TEST_F(MainWindowLookup, shows_the_meanings_of_the_hit_that_is_clicked) {
 
     click_item("szólist", 0);
 
-    EXPECT_EQ(items("magyarlist"), QStringList({QStringLiteral("megy"), QStringLiteral("jár")}));
+    EXPECT_EQ(items("magyarlist"), QStringList({u"megy"_s, u"jár"_s}));
     EXPECT_EQ(list("magyarlist")->selected(), 0);
 }
 
@@ -50,7 +51,7 @@ TEST_F(MainWindowLookup, says_no_hits_and_empties_the_lists) {
     type("app");
     type("x");
 
-    EXPECT_EQ(hit_count(), QStringLiteral("0 találat"));
+    EXPECT_EQ(hit_count(), u"0 találat"_s);
     for (const char *name : {"szólist", "megoldlist", "magyarlist"})
         EXPECT_EQ(list(name)->count(), 0);
     EXPECT_FALSE(button("hozzáad")->isEnabled());
@@ -59,7 +60,7 @@ TEST_F(MainWindowLookup, says_no_hits_and_empties_the_lists) {
 TEST_F(MainWindowLookup, has_no_meaning_to_add_when_the_entry_has_no_separator) {
     type("no m");
 
-    EXPECT_EQ(items("szólist"), QStringList{QStringLiteral("no meaning")});
+    EXPECT_EQ(items("szólist"), QStringList{u"no meaning"_s});
     EXPECT_EQ(list("magyarlist")->count(), 0);
     EXPECT_FALSE(button("hozzáad")->isEnabled());
 }
@@ -76,9 +77,9 @@ TEST_F(MainWindowLookup, leaves_the_lists_empty_for_a_text_that_begins_with_to) 
 
 TEST_F(MainWindowLookup, finds_nothing_for_a_letter_that_no_dictionary_can_hold) {
     type("app");
-    text_box("angolszó")->setText(QStringLiteral("火"));
+    text_box("angolszó")->setText(u"火"_s);
 
-    EXPECT_EQ(hit_count(), QStringLiteral("0 találat"));
+    EXPECT_EQ(hit_count(), u"0 találat"_s);
     EXPECT_EQ(list("szólist")->count(), 0);
 }
 
@@ -101,7 +102,7 @@ TEST_F(MainWindowLookup, ok_searches_again) {
 
     EXPECT_EQ(list("szólist")->selected(), 1);
     EXPECT_EQ(items("szólist").size(), 2);
-    EXPECT_EQ(items("magyarlist"), QStringList({QStringLiteral("alma"), QStringLiteral("almafa")}));
+    EXPECT_EQ(items("magyarlist"), QStringList({u"alma"_s, u"almafa"_s}));
 }
 
 TEST_F(MainWindowLookup, direction_changes_captions_and_dictionary_and_clears_all) {
@@ -109,8 +110,8 @@ TEST_F(MainWindowLookup, direction_changes_captions_and_dictionary_and_clears_al
 
     look_up_from_hungarian();
 
-    EXPECT_EQ(control<QLabel>("Label1")->text(), QStringLiteral("&Magyarul:"));
-    EXPECT_EQ(control<QLabel>("Label2")->text(), QStringLiteral("Angolul:"));
+    EXPECT_EQ(control<QLabel>("Label1")->text(), u"&Magyarul:"_s);
+    EXPECT_EQ(control<QLabel>("Label2")->text(), u"Angolul:"_s);
     EXPECT_EQ(text_box("angolszó")->text(), QString());
     EXPECT_TRUE(text_box("angolszó")->hasFocus());
     EXPECT_EQ(list("szólist")->count(), 0);
@@ -118,11 +119,11 @@ TEST_F(MainWindowLookup, direction_changes_captions_and_dictionary_and_clears_al
     EXPECT_FALSE(button("hozzáad")->isEnabled());
 
     type("megy");
-    EXPECT_EQ(items("magyarlist"), QStringList({QStringLiteral("to go"), QStringLiteral("to walk")}));
+    EXPECT_EQ(items("magyarlist"), QStringList({u"to go"_s, u"to walk"_s}));
 
     QTest::mouseClick(control<QRadioButton>("nyelv(0)"), Qt::LeftButton);
-    EXPECT_EQ(control<QLabel>("Label1")->text(), QStringLiteral("&Angolul:"));
-    EXPECT_EQ(control<QLabel>("Label2")->text(), QStringLiteral("Magyarul:"));
+    EXPECT_EQ(control<QLabel>("Label1")->text(), u"&Angolul:"_s);
+    EXPECT_EQ(control<QLabel>("Label2")->text(), u"Magyarul:"_s);
 }
 
 TEST_F(MainWindowLookup, tells_a_missing_dictionary_once_for_each_direction) {
@@ -131,13 +132,13 @@ TEST_F(MainWindowLookup, tells_a_missing_dictionary_once_for_each_direction) {
 
     type("app");
     EXPECT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("am.txt")));
-    EXPECT_EQ(hit_count(), QStringLiteral("nincs szótárfájl"));
+    EXPECT_TRUE(boxes_.told[0].contains(u"am.txt"_s));
+    EXPECT_EQ(hit_count(), u"nincs szótárfájl"_s);
     look_up_from_hungarian();
     type("alm");
 
     EXPECT_EQ(boxes_.told.size(), 2);
-    EXPECT_TRUE(boxes_.told[1].contains(QStringLiteral("ma.txt")));
+    EXPECT_TRUE(boxes_.told[1].contains(u"ma.txt"_s));
 }
 
 /// A dictionary in which a search takes long enough for other events to come in between.
@@ -158,10 +159,10 @@ TEST_F(LongSearch, typing_quickly_leaves_only_the_lists_of_the_last_search) {
 
     type("g");
 
-    EXPECT_EQ(text_box("angolszó")->text(), QStringLiteral("goat"));
-    EXPECT_EQ(items("szólist"), QStringList{QStringLiteral("goat")});
-    EXPECT_EQ(hit_count(), QStringLiteral("1 találat"));
-    EXPECT_EQ(items("magyarlist"), QStringList{QStringLiteral("kecske")});
+    EXPECT_EQ(text_box("angolszó")->text(), u"goat"_s);
+    EXPECT_EQ(items("szólist"), QStringList{u"goat"_s});
+    EXPECT_EQ(hit_count(), u"1 találat"_s);
+    EXPECT_EQ(items("magyarlist"), QStringList{u"kecske"_s});
 }
 
 TEST_F(LongSearch, second_search_for_the_same_text_takes_the_first_over) {
@@ -171,7 +172,7 @@ TEST_F(LongSearch, second_search_for_the_same_text_takes_the_first_over) {
 
     EXPECT_EQ(list("szólist")->count(), 120001);
     EXPECT_EQ(list("megoldlist")->count(), 120001);
-    EXPECT_EQ(hit_count(), QStringLiteral("120001 találat"));
+    EXPECT_EQ(hit_count(), u"120001 találat"_s);
 }
 
 TEST_F(LongSearch, change_of_direction_and_the_same_letter_again_leave_only_the_other_dictionarys_hits) {
@@ -183,8 +184,8 @@ TEST_F(LongSearch, change_of_direction_and_the_same_letter_again_leave_only_the_
 
     type("g");
 
-    EXPECT_EQ(items("szólist"), QStringList{QStringLiteral("gép")});
-    EXPECT_EQ(hit_count(), QStringLiteral("1 találat"));
+    EXPECT_EQ(items("szólist"), QStringList{u"gép"_s});
+    EXPECT_EQ(hit_count(), u"1 találat"_s);
 }
 
 TEST_F(LongSearch, ends_at_once_when_the_program_ends) {
@@ -198,12 +199,12 @@ TEST_F(LongSearch, ends_at_once_when_the_program_ends) {
 
 TEST_F(MainWindowLookup, hidden_conversion_button_reports_in_the_hit_count) {
     EXPECT_FALSE(button("Command2")->isVisible());
-    EXPECT_EQ(button("Command2")->text(), QStringLiteral("Állományt átalakít (nem látható)"));
+    EXPECT_EQ(button("Command2")->text(), u"Állományt átalakít (nem látható)"_s);
     write_file(place("angol/magyar.skt"), "b\r\na\r\n");
 
     button("Command2")->click();
 
-    EXPECT_EQ(hit_count(), QStringLiteral("Művelet kész."));
+    EXPECT_EQ(hit_count(), u"Művelet kész."_s);
     EXPECT_EQ(read_file(place("angol/magyarvg.skt")), "A\r\nB\r\n");
 }
 
@@ -211,7 +212,7 @@ TEST_F(MainWindowLookup, conversion_tells_when_its_input_is_missing) {
     button("Command2")->click();
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("magyar.skt")));
+    EXPECT_TRUE(boxes_.told[0].contains(u"magyar.skt"_s));
 }
 
 }  // namespace

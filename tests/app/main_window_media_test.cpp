@@ -4,6 +4,8 @@
 #include "support/main_window_fixture.h"
 #include "support/timers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The main window over a program folder with two pieces of music on the playlist and one sound.
@@ -26,13 +28,12 @@ class MainWindowMedia : public MainWindowTest {
         multimedia_.take_sent();
         expire(reference_.Timer_zene());
         QStringList sent = multimedia_.take_sent();
-        sent.removeAll(QStringLiteral("Status midi mode|255"));
+        sent.removeAll(u"Status midi mode|255"_s);
         return sent;
     }
     [[nodiscard]] QStringList start_of(const char *piece) const {
-        return {QStringLiteral("open \"%1\" type sequencer alias midi|0")
-                    .arg(place("angol/zenemid/") + QString::fromUtf8(piece)),
-                QStringLiteral("play midi |0")};
+        return {u"open \"%1\" type sequencer alias midi|0"_s.arg(place("angol/zenemid/") + QString::fromUtf8(piece)),
+                u"play midi |0"_s};
     }
 
     /// The window of this name, if there is one.
@@ -66,7 +67,7 @@ class MainWindowMedia : public MainWindowTest {
         EXPECT_TRUE(opened) << item;
     }
 
-    const QStringList stop_{QStringLiteral("close midi|0")};
+    const QStringList stop_{u"close midi|0"_s};
 };
 
 TEST_F(MainWindowMedia, has_its_menu_of_settings_after_the_others) {
@@ -75,8 +76,8 @@ TEST_F(MainWindowMedia, has_its_menu_of_settings_after_the_others) {
     QStringList captions;
     for (const QAction *item : control<QMenu>("mnubeállítás")->actions())
         captions.append(item->text());
-    EXPECT_EQ(control<QMenu>("mnubeállítás")->title(), QStringLiteral("&Beállítások"));
-    EXPECT_EQ(captions, QStringList({QStringLiteral("&Hangok..."), QStringLiteral("&Zene...")}));
+    EXPECT_EQ(control<QMenu>("mnubeállítás")->title(), u"&Beállítások"_s);
+    EXPECT_EQ(captions, QStringList({u"&Hangok..."_s, u"&Zene..."_s}));
     EXPECT_EQ(window_->menüsor()->actions().last(), control<QMenu>("mnubeállítás")->menuAction());
     EXPECT_TRUE(control<QMenu>("mnubeállítás")->isEnabled());
 }
@@ -85,9 +86,9 @@ TEST_F(MainWindowMedia, opens_the_settings_of_the_sounds_over_the_other_windows)
     start();
 
     open("mnubeállításhang", u"frm_hangbeáll", [](QWidget *window) {
-        EXPECT_EQ(window->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Kavaro Hangbeállítások"));
+        EXPECT_EQ(window->windowTitle(), u"Zimbora Angol-Magyar Szótár - Kavaro Hangbeállítások"_s);
         EXPECT_EQ(window->windowModality(), Qt::ApplicationModal);
-        EXPECT_EQ(in<ListBox>(window, u"Filelist")->items(), QStringList(QStringLiteral("bell.wav")));
+        EXPECT_EQ(in<ListBox>(window, u"Filelist")->items(), QStringList(u"bell.wav"_s));
     });
 
     EXPECT_TRUE(window_->isVisible());
@@ -97,10 +98,9 @@ TEST_F(MainWindowMedia, opens_the_settings_of_the_music_over_the_other_windows) 
     start();
 
     open("mnubeállítászene", u"frm_zenebeáll", [](QWidget *window) {
-        EXPECT_EQ(window->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Zenei beállítások"));
+        EXPECT_EQ(window->windowTitle(), u"Zimbora Angol-Magyar Szótár - Zenei beállítások"_s);
         EXPECT_EQ(window->windowModality(), Qt::ApplicationModal);
-        EXPECT_EQ(in<ListBox>(window, u"list_playlist")->items(),
-                  QStringList({QStringLiteral("polka.mid"), QStringLiteral("dal.mid")}));
+        EXPECT_EQ(in<ListBox>(window, u"list_playlist")->items(), QStringList({u"polka.mid"_s, u"dal.mid"_s}));
     });
 
     EXPECT_TRUE(window_->isVisible());
@@ -120,10 +120,9 @@ TEST_F(MainWindowMedia, plays_a_sound_of_the_program_folder) {
     open("mnubeállításhang", u"frm_hangbeáll",
          [](QWidget *window) { QTest::keyClick(in<ListBox>(window, u"Filelist"), Qt::Key_Down); });
 
-    EXPECT_EQ(
-        multimedia_.sent,
-        QStringList({QStringLiteral("open \"%1\" type waveaudio alias hang|0").arg(place("angol/hangok/bell.wav")),
-                     QStringLiteral("play hang |0")}));
+    EXPECT_EQ(multimedia_.sent,
+              QStringList({u"open \"%1\" type waveaudio alias hang|0"_s.arg(place("angol/hangok/bell.wav")),
+                           u"play hang |0"_s}));
 }
 
 TEST_F(MainWindowMedia, makes_the_hidden_window_of_the_music_at_the_first_tick) {
@@ -157,10 +156,10 @@ TEST_F(MainWindowMedia, plays_the_playlist_tick_by_tick_and_begins_again) {
 TEST_F(MainWindowMedia, waits_while_a_piece_plays) {
     start();
     tick();
-    multimedia_.mode = QStringLiteral("playing");
+    multimedia_.mode = u"playing"_s;
 
     EXPECT_EQ(tick(), QStringList());
-    EXPECT_EQ(reference_.felirat(), QStringLiteral("polka.mid"));
+    EXPECT_EQ(reference_.felirat(), u"polka.mid"_s);
 }
 
 TEST_F(MainWindowMedia, asks_nothing_and_plays_nothing_while_no_music_is_allowed) {
@@ -171,7 +170,7 @@ TEST_F(MainWindowMedia, asks_nothing_and_plays_nothing_while_no_music_is_allowed
     expire(reference_.Timer_zene());
 
     EXPECT_EQ(multimedia_.sent, QStringList());
-    EXPECT_EQ(reference_.felirat(), QStringLiteral("Zimbora Angol-Magyar Szótár"));
+    EXPECT_EQ(reference_.felirat(), u"Zimbora Angol-Magyar Szótár"_s);
 }
 
 TEST_F(MainWindowMedia, leaves_the_caption_alone_while_there_is_nothing_to_play) {
@@ -179,7 +178,7 @@ TEST_F(MainWindowMedia, leaves_the_caption_alone_while_there_is_nothing_to_play)
     start();
 
     EXPECT_EQ(tick(), QStringList());
-    EXPECT_EQ(reference_.felirat(), QStringLiteral("Zimbora Angol-Magyar Szótár"));
+    EXPECT_EQ(reference_.felirat(), u"Zimbora Angol-Magyar Szótár"_s);
 }
 
 TEST_F(MainWindowMedia, gives_windows_made_from_then_on_the_name_of_the_piece_in_their_titles) {
@@ -188,11 +187,10 @@ TEST_F(MainWindowMedia, gives_windows_made_from_then_on_the_name_of_the_piece_in
 
     tick();
 
-    EXPECT_EQ(reference_.felirat(), QStringLiteral("polka.mid"));
+    EXPECT_EQ(reference_.felirat(), u"polka.mid"_s);
     EXPECT_EQ(window_->windowTitle(), title);
-    open("mnubeállításhang", u"frm_hangbeáll", [](QWidget *window) {
-        EXPECT_EQ(window->windowTitle(), QStringLiteral("polka.mid - Kavaro Hangbeállítások"));
-    });
+    open("mnubeállításhang", u"frm_hangbeáll",
+         [](QWidget *window) { EXPECT_EQ(window->windowTitle(), u"polka.mid - Kavaro Hangbeállítások"_s); });
 }
 
 TEST_F(MainWindowMedia, plays_what_the_window_of_the_music_shows_before_it_is_saved) {
@@ -203,7 +201,7 @@ TEST_F(MainWindowMedia, plays_what_the_window_of_the_music_shows_before_it_is_sa
         // Takes the piece that is heard off the list, which starts the other one.
         QTest::mouseClick(in<QPushButton>(window, u"cmd_törl"), Qt::LeftButton);
         EXPECT_EQ(tick(), QStringList());
-        EXPECT_EQ(reference_.felirat(), QStringLiteral("dal.mid"));
+        EXPECT_EQ(reference_.felirat(), u"dal.mid"_s);
         QTest::mouseClick(in<QCheckBox>(window, u"chk_zene_enged"), Qt::LeftButton, {}, QPoint(8, 8));
         EXPECT_FALSE(in<QCheckBox>(window, u"chk_zene_enged")->isChecked());
         expire(reference_.Timer_zene());

@@ -3,6 +3,8 @@
 #include "support/main_window_fixture.h"
 #include "support/timers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The main window and the mini window, which take turns. The main window stands in the middle of the screen.
@@ -43,7 +45,7 @@ class MainWindowMini : public MainWindowTest {
     }
 
     void keep_in_file(const QByteArray &values) {
-        QDir(root_.path()).mkpath(QStringLiteral("c/zbrmk/angol"));
+        QDir(root_.path()).mkpath(u"c/zbrmk/angol"_s);
         write_file(place("c/zbrmk/angol/kisablak.ini"), values);
     }
     [[nodiscard]] QByteArray file() const { return read_file(place("c/zbrmk/angol/kisablak.ini")); }
@@ -144,7 +146,7 @@ TEST_F(MainWindowMini, opens_the_list_of_the_command_line_behind_the_mini_window
     load(word_list("gyumi.szs", "apple:alma\r\n"));
 
     EXPECT_TRUE(mini()->isVisible());
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
 }
 
 TEST_F(MainWindowMini, comes_back_centred_on_the_mini_window) {
@@ -186,7 +188,7 @@ TEST_F(MainWindowMini, unloads_the_mini_window_that_it_comes_back_for) {
     mini_click("cmd_kilép");
 
     EXPECT_TRUE(mini_window_goes());
-    EXPECT_EQ(boxes_.told, QStringList{QStringLiteral("Elveszett")});
+    EXPECT_EQ(boxes_.told, QStringList{u"Elveszett"_s});
     EXPECT_EQ(clipboard_.watches, 0);
     EXPECT_EQ(state_.kisablakbal, 7680);
     EXPECT_EQ(state_.kisablakfent, 5760);
@@ -213,10 +215,10 @@ TEST_F(MainWindowMini, looks_words_up_for_the_mini_window) {
 
     mini_type("apple");
 
-    EXPECT_EQ(text_box("angolszó")->text(), QStringLiteral("apple"));
-    EXPECT_EQ(mini_items("lst_találatlista"), QStringList({QStringLiteral("apple pie"), QStringLiteral("apple")}));
+    EXPECT_EQ(text_box("angolszó")->text(), u"apple"_s);
+    EXPECT_EQ(mini_items("lst_találatlista"), QStringList({u"apple pie"_s, u"apple"_s}));
     EXPECT_EQ(mini_control<ListBox>("lst_találatlista")->selected(), 1);
-    EXPECT_EQ(mini_items("lst_translate"), QStringList({QStringLiteral("alma"), QStringLiteral("almafa")}));
+    EXPECT_EQ(mini_items("lst_translate"), QStringList({u"alma"_s, u"almafa"_s}));
 }
 
 TEST_F(MainWindowMini, looks_up_in_the_direction_that_is_chosen) {
@@ -226,8 +228,8 @@ TEST_F(MainWindowMini, looks_up_in_the_direction_that_is_chosen) {
 
     mini_type("megy");
 
-    EXPECT_EQ(mini_control<QLabel>("label_fejléc")->text(), QStringLiteral("Zimbora Magyar-angol szótár"));
-    EXPECT_EQ(mini_items("lst_translate"), QStringList({QStringLiteral("to go"), QStringLiteral("to walk")}));
+    EXPECT_EQ(mini_control<QLabel>("label_fejléc")->text(), u"Zimbora Magyar-angol szótár"_s);
+    EXPECT_EQ(mini_items("lst_translate"), QStringList({u"to go"_s, u"to walk"_s}));
 }
 
 TEST_F(MainWindowMini, looks_up_what_another_program_copies_shortened_to_what_is_found) {
@@ -236,8 +238,8 @@ TEST_F(MainWindowMini, looks_up_what_another_program_copies_shortened_to_what_is
 
     copy(" Applesauce ");
 
-    EXPECT_EQ(mini_control<QLineEdit>("txt_keres")->text(), QStringLiteral("apple"));
-    EXPECT_EQ(mini_items("lst_találatlista"), QStringList({QStringLiteral("apple pie"), QStringLiteral("apple")}));
+    EXPECT_EQ(mini_control<QLineEdit>("txt_keres")->text(), u"apple"_s);
+    EXPECT_EQ(mini_items("lst_találatlista"), QStringList({u"apple pie"_s, u"apple"_s}));
 }
 
 TEST_F(MainWindowMini, ends_the_shortening_of_a_word_that_nothing_begins_like) {
@@ -260,7 +262,7 @@ TEST_F(MainWindowMini, adds_the_chosen_pair_for_the_mini_window) {
 
     mini_click("cmd_szószedethez_ad");
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:almafa"));
+    EXPECT_EQ(pairs(), u"apple:almafa"_s);
     EXPECT_EQ(boxes_.beeps, 1);
     EXPECT_FALSE(window_->isVisible());
 }
@@ -275,7 +277,7 @@ TEST_F(MainWindowMini, adds_the_meaning_that_is_double_clicked_in_the_mini_windo
     QTest::mouseClick(meanings->viewport(), Qt::LeftButton, {}, second);
     QTest::mouseDClick(meanings->viewport(), Qt::LeftButton, {}, second);
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:almafa"));
+    EXPECT_EQ(pairs(), u"apple:almafa"_s);
 }
 
 TEST_F(MainWindowMini, asks_about_unsaved_changes_when_the_program_is_left_from_the_mini_window) {
@@ -286,7 +288,7 @@ TEST_F(MainWindowMini, asks_about_unsaved_changes_when_the_program_is_left_from_
     boxes_.answers = {Answer::cancel, Answer::no};
 
     mini_click("cmd_x");
-    EXPECT_EQ(boxes_.asked, QStringList{QStringLiteral("Kilépés|Akarja menteni a változtatásokat?|yes no cancel")});
+    EXPECT_EQ(boxes_.asked, QStringList{u"Kilépés|Akarja menteni a változtatásokat?|yes no cancel"_s});
     EXPECT_FALSE(ended_);
     EXPECT_TRUE(mini()->isVisible());
     EXPECT_FALSE(window_->isVisible());
@@ -311,13 +313,13 @@ TEST_F(MainWindowMini, says_where_the_file_of_the_mini_window_cannot_be_written_
     start();
     click("cmd_kisablak");
     QFile::remove(place("c/zbrmk/angol/kisablak.ini"));
-    QDir(root_.path()).mkpath(QStringLiteral("c/zbrmk/angol/kisablak.ini"));
+    QDir(root_.path()).mkpath(u"c/zbrmk/angol/kisablak.ini"_s);
     write_file(place("c/zbrmk/angol/other"), "x");
 
     mini_click("cmd_x");
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("kisablak.ini"))) << boxes_.told[0].toStdString();
+    EXPECT_TRUE(boxes_.told[0].contains(u"kisablak.ini"_s)) << boxes_.told[0].toStdString();
     EXPECT_TRUE(ended_);
 }
 
@@ -352,7 +354,7 @@ TEST_F(MainWindowMiniLongSearch, comes_back_in_the_midst_of_a_search_of_the_mini
     EXPECT_TRUE(interrupted_);
     EXPECT_TRUE(window_->isVisible());
     EXPECT_TRUE(mini_window_goes());
-    EXPECT_EQ(boxes_.told, QStringList{QStringLiteral("Elveszett")});
+    EXPECT_EQ(boxes_.told, QStringList{u"Elveszett"_s});
     EXPECT_EQ(list("szólist")->count(), 120000);
 }
 
@@ -364,7 +366,7 @@ TEST_F(MainWindowMiniLongSearch, comes_back_in_the_midst_of_the_search_for_a_cop
     EXPECT_TRUE(interrupted_);
     EXPECT_TRUE(window_->isVisible());
     EXPECT_TRUE(mini_window_goes());
-    EXPECT_EQ(boxes_.told, QStringList{QStringLiteral("Elveszett")});
+    EXPECT_EQ(boxes_.told, QStringList{u"Elveszett"_s});
 }
 
 TEST_F(MainWindowMiniLongSearch, ends_the_program_in_the_midst_of_a_search_of_the_mini_window) {

@@ -5,6 +5,8 @@
 
 #include "support/main_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 
 namespace {
@@ -12,7 +14,7 @@ namespace {
 /// Printing, from the menu of the main window.
 class MainWindowPrinting : public MainWindowTest {
   protected:
-    MainWindowPrinting() { printers_.installed = {QStringLiteral("Printer")}; }
+    MainWindowPrinting() { printers_.installed = {u"Printer"_s}; }
 
     /// Opens the print settings; `act` is called with them. They are closed then.
     void in_print_settings(const std::function<void(frm_nyomtatás &)> &act) {
@@ -43,9 +45,8 @@ TEST_F(MainWindowPrinting, stands_in_the_menu_between_saving_and_the_recent_file
     QStringList items;
     for (const QAction *one : control<QMenu>("mnufájl")->actions())
         items.append(one->objectName());
-    EXPECT_EQ(items.mid(3, 6).join(u' '),
-              QStringLiteral("elv1 mnufájlment mnufájlmentmásként elv2 mnufájlnyomtatás elv3"));
-    EXPECT_EQ(action("mnufájlnyomtatás")->text(), QStringLiteral("Nyomtatás..."));
+    EXPECT_EQ(items.mid(3, 6).join(u' '), u"elv1 mnufájlment mnufájlmentmásként elv2 mnufájlnyomtatás elv3"_s);
+    EXPECT_EQ(action("mnufájlnyomtatás")->text(), u"Nyomtatás..."_s);
     EXPECT_TRUE(action("elv2")->isSeparator());
     EXPECT_EQ(action("mnufájlnyomtatás")->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_P));
 }
@@ -81,24 +82,23 @@ TEST_F(MainWindowPrinting, prints_the_word_list_under_the_path_of_its_file) {
 
     in_print_settings([](const frm_nyomtatás &settings) { press(settings, "cmd_nyomtat"); });
 
-    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(QStringLiteral("Printer animals")));
+    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(u"Printer animals"_s));
     ASSERT_EQ(printers_.jobs.texts.size(), 3);
-    EXPECT_EQ(printers_.jobs.texts[0].text,
-              QDir::toNativeSeparators(place("animals.szs")) + QStringLiteral(" szószedet"));
-    EXPECT_EQ(printers_.jobs.texts[1].text, QStringLiteral("dog  -  kutya"));
-    EXPECT_EQ(printers_.jobs.texts[2].text, QStringLiteral("deer  -  őz"));
+    EXPECT_EQ(printers_.jobs.texts[0].text, QDir::toNativeSeparators(place("animals.szs")) + u" szószedet"_s);
+    EXPECT_EQ(printers_.jobs.texts[1].text, u"dog  -  kutya"_s);
+    EXPECT_EQ(printers_.jobs.texts[2].text, u"deer  -  őz"_s);
 }
 
 TEST_F(MainWindowPrinting, makes_the_print_settings_anew_each_time) {
     start(list_file());
     in_print_settings([](const frm_nyomtatás &settings) {
-        EXPECT_EQ(settings.findChild<QComboBox *>(QStringLiteral("list_nyomtatók"))->count(), 2);
+        EXPECT_EQ(settings.findChild<QComboBox *>(u"list_nyomtatók"_s)->count(), 2);
         press(settings, "cmd_mégsem");
     });
-    printers_.installed.append(QStringLiteral("Another"));
+    printers_.installed.append(u"Another"_s);
 
     in_print_settings([](const frm_nyomtatás &settings) {
-        EXPECT_EQ(settings.findChild<QComboBox *>(QStringLiteral("list_nyomtatók"))->count(), 3);
+        EXPECT_EQ(settings.findChild<QComboBox *>(u"list_nyomtatók"_s)->count(), 3);
     });
 }
 

@@ -2,6 +2,8 @@
 
 #include "support/main_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MainWindow : public MainWindowTest {
@@ -30,38 +32,38 @@ class MainWindow : public MainWindowTest {
 TEST_F(MainWindow, has_every_control_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("szótár"));
+    EXPECT_EQ(window_->objectName(), u"szótár"_s);
     for (const char *name : {"szólist", "megoldlist", "magyarlist", "szószedet", "szómagylist"})
         EXPECT_EQ(list(name)->count(), 0);
     for (const char *name : {"angolszó", "szóangtext", "szómagytext"})
         EXPECT_EQ(text_box(name)->text(), QString());
     const std::pair<const char *, QString> buttons[] = {
-        {"Ok", QStringLiteral("Ok")},           {"hozzáad", QStringLiteral("Szószedethez ad")},
-        {"módosít", QStringLiteral("Módosít")}, {"sztöröl", QStringLiteral("Szószedetből töröl")},
-        {"kilép", QStringLiteral("Kilép")},     {"Command2", QStringLiteral("Állományt átalakít (nem látható)")}};
+        {"Ok", u"Ok"_s},           {"hozzáad", u"Szószedethez ad"_s},
+        {"módosít", u"Módosít"_s}, {"sztöröl", u"Szószedetből töröl"_s},
+        {"kilép", u"Kilép"_s},     {"Command2", u"Állományt átalakít (nem látható)"_s}};
     for (const auto &[name, caption] : buttons)
         EXPECT_EQ(button(name)->text(), caption);
-    EXPECT_EQ(control<QLabel>("Label1")->text(), QStringLiteral("&Angolul:"));
-    EXPECT_EQ(control<QLabel>("Label2")->text(), QStringLiteral("Magyarul:"));
-    EXPECT_EQ(control<QRadioButton>("nyelv(0)")->text(), QStringLiteral("Angolról magyarra"));
-    EXPECT_EQ(control<QRadioButton>("nyelv(1)")->text(), QStringLiteral("Magyarról angolra"));
+    EXPECT_EQ(control<QLabel>("Label1")->text(), u"&Angolul:"_s);
+    EXPECT_EQ(control<QLabel>("Label2")->text(), u"Magyarul:"_s);
+    EXPECT_EQ(control<QRadioButton>("nyelv(0)")->text(), u"Angolról magyarra"_s);
+    EXPECT_EQ(control<QRadioButton>("nyelv(1)")->text(), u"Magyarról angolra"_s);
     EXPECT_TRUE(control<QRadioButton>("nyelv(0)")->isChecked());
     EXPECT_FALSE(list("megoldlist")->isVisible());
 }
 
 TEST_F(MainWindow, has_every_menu_item_under_its_name_with_its_caption) {
     start();
-    const std::pair<const char *, QString> items[] = {{"mnufájlúj", QStringLiteral("&Új")},
-                                                      {"mnufájlmegnyit", QStringLiteral("Meg&nyit...")},
-                                                      {"mnufájlhozzáfűz", QStringLiteral("Szószedetet &hozzáfűz")},
-                                                      {"mnufájlment", QStringLiteral("&Ment")},
-                                                      {"mnufájlmentmásként", QStringLiteral("Ment másként...")},
-                                                      {"mnufeladatválaszt", QStringLiteral("&Választás")}};
+    const std::pair<const char *, QString> items[] = {{"mnufájlúj", u"&Új"_s},
+                                                      {"mnufájlmegnyit", u"Meg&nyit..."_s},
+                                                      {"mnufájlhozzáfűz", u"Szószedetet &hozzáfűz"_s},
+                                                      {"mnufájlment", u"&Ment"_s},
+                                                      {"mnufájlmentmásként", u"Ment másként..."_s},
+                                                      {"mnufeladatválaszt", u"&Választás"_s}};
 
     for (const auto &[name, caption] : items)
         EXPECT_EQ(action(name)->text(), caption);
-    EXPECT_EQ(control<QMenu>("mnufájl")->title(), QStringLiteral("&Fájl"));
-    EXPECT_EQ(control<QMenu>("mnufeladat")->title(), QStringLiteral("Fel&adatok"));
+    EXPECT_EQ(control<QMenu>("mnufájl")->title(), u"&Fájl"_s);
+    EXPECT_EQ(control<QMenu>("mnufeladat")->title(), u"Fel&adatok"_s);
     EXPECT_TRUE(action("elv1")->isSeparator());
 }
 
@@ -74,7 +76,7 @@ TEST_F(MainWindow, gives_every_control_an_accessible_name_and_a_tab_place) {
         EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << control->objectName().toStdString();
     }
     EXPECT_EQ(QAccessible::queryAccessibleInterface(control<QLabel>("Label3"))->text(QAccessible::Name),
-              QStringLiteral("2 találat"));
+              u"2 találat"_s);
     QStringList order;
     const QWidget *next = text_box("angolszó");
     do {
@@ -84,9 +86,9 @@ TEST_F(MainWindow, gives_every_control_an_accessible_name_and_a_tab_place) {
         next = next->nextInFocusChain();
     } while (next != text_box("angolszó"));
     EXPECT_EQ(order.join(u' '),
-              QStringLiteral("angolszó szólist Ok magyarlist hozzáad nyelv(0) nyelv(1) cmd_kisablak Label4 "
-                             "kilép szószedet sztöröl "
-                             "szóangtext szómagytext módosít"));
+              u"angolszó szólist Ok magyarlist hozzáad nyelv(0) nyelv(1) cmd_kisablak Label4 "
+              "kilép szószedet sztöröl "
+              "szóangtext szómagytext módosít"_s);
 }
 
 TEST_F(MainWindow, mnemonic_of_the_caption_leads_to_the_search_box) {
@@ -102,7 +104,7 @@ TEST_F(MainWindow, starts_with_the_focus_on_the_search_box_and_nothing_to_save) 
     start();
 
     EXPECT_TRUE(text_box("angolszó")->hasFocus());
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - névtelen szószedet"));
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - névtelen szószedet"_s);
     EXPECT_FALSE(action("mnufájlment")->isEnabled());
     EXPECT_FALSE(action("mnufájlmentmásként")->isEnabled());
     EXPECT_FALSE(control<QMenu>("mnufeladat")->isEnabled());
@@ -180,7 +182,7 @@ TEST_F(MainWindow, shows_every_caption_whole) {
             EXPECT_LE(button(name)->sizeHint().width(), button(name)->width()) << name;
         for (const char *name : {"nyelv(0)", "nyelv(1)"})
             EXPECT_LE(control<QRadioButton>(name)->sizeHint().width(), control<QRadioButton>(name)->width()) << name;
-        EXPECT_LE(QFontMetrics(control<QLabel>("Label3")->font()).horizontalAdvance(QStringLiteral("139935 találat")),
+        EXPECT_LE(QFontMetrics(control<QLabel>("Label3")->font()).horizontalAdvance(u"139935 találat"_s),
                   control<QLabel>("Label3")->width());
     }
 }
@@ -230,18 +232,17 @@ TEST_F(MainWindow, warns_with_four_lines_when_there_are_too_few_pairs_for_the_ch
     int interval = 0;
     QTimer::singleShot(0, window_.get(), [&] {
         QWidget *message = QApplication::activeModalWidget();
-        ASSERT_EQ(message->objectName(), QStringLiteral("üzenet"));
+        ASSERT_EQ(message->objectName(), u"üzenet"_s);
         for (int i = 0; i < 4; ++i)
-            lines.append(
-                message->findChild<QWidget *>(QStringLiteral("Pic_szöveg(%1)").arg(i))->property("tag").toString());
-        interval = message->findChild<QTimer *>(QStringLiteral("Timer1"))->interval();
+            lines.append(message->findChild<QWidget *>(u"Pic_szöveg(%1)"_s.arg(i))->property("tag").toString());
+        interval = message->findChild<QTimer *>(u"Timer1"_s)->interval();
         message->close();
     });
 
     action("mnufeladatválaszt")->trigger();
 
-    EXPECT_EQ(lines, QStringList({QStringLiteral("Ehhez a játékhoz "), QStringLiteral("legalább két szót"),
-                                  QStringLiteral("kell felvenni"), QStringLiteral("a szószedetbe!")}));
+    EXPECT_EQ(lines,
+              QStringList({u"Ehhez a játékhoz "_s, u"legalább két szót"_s, u"kell felvenni"_s, u"a szószedetbe!"_s}));
     EXPECT_EQ(interval, 3000);
 }
 

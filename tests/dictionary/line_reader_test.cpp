@@ -9,6 +9,8 @@
 #include "support/memory_source.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArrayList all_lines(LineReader &lines) {
@@ -91,8 +93,8 @@ TEST(LineReader, reads_little_more_than_the_lines_it_gives) {
 
 TEST(LineReader, reads_a_file_where_it_lies) {
     const QTemporaryDir folder;
-    write_file(folder.filePath(QStringLiteral("am.txt")), "one\r\ntwo\r\n");
-    FileSource source(folder.filePath(QStringLiteral("am.txt")));
+    write_file(folder.filePath(u"am.txt"_s), "one\r\ntwo\r\n");
+    FileSource source(folder.filePath(u"am.txt"_s));
     LineReader lines(source);
 
     EXPECT_TRUE(source.is_open());
@@ -103,7 +105,7 @@ TEST(LineReader, reads_a_file_where_it_lies) {
 TEST(LineReader, cannot_open_a_missing_file_or_a_folder) {
     const QTemporaryDir folder;
 
-    EXPECT_FALSE(FileSource(folder.filePath(QStringLiteral("nincs"))).is_open());
+    EXPECT_FALSE(FileSource(folder.filePath(u"nincs"_s)).is_open());
     EXPECT_FALSE(FileSource(folder.path()).is_open());
 }
 

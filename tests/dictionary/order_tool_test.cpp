@@ -7,12 +7,14 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class OrderTool : public testing::Test {
   protected:
     std::optional<Failure> run(const QByteArray &input) {
-        write_file(folder_.filePath(QStringLiteral("magyar.skt")), input);
+        write_file(folder_.filePath(u"magyar.skt"_s), input);
         return run();
     }
 
@@ -22,7 +24,7 @@ class OrderTool : public testing::Test {
             .átalakít();
     }
 
-    [[nodiscard]] QByteArray output() const { return read_file(folder_.filePath(QStringLiteral("magyarvg.skt"))); }
+    [[nodiscard]] QByteArray output() const { return read_file(folder_.filePath(u"magyarvg.skt"_s)); }
 
     QTemporaryDir folder_;
     QStringList shown_;
@@ -33,8 +35,7 @@ TEST_F(OrderTool, makes_no_output_of_a_file_in_order) {
     EXPECT_FALSE(run("ALMA\r\nbarack\r\nZEBRA\r\n"));
 
     EXPECT_EQ(output(), "(no such file)");
-    EXPECT_EQ(shown_,
-              QStringList({QStringLiteral("Folyamatban..."), QStringLiteral("0,3"), QStringLiteral("Művelet kész.")}));
+    EXPECT_EQ(shown_, QStringList({u"Folyamatban..."_s, u"0,3"_s, u"Művelet kész."_s}));
 }
 
 TEST_F(OrderTool, writes_the_lines_upper_cased_and_sorted) {
@@ -46,9 +47,7 @@ TEST_F(OrderTool, writes_the_lines_upper_cased_and_sorted) {
 TEST_F(OrderTool, counts_the_lines_that_sort_before_their_predecessor) {
     EXPECT_FALSE(run("c\r\nb\r\na\r\nd\r\n"));
 
-    EXPECT_EQ(shown_, QStringList({QStringLiteral("Folyamatban..."), QStringLiteral("2,4"), QStringLiteral("1"),
-                                   QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"),
-                                   QStringLiteral("Művelet kész.")}));
+    EXPECT_EQ(shown_, QStringList({u"Folyamatban..."_s, u"2,4"_s, u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"Művelet kész."_s}));
 }
 
 TEST_F(OrderTool, compares_bytes_so_that_accented_letters_come_last) {
@@ -66,13 +65,13 @@ TEST_F(OrderTool, keeps_repeated_and_empty_lines) {
 TEST_F(OrderTool, sees_order_after_upper_casing_only) {
     EXPECT_FALSE(run("alma\r\nBARACK\r\n"));
 
-    EXPECT_EQ(shown_[1], QStringLiteral("0,2"));
+    EXPECT_EQ(shown_[1], u"0,2"_s);
 }
 
 TEST_F(OrderTool, takes_an_empty_file_for_one_in_order) {
     EXPECT_FALSE(run(""));
 
-    EXPECT_EQ(shown_[1], QStringLiteral("0,0"));
+    EXPECT_EQ(shown_[1], u"0,0"_s);
     EXPECT_EQ(output(), "(no such file)");
 }
 
@@ -80,7 +79,7 @@ TEST_F(OrderTool, tells_when_its_input_is_missing) {
     const auto failure = run();
 
     ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->sentence.contains(QStringLiteral("magyar.skt")));
+    EXPECT_TRUE(failure->sentence.contains(u"magyar.skt"_s));
 }
 
 TEST_F(OrderTool, writes_nothing_when_it_is_stopped) {
@@ -89,7 +88,7 @@ TEST_F(OrderTool, writes_nothing_when_it_is_stopped) {
     EXPECT_FALSE(run("b\r\na\r\n"));
 
     EXPECT_EQ(output(), "(no such file)");
-    EXPECT_NE(shown_.back(), QStringLiteral("Művelet kész."));
+    EXPECT_NE(shown_.back(), u"Művelet kész."_s);
 }
 
 }  // namespace

@@ -10,6 +10,8 @@
 #include <csignal>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void say(const char *what) {
@@ -34,7 +36,7 @@ class Offer final : public QMimeData {
 
   protected:
     QVariant retrieveData(const QString &type, QMetaType preferred) const override {
-        if (told_ && type.startsWith(QStringLiteral("text/plain")))
+        if (told_ && type.startsWith(u"text/plain"_s))
             say("asked for the text");
         return QMimeData::retrieveData(type, preferred);
     }
@@ -48,7 +50,7 @@ class Offer final : public QMimeData {
 int main(int argc, char *argv[]) {
     const QGuiApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments().mid(1);
-    const bool hangs = arguments.removeAll(QStringLiteral("--hang")) > 0;
+    const bool hangs = arguments.removeAll(u"--hang"_s) > 0;
     QGuiApplication::clipboard()->setMimeData(new Offer(arguments.value(0), arguments.value(1)));
     say("copied");
     if (hangs)

@@ -12,6 +12,8 @@
 #include "dictionary/dictionary_search.h"
 #include "freedict/dictionary_text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void demand(bool condition) {
@@ -68,7 +70,7 @@ void check(const freedict::Package &package, const QByteArray &text) {
 }
 
 void import(QByteArrayView index, QByteArrayView data) {
-    const freedict::PackageResult result = freedict::parse_package(index, data, QStringLiteral("fuzz"));
+    const freedict::PackageResult result = freedict::parse_package(index, data, u"fuzz"_s);
     const auto *package = std::get_if<freedict::Package>(&result);
     if (package == nullptr)
         return;

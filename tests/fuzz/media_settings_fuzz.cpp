@@ -11,6 +11,8 @@
 #include "media/music_settings.h"
 #include "media/sound_settings.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void demand(bool condition) {
@@ -27,18 +29,17 @@ void write(const QString &path, QByteArrayView bytes) {
 class Places {
   public:
     Places() {
-        for (const QString &folder :
-             {QStringLiteral("program/hangok"), QStringLiteral("program/kavaro"), QStringLiteral("c/zbrmk/kavaro")})
+        for (const QString &folder : {u"program/hangok"_s, u"program/kavaro"_s, u"c/zbrmk/kavaro"_s})
             demand(QDir(root_.path()).mkpath(folder));
-        for (const QString &sound : {QStringLiteral("a.wav"), QStringLiteral("b c.wav"), QStringLiteral("őű.wav")})
-            write(program() + QStringLiteral("/hangok/") + sound, {});
+        for (const QString &sound : {u"a.wav"_s, u"b c.wav"_s, u"őű.wav"_s})
+            write(program() + u"/hangok/"_s + sound, {});
     }
 
-    [[nodiscard]] QString program() const { return root_.filePath(QStringLiteral("program")); }
-    [[nodiscard]] QString drive() const { return root_.filePath(QStringLiteral("c")); }
+    [[nodiscard]] QString program() const { return root_.filePath(u"program"_s); }
+    [[nodiscard]] QString drive() const { return root_.filePath(u"c"_s); }
 
   private:
-    QTemporaryDir root_{QStringLiteral("/dev/shm/media_settings_fuzz-XXXXXX")};
+    QTemporaryDir root_{u"/dev/shm/media_settings_fuzz-XXXXXX"_s};
 };
 
 void check_names(const névlista &list) {
@@ -47,9 +48,8 @@ void check_names(const névlista &list) {
 }
 
 void check_sounds(const Places &places, QByteArrayView bytes) {
-    for (const QString &name :
-         {QStringLiteral("grathang.ini"), QStringLiteral("helyeshang.ini"), QStringLiteral("hibahang.ini")})
-        write(places.program() + QStringLiteral("/kavaro/") + name, bytes);
+    for (const QString &name : {u"grathang.ini"_s, u"helyeshang.ini"_s, u"hibahang.ini"_s})
+        write(places.program() + u"/kavaro/"_s + name, bytes);
     hangbeállítások first(places.program());
     static_cast<void>(first.betölt());
     demand(!first.ment());
@@ -63,7 +63,7 @@ void check_sounds(const Places &places, QByteArrayView bytes) {
 }
 
 void check_music(const Places &places, QByteArrayView bytes) {
-    write(places.drive() + QStringLiteral("/zbrmk/kavaro/zenebeáll.ini"), bytes);
+    write(places.drive() + u"/zbrmk/kavaro/zenebeáll.ini"_s, bytes);
     zenebeállítások first(DriveC(places.drive()), places.program());
     static_cast<void>(first.betölt());
     demand(!first.ment());

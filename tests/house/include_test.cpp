@@ -7,23 +7,23 @@
 #include <QSet>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString source_folder = QStringLiteral(ZIMBORA_SOURCE_DIR);
+const QString source_folder = u"" ZIMBORA_SOURCE_DIR ""_s;
 
 /// The floor on which a source stands, read off its path: 0 the ground, 1 decisions without a widget, 2 ui/, 3 windows,
 /// 4 the roof. Nothing for a folder that is in none of the floors.
 std::optional<int> floor_of(const QString &file) {
-    static const QMap<QString, int> floors{{QStringLiteral("platform"), 0},  {QStringLiteral("state"), 0},
-                                           {QStringLiteral("wordlist"), 1},  {QStringLiteral("dictionary"), 1},
-                                           {QStringLiteral("exercises"), 1}, {QStringLiteral("lookup"), 1},
-                                           {QStringLiteral("media"), 1},     {QStringLiteral("print"), 1},
-                                           {QStringLiteral("ui"), 2},        {QStringLiteral("app"), 4}};
+    static const QMap<QString, int> floors{
+        {u"platform"_s, 0}, {u"state"_s, 0}, {u"wordlist"_s, 1}, {u"dictionary"_s, 1}, {u"exercises"_s, 1},
+        {u"lookup"_s, 1},   {u"media"_s, 1}, {u"print"_s, 1},    {u"ui"_s, 2},         {u"app"_s, 4}};
     const QStringList path = file.split(u'/');
     const auto floor = floors.constFind(path.first());
     if (floor == floors.constEnd())
         return std::nullopt;
-    return path.contains(QStringLiteral("widgets")) ? 3 : *floor;
+    return path.contains(u"widgets"_s) ? 3 : *floor;
 }
 
 /// The folder in which a source lies.
@@ -37,8 +37,7 @@ QString folder_of(const QString &file) {
 
 QStringList sources() {
     QStringList files;
-    QDirIterator all(source_folder, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files,
-                     QDirIterator::Subdirectories);
+    QDirIterator all(source_folder, {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (all.hasNext())
         files.append(all.next().mid(source_folder.size() + 1));
     return files;
@@ -49,7 +48,7 @@ QStringList includes_of(const QString &file) {
     QFile source(source_folder + u'/' + file);
     if (!source.open(QIODevice::ReadOnly))
         qFatal("cannot read %s", qPrintable(file));
-    static const QRegularExpression own(QStringLiteral("^#include \"([^\"]+)\""), QRegularExpression::MultilineOption);
+    static const QRegularExpression own(u"^#include \"([^\"]+)\""_s, QRegularExpression::MultilineOption);
     QStringList headers;
     auto matches = own.globalMatch(QString::fromUtf8(source.readAll()));
     while (matches.hasNext())
@@ -121,10 +120,10 @@ TEST(Includes, never_lead_back_to_the_folder_they_come_from) {
 
 TEST(SystemHeaders, are_included_by_the_ports_only) {
     static const QRegularExpression system(
-        QStringLiteral("^#include <(unistd|windows|fcntl|sys/|csignal)|^#\\s*if.*(_WIN32|__linux__|Q_OS_)"),
+        u"^#include <(unistd|windows|fcntl|sys/|csignal)|^#\\s*if.*(_WIN32|__linux__|Q_OS_)"_s,
         QRegularExpression::MultilineOption);
     for (const QString &file : sources()) {
-        if (file.startsWith(QStringLiteral("platform/linux/")) || file.startsWith(QStringLiteral("platform/windows/")))
+        if (file.startsWith(u"platform/linux/"_s) || file.startsWith(u"platform/windows/"_s))
             continue;
         QFile source(source_folder + u'/' + file);
         ASSERT_TRUE(source.open(QIODevice::ReadOnly));

@@ -12,6 +12,8 @@
 #include "support/printing.h"
 #include "support/test_places.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::optional<QString> word_of(const QString &text) {
@@ -21,23 +23,23 @@ std::optional<QString> word_of(const QString &text) {
 TEST(ClipboardWord, is_looked_up_once_for_the_same_text) {
     vágólapszó word;
 
-    EXPECT_EQ(word.új_szó(QStringLiteral("alma")), QStringLiteral("alma"));
-    EXPECT_EQ(word.új_szó(QStringLiteral("alma")), std::nullopt);
-    EXPECT_EQ(word.új_szó(QStringLiteral("körte")), QStringLiteral("körte"));
-    EXPECT_EQ(word.új_szó(QStringLiteral("alma")), QStringLiteral("alma"));
+    EXPECT_EQ(word.új_szó(u"alma"_s), u"alma"_s);
+    EXPECT_EQ(word.új_szó(u"alma"_s), std::nullopt);
+    EXPECT_EQ(word.új_szó(u"körte"_s), u"körte"_s);
+    EXPECT_EQ(word.új_szó(u"alma"_s), u"alma"_s);
 }
 
 TEST(ClipboardWord, is_another_one_when_only_its_blanks_or_capitals_differ) {
     vágólapszó word;
 
-    EXPECT_EQ(word.új_szó(QStringLiteral("alma")), QStringLiteral("alma"));
-    EXPECT_EQ(word.új_szó(QStringLiteral("Alma")), QStringLiteral("alma"));
-    EXPECT_EQ(word.új_szó(QStringLiteral("Alma ")), QStringLiteral("alma"));
+    EXPECT_EQ(word.új_szó(u"alma"_s), u"alma"_s);
+    EXPECT_EQ(word.új_szó(u"Alma"_s), u"alma"_s);
+    EXPECT_EQ(word.új_szó(u"Alma "_s), u"alma"_s);
 }
 
 TEST(ClipboardWord, is_trimmed_and_in_lower_case) {
-    EXPECT_EQ(word_of(QStringLiteral("  ÁRVÍZTŰRŐ Tükörfúrógép \t")), QStringLiteral("árvíztűrő tükörfúrógép"));
-    EXPECT_EQ(word_of(QStringLiteral("\u00a0Apple\u00a0")), QStringLiteral("apple"));
+    EXPECT_EQ(word_of(u"  ÁRVÍZTŰRŐ Tükörfúrógép \t"_s), u"árvíztűrő tükörfúrógép"_s);
+    EXPECT_EQ(word_of(u"\u00a0Apple\u00a0"_s), u"apple"_s);
 }
 
 TEST(ClipboardWord, is_never_blank) {
@@ -47,10 +49,10 @@ TEST(ClipboardWord, is_never_blank) {
 
 TEST(ClipboardWord, is_not_the_text_that_was_there) {
     vágólapszó word;
-    word.megjegyez(QStringLiteral("alma"));
+    word.megjegyez(u"alma"_s);
 
-    EXPECT_EQ(word.új_szó(QStringLiteral("alma")), std::nullopt);
-    EXPECT_EQ(word.új_szó(QStringLiteral("körte")), QStringLiteral("körte"));
+    EXPECT_EQ(word.új_szó(u"alma"_s), std::nullopt);
+    EXPECT_EQ(word.új_szó(u"körte"_s), u"körte"_s);
 }
 
 TEST(ClipboardWord, has_up_to_two_hundred_letters) {
@@ -66,11 +68,11 @@ TEST(ClipboardWord, is_never_a_text_of_several_lines) {
 
 TEST(ClipboardWord, that_was_refused_is_remembered_as_the_text_that_was_seen_last) {
     vágólapszó word;
-    const QString lines = QStringLiteral("alma\nkörte");
+    const QString lines = u"alma\nkörte"_s;
 
-    EXPECT_EQ(word.új_szó(QStringLiteral("alma")), QStringLiteral("alma"));
+    EXPECT_EQ(word.új_szó(u"alma"_s), u"alma"_s);
     EXPECT_EQ(word.új_szó(lines), std::nullopt);
-    EXPECT_EQ(word.új_szó(QStringLiteral("alma")), QStringLiteral("alma"));
+    EXPECT_EQ(word.új_szó(u"alma"_s), u"alma"_s);
 }
 
 /// Searches that find what begins with one of `headwords`, and the texts that were searched for.
@@ -93,36 +95,33 @@ struct FakeSearch {
 };
 
 TEST(Shortening, searches_a_word_that_is_found_only_once) {
-    FakeSearch search{{QStringLiteral("almafa")}, {}};
+    FakeSearch search{{u"almafa"_s}, {}};
 
-    EXPECT_EQ(search.shorten(QStringLiteral("alma")), QStringList{QStringLiteral("alma")});
+    EXPECT_EQ(search.shorten(u"alma"_s), QStringList{u"alma"_s});
 }
 
 TEST(Shortening, drops_one_letter_after_the_other_from_the_end) {
-    FakeSearch search{{QStringLiteral("almafa"), QStringLiteral("al")}, {}};
+    FakeSearch search{{u"almafa"_s, u"al"_s}, {}};
 
-    EXPECT_EQ(search.shorten(QStringLiteral("almánk")), QStringList({QStringLiteral("almánk"), QStringLiteral("almán"),
-                                                                     QStringLiteral("almá"), QStringLiteral("alm")}));
+    EXPECT_EQ(search.shorten(u"almánk"_s), QStringList({u"almánk"_s, u"almán"_s, u"almá"_s, u"alm"_s}));
 }
 
 TEST(Shortening, ends_with_the_empty_text_when_nothing_is_found) {
-    FakeSearch search{{QStringLiteral("almafa")}, {}};
+    FakeSearch search{{u"almafa"_s}, {}};
 
-    EXPECT_EQ(search.shorten(QStringLiteral("qqqq")),
-              QStringList({QStringLiteral("qqqq"), QStringLiteral("qqq"), QStringLiteral("qq"), QStringLiteral("q"),
-                           QString()}));
+    EXPECT_EQ(search.shorten(u"qqqq"_s), QStringList({u"qqqq"_s, u"qqq"_s, u"qq"_s, u"q"_s, QString()}));
 }
 
 TEST(Shortening, searches_an_empty_word_once) {
-    FakeSearch search{{QStringLiteral("almafa")}, {}};
+    FakeSearch search{{u"almafa"_s}, {}};
 
     EXPECT_EQ(search.shorten(QString()), QStringList{QString()});
 }
 
 TEST(Shortening, stops_where_a_newer_search_overtakes_it) {
-    FakeSearch search{{QStringLiteral("almafa")}, {}, 1};
+    FakeSearch search{{u"almafa"_s}, {}, 1};
 
-    EXPECT_EQ(search.shorten(QStringLiteral("qqqq")), QStringList({QStringLiteral("qqqq"), QStringLiteral("qqq")}));
+    EXPECT_EQ(search.shorten(u"qqqq"_s), QStringList({u"qqqq"_s, u"qqq"_s}));
 }
 
 /// Where a word ends in a dictionary, and what is found there.
@@ -148,39 +147,39 @@ class ShorteningInTheRealDictionary : public testing::Test {
         return ::shortened(dictionary_, QString::fromUtf16(word));
     }
 
-    FileSource dictionary_{test_places::in_program(QStringLiteral("ma.txt"))};
+    FileSource dictionary_{test_places::in_program(u"ma.txt"_s)};
 };
 
 TEST_F(ShorteningInTheRealDictionary, ends_at_the_longest_beginning_of_a_headword) {
     // "in my houses" is no headword, nor does one begin with "házaim"; "házaik" is one.
     const Shortened result = shortened(u"házaimban");
 
-    EXPECT_EQ(result.to, QStringLiteral("házai"));
+    EXPECT_EQ(result.to, u"házai"_s);
     EXPECT_EQ(result.headwords, QByteArrayList{cp1250(u"házaik")});
 }
 
 TEST_F(ShorteningInTheRealDictionary, leads_from_an_inflected_word_to_its_stem) {
     const Shortened result = shortened(u"szomszédaimmal");
 
-    EXPECT_EQ(result.to, QStringLiteral("szomszéd"));
+    EXPECT_EQ(result.to, u"szomszéd"_s);
     EXPECT_TRUE(result.headwords.contains(cp1250(u"szomszéd")));
 }
 
 TEST_F(ShorteningInTheRealDictionary, leads_from_other_inflected_words_to_what_they_begin_with) {
-    EXPECT_EQ(shortened(u"almáskertjeinkben").to, QStringLiteral("almás"));
-    EXPECT_EQ(shortened(u"ablakokban").to, QStringLiteral("ablakok"));
-    EXPECT_EQ(shortened(u"megtaláltuk").to, QStringLiteral("megtalál"));
-    EXPECT_EQ(shortened(u"gyerekeinknek").to, QStringLiteral("gyereke"));
+    EXPECT_EQ(shortened(u"almáskertjeinkben").to, u"almás"_s);
+    EXPECT_EQ(shortened(u"ablakokban").to, u"ablakok"_s);
+    EXPECT_EQ(shortened(u"megtaláltuk").to, u"megtalál"_s);
+    EXPECT_EQ(shortened(u"gyerekeinknek").to, u"gyereke"_s);
 }
 
 TEST_F(ShorteningInTheRealDictionary, leaves_a_headword_as_it_is) {
-    EXPECT_EQ(shortened(u"alma").to, QStringLiteral("alma"));
+    EXPECT_EQ(shortened(u"alma").to, u"alma"_s);
 }
 
 TEST_F(ShorteningInTheRealDictionary, ends_at_a_single_letter_of_a_word_that_begins_like_no_other) {
     const Shortened result = shortened(u"qqqq");
 
-    EXPECT_EQ(result.to, QStringLiteral("q"));
+    EXPECT_EQ(result.to, u"q"_s);
     EXPECT_TRUE(result.headwords.contains("quorum"));
 }
 
@@ -196,7 +195,7 @@ TEST_F(ShorteningInTheRealDictionary, ends_at_nothing_for_letters_that_no_headwo
 TEST(ShorteningInASmallDictionary, ends_at_nothing_for_a_word_that_begins_like_none) {
     MemorySource dictionary(dictionary_of({"alma:apple\xf7", "k\xf6rte:pear\xf7"}));
 
-    const Shortened result = shortened(dictionary, QStringLiteral("qqqq"));
+    const Shortened result = shortened(dictionary, u"qqqq"_s);
 
     EXPECT_EQ(result.to, QString());
     EXPECT_TRUE(result.headwords.isEmpty());

@@ -4,6 +4,8 @@
 
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString address(const char16_t *text) {
@@ -11,29 +13,27 @@ QString address(const char16_t *text) {
 }
 
 TEST(ControlAddress, of_a_file_is_the_same_as_path_and_as_address) {
-    EXPECT_EQ(address(u"C:\\Zimborakavaro\\help\\Kavaro súgó.mht"),
-              QStringLiteral("file:///C:/Zimborakavaro/help/Kavaro súgó.mht"));
+    EXPECT_EQ(address(u"C:\\Zimborakavaro\\help\\Kavaro súgó.mht"), u"file:///C:/Zimborakavaro/help/Kavaro súgó.mht"_s);
     EXPECT_EQ(address(u"file:///C:/Zimborakavaro/help/Kavaro%20s%C3%BAg%C3%B3.mht"),
-              QStringLiteral("file:///C:/Zimborakavaro/help/Kavaro súgó.mht"));
+              u"file:///C:/Zimborakavaro/help/Kavaro súgó.mht"_s);
 }
 
 TEST(ControlAddress, within_an_archive_counts_as_the_archive) {
-    EXPECT_EQ(address(u"mhtml:file://C:\\help\\a.mht!thismessage:/index.html"),
-              QStringLiteral("file:///C:/help/a.mht"));
-    EXPECT_EQ(address(u"MHTML:C:\\help\\a!.mht!index.html"), QStringLiteral("file:///C:/help/a!.mht"));
-    EXPECT_EQ(address(u"mhtml:C:\\help\\a.mht"), QStringLiteral("file:///C:/help/a.mht"));
+    EXPECT_EQ(address(u"mhtml:file://C:\\help\\a.mht!thismessage:/index.html"), u"file:///C:/help/a.mht"_s);
+    EXPECT_EQ(address(u"MHTML:C:\\help\\a!.mht!index.html"), u"file:///C:/help/a!.mht"_s);
+    EXPECT_EQ(address(u"mhtml:C:\\help\\a.mht"), u"file:///C:/help/a.mht"_s);
 }
 
 TEST(ControlAddress, of_the_web_is_left_as_it_is) {
-    EXPECT_EQ(address(u"https://x.hu/a?b#c"), QStringLiteral("https://x.hu/a?b#c"));
+    EXPECT_EQ(address(u"https://x.hu/a?b#c"), u"https://x.hu/a?b#c"_s);
 }
 
 TEST(ControlAddress, that_is_a_blank_page_or_the_content_of_a_frame_is_no_step) {
-    EXPECT_TRUE(is_part_of_page(QUrl(QStringLiteral("about:blank")), true));
-    EXPECT_TRUE(is_part_of_page(QUrl(QStringLiteral("data:text/html,x")), false));
-    EXPECT_FALSE(is_part_of_page(QUrl(QStringLiteral("data:text/html,x")), true));
-    EXPECT_FALSE(is_part_of_page(QUrl(QStringLiteral("about:home")), true));
-    EXPECT_FALSE(is_part_of_page(QUrl(QStringLiteral("https://x.hu/")), false));
+    EXPECT_TRUE(is_part_of_page(QUrl(u"about:blank"_s), true));
+    EXPECT_TRUE(is_part_of_page(QUrl(u"data:text/html,x"_s), false));
+    EXPECT_FALSE(is_part_of_page(QUrl(u"data:text/html,x"_s), true));
+    EXPECT_FALSE(is_part_of_page(QUrl(u"about:home"_s), true));
+    EXPECT_FALSE(is_part_of_page(QUrl(u"https://x.hu/"_s), false));
 }
 
 }  // namespace

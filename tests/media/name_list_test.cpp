@@ -4,6 +4,8 @@
 
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The names with the selected one in brackets: "a [b] c".
@@ -30,47 +32,47 @@ TEST(NameList, is_empty_at_first) {
 }
 
 TEST(NameList, puts_a_new_name_to_the_end_and_selects_it) {
-    névlista list = list_of(QStringLiteral("ab"), 0);
+    névlista list = list_of(u"ab"_s, 0);
 
-    list.hozzáad(QStringLiteral("c"));
+    list.hozzáad(u"c"_s);
 
-    EXPECT_EQ(shown(list), QStringLiteral("a b [c]"));
+    EXPECT_EQ(shown(list), u"a b [c]"_s);
 }
 
 TEST(NameList, selects_a_name_that_is_there_instead_of_adding_it_again) {
-    névlista list = list_of(QStringLiteral("abc"), 2);
+    névlista list = list_of(u"abc"_s, 2);
 
-    list.hozzáad(QStringLiteral("a"));
+    list.hozzáad(u"a"_s);
 
-    EXPECT_EQ(shown(list), QStringLiteral("[a] b c"));
+    EXPECT_EQ(shown(list), u"[a] b c"_s);
 }
 
 TEST(NameList, tells_small_letters_from_capitals) {
-    névlista list = list_of(QStringLiteral("a"), 0);
+    névlista list = list_of(u"a"_s, 0);
 
-    list.hozzáad(QStringLiteral("A"));
+    list.hozzáad(u"A"_s);
 
-    EXPECT_EQ(shown(list), QStringLiteral("a [A]"));
+    EXPECT_EQ(shown(list), u"a [A]"_s);
 }
 
 TEST(NameList, selects_the_name_that_comes_into_the_place_of_the_removed_one) {
-    névlista list = list_of(QStringLiteral("abc"), 1);
+    névlista list = list_of(u"abc"_s, 1);
 
     list.töröl();
 
-    EXPECT_EQ(shown(list), QStringLiteral("a [c]"));
+    EXPECT_EQ(shown(list), u"a [c]"_s);
 }
 
 TEST(NameList, selects_the_new_last_name_after_the_last_one_was_removed) {
-    névlista list = list_of(QStringLiteral("abc"), 2);
+    névlista list = list_of(u"abc"_s, 2);
 
     list.töröl();
 
-    EXPECT_EQ(shown(list), QStringLiteral("a [b]"));
+    EXPECT_EQ(shown(list), u"a [b]"_s);
 }
 
 TEST(NameList, has_nothing_selected_after_its_only_name_was_removed) {
-    névlista list = list_of(QStringLiteral("a"), 0);
+    névlista list = list_of(u"a"_s, 0);
 
     list.töröl();
 
@@ -80,74 +82,74 @@ TEST(NameList, has_nothing_selected_after_its_only_name_was_removed) {
 
 TEST(NameList, removes_nothing_without_a_selection) {
     névlista empty;
-    névlista list = list_of(QStringLiteral("ab"), -1);
+    névlista list = list_of(u"ab"_s, -1);
 
     empty.töröl();
     list.töröl();
 
     EXPECT_EQ(empty.darab(), 0);
-    EXPECT_EQ(shown(list), QStringLiteral("a b"));
+    EXPECT_EQ(shown(list), u"a b"_s);
 }
 
 TEST(NameList, selects_after_removing_by_name_as_after_removing_the_selected_one) {
-    névlista first = list_of(QStringLiteral("abc"), 2);
-    névlista last = list_of(QStringLiteral("abc"), 0);
-    névlista unselected = list_of(QStringLiteral("abc"), -1);
+    névlista first = list_of(u"abc"_s, 2);
+    névlista last = list_of(u"abc"_s, 0);
+    névlista unselected = list_of(u"abc"_s, -1);
 
-    first.töröl(QStringLiteral("a"));
-    last.töröl(QStringLiteral("c"));
-    unselected.töröl(QStringLiteral("b"));
+    first.töröl(u"a"_s);
+    last.töröl(u"c"_s);
+    unselected.töröl(u"b"_s);
 
-    EXPECT_EQ(shown(first), QStringLiteral("[b] c"));
-    EXPECT_EQ(shown(last), QStringLiteral("a [b]"));
-    EXPECT_EQ(shown(unselected), QStringLiteral("a [c]"));
+    EXPECT_EQ(shown(first), u"[b] c"_s);
+    EXPECT_EQ(shown(last), u"a [b]"_s);
+    EXPECT_EQ(shown(unselected), u"a [c]"_s);
 }
 
 TEST(NameList, leaves_everything_as_it_is_when_a_name_to_remove_is_missing) {
-    névlista list = list_of(QStringLiteral("ab"), 1);
+    névlista list = list_of(u"ab"_s, 1);
 
-    list.töröl(QStringLiteral("x"));
+    list.töröl(u"x"_s);
 
-    EXPECT_EQ(shown(list), QStringLiteral("a [b]"));
+    EXPECT_EQ(shown(list), u"a [b]"_s);
 }
 
 TEST(NameList, moves_the_selected_name_up_and_down_and_keeps_it_selected) {
-    névlista up = list_of(QStringLiteral("abc"), 1);
-    névlista down = list_of(QStringLiteral("abc"), 1);
+    névlista up = list_of(u"abc"_s, 1);
+    névlista down = list_of(u"abc"_s, 1);
 
     up.áthelyez(-1);
     down.áthelyez(1);
 
-    EXPECT_EQ(shown(up), QStringLiteral("[b] a c"));
-    EXPECT_EQ(shown(down), QStringLiteral("a c [b]"));
+    EXPECT_EQ(shown(up), u"[b] a c"_s);
+    EXPECT_EQ(shown(down), u"a c [b]"_s);
 }
 
 TEST(NameList, moves_neither_the_first_name_up_nor_the_last_one_down) {
-    névlista first = list_of(QStringLiteral("abc"), 0);
-    névlista last = list_of(QStringLiteral("abc"), 2);
+    névlista first = list_of(u"abc"_s, 0);
+    névlista last = list_of(u"abc"_s, 2);
 
     first.áthelyez(-1);
     last.áthelyez(1);
 
-    EXPECT_EQ(shown(first), QStringLiteral("[a] b c"));
-    EXPECT_EQ(shown(last), QStringLiteral("a b [c]"));
+    EXPECT_EQ(shown(first), u"[a] b c"_s);
+    EXPECT_EQ(shown(last), u"a b [c]"_s);
 }
 
 TEST(NameList, moves_nothing_without_a_selection) {
-    névlista list = list_of(QStringLiteral("ab"), -1);
+    névlista list = list_of(u"ab"_s, -1);
 
     list.áthelyez(1);
     list.áthelyez(-1);
 
-    EXPECT_EQ(shown(list), QStringLiteral("a b"));
+    EXPECT_EQ(shown(list), u"a b"_s);
 }
 
 TEST(NameList, has_nothing_selected_after_it_was_filled_anew) {
-    névlista list = list_of(QStringLiteral("abc"), 2);
+    névlista list = list_of(u"abc"_s, 2);
 
-    list.feltölt({QStringLiteral("x")});
+    list.feltölt({u"x"_s});
 
-    EXPECT_EQ(shown(list), QStringLiteral("x"));
+    EXPECT_EQ(shown(list), u"x"_s);
 }
 
 TEST(NameList, names_only_files_of_its_own_folder) {
@@ -156,7 +158,7 @@ TEST(NameList, names_only_files_of_its_own_folder) {
 
     for (const char16_t *name : {u"../a.wav", u"/etc/passwd", u"a/", u"..\\a.wav", u"c:\\a.wav", u"\\"})
         EXPECT_FALSE(mappa_nélküli(QString::fromUtf16(name))) << QString::fromUtf16(name).toStdString();
-    EXPECT_FALSE(mappa_nélküli(QStringLiteral("a") + QChar(QChar::Null)));
+    EXPECT_FALSE(mappa_nélküli(u"a"_s + QChar(QChar::Null)));
 }
 
 }  // namespace

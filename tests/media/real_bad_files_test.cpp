@@ -5,6 +5,8 @@
 
 #include "support/real_playback_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 hundred_mebibytes = 100 * 1024 * 1024;
@@ -30,7 +32,7 @@ class RealBadFiles : public RealPlayback {
     }
 
     [[nodiscard]] bool piece_ends() {
-        return wait_for([this] { return player_.midiállapot() != QStringLiteral("playing"); });
+        return wait_for([this] { return player_.midiállapot() != u"playing"_s; });
     }
 };
 
@@ -51,7 +53,7 @@ TEST_F(RealBadFiles, passes_over_a_wave_of_zero_bytes) {
 TEST_F(RealBadFiles, passes_over_a_wave_without_samples) {
     player_.hanglejátszás(file("x.wav", wave_header(0)));
 
-    EXPECT_TRUE(wait_for([this] { return wave_mode() != QStringLiteral("playing"); }));
+    EXPECT_TRUE(wait_for([this] { return wave_mode() != u"playing"_s; }));
     EXPECT_TRUE(can_play_a_wave());
 }
 
@@ -143,7 +145,7 @@ TEST_F(RealBadFiles, plays_a_wave_of_a_hundred_mebibytes_soon) {
 
     RecordProperty("milliseconds", static_cast<int>(milliseconds));
     EXPECT_LT(milliseconds, bearable);
-    EXPECT_EQ(wave_mode(), QStringLiteral("playing"));
+    EXPECT_EQ(wave_mode(), u"playing"_s);
     EXPECT_TRUE(can_play_a_wave());
 }
 
@@ -201,9 +203,9 @@ TEST_F(RealBadFiles, plays_in_silence_on_a_machine_without_a_sound_device) {
     player_.midilejátszás(file("piece.mid", midi_of({69}, 1)));
 
     EXPECT_LT(clock.elapsed(), bearable);
-    EXPECT_EQ(wave_mode(), QStringLiteral("playing"));
-    EXPECT_EQ(player_.midiállapot(), QStringLiteral("playing"));
-    EXPECT_TRUE(wait_for([this] { return wave_mode() != QStringLiteral("playing"); }));
+    EXPECT_EQ(wave_mode(), u"playing"_s);
+    EXPECT_EQ(player_.midiállapot(), u"playing"_s);
+    EXPECT_TRUE(wait_for([this] { return wave_mode() != u"playing"_s; }));
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 
 #include "support/real_playback_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int key_a = 69;
@@ -85,29 +87,29 @@ TEST_F(RealPlayback, stops_the_wave_alone_and_lets_the_music_go_on) {
     const std::vector<double> heard = listen();
     EXPECT_GT(prominence_of(hertz_of_key(key_a), heard), heard_clearly);
     EXPECT_LT(prominence_of(low_tone, heard), heard_clearly);
-    EXPECT_EQ(player_.midiállapot(), QStringLiteral("playing"));
+    EXPECT_EQ(player_.midiállapot(), u"playing"_s);
 }
 
 TEST_F(RealPlayback, says_that_a_piece_plays_until_its_end) {
     player_.midilejátszás(file("short.mid", midi_of({key_a}, 2)));
-    EXPECT_EQ(player_.midiállapot(), QStringLiteral("playing"));
+    EXPECT_EQ(player_.midiállapot(), u"playing"_s);
 
-    EXPECT_TRUE(wait_for([this] { return player_.midiállapot() != QStringLiteral("playing"); }));
-    EXPECT_EQ(player_.midiállapot(), QStringLiteral("stopped"));
+    EXPECT_TRUE(wait_for([this] { return player_.midiállapot() != u"playing"_s; }));
+    EXPECT_EQ(player_.midiállapot(), u"stopped"_s);
 }
 
 TEST_F(RealPlayback, plays_a_wave_once) {
     player_.hanglejátszás(file("short.wav", wave_of(low_tone, 2)));
-    EXPECT_EQ(wave_mode(), QStringLiteral("playing"));
+    EXPECT_EQ(wave_mode(), u"playing"_s);
 
-    EXPECT_TRUE(wait_for([this] { return wave_mode() == QStringLiteral("stopped"); }));
+    EXPECT_TRUE(wait_for([this] { return wave_mode() == u"stopped"_s; }));
     EXPECT_TRUE(silent(listen()));
 }
 
 TEST_F(RealPlayback, plays_the_same_wave_again) {
     const QString path = file("short.wav", wave_of(low_tone, 2));
     player_.hanglejátszás(QString(path));
-    ASSERT_TRUE(wait_for([this] { return wave_mode() == QStringLiteral("stopped"); }));
+    ASSERT_TRUE(wait_for([this] { return wave_mode() == u"stopped"_s; }));
 
     player_.hanglejátszás(QString(path));
 
@@ -125,8 +127,8 @@ TEST_F(RealPlayback, plays_waves_of_other_rates_and_sizes_at_their_pitch) {
 
 TEST_F(RealPlayback, plays_names_with_blanks_quotation_marks_and_hungarian_letters) {
     for (const char16_t *name : {u"két  szó", u"\"idézett\" név", u"árvíztűrő tükörfúrógép", u"' type x alias \"y"}) {
-        const QString wave = in_folder(QString::fromUtf16(name) + QStringLiteral(".wav"));
-        const QString piece = in_folder(QString::fromUtf16(name) + QStringLiteral(".mid"));
+        const QString wave = in_folder(QString::fromUtf16(name) + u".wav"_s);
+        const QString piece = in_folder(QString::fromUtf16(name) + u".mid"_s);
         write_file(wave, wave_of(low_tone, long_seconds));
         write_file(piece, midi_of({key_a}, long_seconds));
 

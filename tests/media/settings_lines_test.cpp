@@ -9,6 +9,8 @@
 #include "support/odd_files.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SettingsLines : public testing::Test {
@@ -20,12 +22,12 @@ class SettingsLines : public testing::Test {
     }
 
     QTemporaryDir folder_;
-    QString file_ = folder_.filePath(QStringLiteral("grathang.ini"));
+    QString file_ = folder_.filePath(u"grathang.ini"_s);
 };
 
 TEST_F(SettingsLines, write_a_switch_as_a_digit_behind_a_blank) {
-    EXPECT_EQ(beállítássorok::kapcsolósor(true), QStringLiteral(" 1"));
-    EXPECT_EQ(beállítássorok::kapcsolósor(false), QStringLiteral(" 0"));
+    EXPECT_EQ(beállítássorok::kapcsolósor(true), u" 1"_s);
+    EXPECT_EQ(beállítássorok::kapcsolósor(false), u" 0"_s);
 }
 
 TEST_F(SettingsLines, read_a_switch_with_blanks_or_without) {
@@ -50,7 +52,7 @@ TEST_F(SettingsLines, are_none_where_a_folder_has_the_name_of_the_file) {
 }
 
 TEST_F(SettingsLines, end_with_cr_lf_or_lf_and_the_last_one_with_nothing_too) {
-    const QStringList lines{QStringLiteral(" 1"), QStringLiteral("a.wav")};
+    const QStringList lines{u" 1"_s, u"a.wav"_s};
 
     for (const char *bytes : {" 1\r\na.wav\r\n", " 1\na.wav\n", " 1\r\na.wav"})
         EXPECT_EQ(lines_of(bytes), lines) << bytes;
@@ -61,7 +63,7 @@ TEST_F(SettingsLines, keep_their_blanks) {
 }
 
 TEST_F(SettingsLines, are_read_in_the_code_page) {
-    EXPECT_EQ(lines_of("\xf5sz \xfb.wav\r\n"), QStringList(QStringLiteral("ősz ű.wav")));
+    EXPECT_EQ(lines_of("\xf5sz \xfb.wav\r\n"), QStringList(u"ősz ű.wav"_s));
 }
 
 TEST_F(SettingsLines, tell_of_a_file_that_cannot_be_read) {
@@ -71,11 +73,11 @@ TEST_F(SettingsLines, tell_of_a_file_that_cannot_be_read) {
 
     ASSERT_TRUE(std::holds_alternative<Failure>(read));
     EXPECT_TRUE(std::get<Failure>(read).sentence.startsWith(
-        QStringLiteral("A(z) „%1” fájl nem olvasható: ").arg(QDir::toNativeSeparators(file_))));
+        u"A(z) „%1” fájl nem olvasható: "_s.arg(QDir::toNativeSeparators(file_))));
 }
 
 TEST_F(SettingsLines, are_written_in_the_code_page_with_cr_lf) {
-    const FileContent bytes = beállítássorok::bájtok({QStringLiteral(" 0"), QStringLiteral("ősz ű.wav")});
+    const FileContent bytes = beállítássorok::bájtok({u" 0"_s, u"ősz ű.wav"_s});
 
     EXPECT_EQ(std::get<QByteArray>(bytes), " 0\r\n\xf5sz \xfb.wav\r\n");
 }
@@ -89,21 +91,20 @@ TEST_F(SettingsLines, read_as_they_were_written) {
 }
 
 TEST_F(SettingsLines, name_the_line_and_the_letter_that_the_code_page_lacks) {
-    const FileContent bytes = beállítássorok::bájtok({QStringLiteral("a.wav"), QStringLiteral("Ω.wav")});
-
-    ASSERT_TRUE(std::holds_alternative<Failure>(bytes));
-    EXPECT_EQ(
-        std::get<Failure>(bytes).sentence,
-        QStringLiteral("A(z) „Ω.wav” nevű fájl nem kerülhet a listára, mert a nevében a(z) „Ω” betű nem írható le "
-                       "a közép-európai kódlapon."));
-}
-
-TEST_F(SettingsLines, refuse_a_name_that_would_be_read_as_two) {
-    const FileContent bytes = beállítássorok::bájtok({QStringLiteral("a.wav"), QStringLiteral("b\nc.wav")});
+    const FileContent bytes = beállítássorok::bájtok({u"a.wav"_s, u"Ω.wav"_s});
 
     ASSERT_TRUE(std::holds_alternative<Failure>(bytes));
     EXPECT_EQ(std::get<Failure>(bytes).sentence,
-              QStringLiteral("A(z) „b c.wav” nevű fájl nem kerülhet a listára, mert a nevében sortörés van."));
+              u"A(z) „Ω.wav” nevű fájl nem kerülhet a listára, mert a nevében a(z) „Ω” betű nem írható le "
+              "a közép-európai kódlapon."_s);
+}
+
+TEST_F(SettingsLines, refuse_a_name_that_would_be_read_as_two) {
+    const FileContent bytes = beállítássorok::bájtok({u"a.wav"_s, u"b\nc.wav"_s});
+
+    ASSERT_TRUE(std::holds_alternative<Failure>(bytes));
+    EXPECT_EQ(std::get<Failure>(bytes).sentence,
+              u"A(z) „b c.wav” nevű fájl nem kerülhet a listára, mert a nevében sortörés van."_s);
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Files : public testing::Test {
@@ -18,7 +20,7 @@ class Files : public testing::Test {
 };
 
 TEST_F(Files, reads_what_was_written) {
-    const QString path = in_folder(QStringLiteral("szavak ő.szs"));
+    const QString path = in_folder(u"szavak ő.szs"_s);
     const QByteArray bytes("a\0b\r\n", 5);
 
     EXPECT_FALSE(files::replace_whole(path, bytes));
@@ -27,75 +29,73 @@ TEST_F(Files, reads_what_was_written) {
 }
 
 TEST_F(Files, says_why_a_missing_file_cannot_be_read) {
-    const FileContent content = files::read_whole(in_folder(QStringLiteral("nincs.szs")));
+    const FileContent content = files::read_whole(in_folder(u"nincs.szs"_s));
 
-    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(
-        QStringLiteral("nincs.szs” fájl nem olvasható: a fájl nem létezik.")));
+    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(u"nincs.szs” fájl nem olvasható: a fájl nem létezik."_s));
 }
 
 TEST_F(Files, says_why_a_folder_cannot_be_read) {
     const FileContent content = files::read_whole(folder_.path());
 
-    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(QStringLiteral("ez egy mappa.")));
+    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(u"ez egy mappa."_s));
 }
 
 TEST_F(Files, says_why_a_file_cannot_be_written_into_a_missing_folder) {
-    const auto failure = files::replace_whole(in_folder(QStringLiteral("nincs/lista.szs")), "a:b\r\n");
+    const auto failure = files::replace_whole(in_folder(u"nincs/lista.szs"_s), "a:b\r\n");
 
     ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->sentence.endsWith(QStringLiteral("fájl nem írható: a mappa nem létezik.")));
+    EXPECT_TRUE(failure->sentence.endsWith(u"fájl nem írható: a mappa nem létezik."_s));
 }
 
 TEST_F(Files, takes_only_a_file_for_an_existing_file) {
-    write_file(in_folder(QStringLiteral("van.szs")), "");
+    write_file(in_folder(u"van.szs"_s), "");
 
-    EXPECT_TRUE(files::exists(in_folder(QStringLiteral("van.szs"))));
-    EXPECT_FALSE(files::exists(in_folder(QStringLiteral("nincs.szs"))));
+    EXPECT_TRUE(files::exists(in_folder(u"van.szs"_s)));
+    EXPECT_FALSE(files::exists(in_folder(u"nincs.szs"_s)));
     EXPECT_FALSE(files::exists(folder_.path()));
 }
 
 TEST_F(Files, deletes_a_file_and_no_other) {
-    const QString path = in_folder(QStringLiteral("két hang ő.wav"));
+    const QString path = in_folder(u"két hang ő.wav"_s);
     write_file(path, "RIFF");
-    write_file(in_folder(QStringLiteral("más.wav")), "RIFF");
+    write_file(in_folder(u"más.wav"_s), "RIFF");
 
     EXPECT_FALSE(files::remove(path));
 
-    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{QStringLiteral("más.wav")});
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{u"más.wav"_s});
 }
 
 TEST_F(Files, takes_a_file_that_has_gone_already_for_deleted) {
-    EXPECT_FALSE(files::remove(in_folder(QStringLiteral("nincs.wav"))));
-    EXPECT_FALSE(files::remove(in_folder(QStringLiteral("nincs/hang.wav"))));
+    EXPECT_FALSE(files::remove(in_folder(u"nincs.wav"_s)));
+    EXPECT_FALSE(files::remove(in_folder(u"nincs/hang.wav"_s)));
 }
 
 TEST_F(Files, says_so_when_a_folder_stands_in_the_place_of_a_file_to_be_deleted) {
-    QDir(folder_.path()).mkdir(QStringLiteral("hang.wav"));
-    const QString path = in_folder(QStringLiteral("hang.wav"));
+    QDir(folder_.path()).mkdir(u"hang.wav"_s);
+    const QString path = in_folder(u"hang.wav"_s);
 
     const auto failure = files::remove(path);
 
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->sentence,
-              QStringLiteral("A(z) „%1” fájl nem törölhető: ez egy mappa.").arg(QDir::toNativeSeparators(path)));
+    EXPECT_EQ(failure->sentence, u"A(z) „%1” fájl nem törölhető: ez egy mappa."_s.arg(QDir::toNativeSeparators(path)));
     EXPECT_TRUE(QFileInfo(path).isDir());
 }
 
 TEST_F(Files, makes_a_folder_and_those_that_it_lies_in) {
-    EXPECT_FALSE(files::make_folder(folder_.filePath(QStringLiteral("a/b/c"))));
-    EXPECT_FALSE(files::make_folder(folder_.filePath(QStringLiteral("a/b/c"))));
+    EXPECT_FALSE(files::make_folder(folder_.filePath(u"a/b/c"_s)));
+    EXPECT_FALSE(files::make_folder(folder_.filePath(u"a/b/c"_s)));
 
-    EXPECT_TRUE(QFileInfo(folder_.filePath(QStringLiteral("a/b/c"))).isDir());
+    EXPECT_TRUE(QFileInfo(folder_.filePath(u"a/b/c"_s)).isDir());
 }
 
 TEST_F(Files, tells_that_a_file_stands_where_a_folder_should_be_made) {
-    write_file(folder_.filePath(QStringLiteral("a")), "");
+    write_file(folder_.filePath(u"a"_s), "");
 
-    const auto failure = files::make_folder(folder_.filePath(QStringLiteral("a/b")));
+    const auto failure = files::make_folder(folder_.filePath(u"a/b"_s));
 
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->sentence, QStringLiteral("A(z) „%1” mappa nem hozható létre: a helyén egy fájl van.")
-                                     .arg(QDir::toNativeSeparators(folder_.filePath(QStringLiteral("a/b")))));
+    EXPECT_EQ(failure->sentence, u"A(z) „%1” mappa nem hozható létre: a helyén egy fájl van."_s.arg(
+                                     QDir::toNativeSeparators(folder_.filePath(u"a/b"_s))));
 }
 
 }  // namespace

@@ -7,41 +7,43 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(DocumentNames, are_those_of_the_lists_file) {
-    const dokumentumnevek names = dokumentum(QStringLiteral("/lists/állatok és más.szs"), QStringLiteral("/program"));
+    const dokumentumnevek names = dokumentum(u"/lists/állatok és más.szs"_s, u"/program"_s);
 
-    EXPECT_EQ(names.út, QStringLiteral("/lists/állatok és más.szs"));
-    EXPECT_EQ(names.cím, QStringLiteral("állatok és más"));
-    EXPECT_EQ(names.pdf, QStringLiteral("/lists/állatok és más.pdf"));
+    EXPECT_EQ(names.út, u"/lists/állatok és más.szs"_s);
+    EXPECT_EQ(names.cím, u"állatok és más"_s);
+    EXPECT_EQ(names.pdf, u"/lists/állatok és más.pdf"_s);
 }
 
 TEST(DocumentNames, of_a_list_never_saved_lie_in_the_program_folder) {
-    const dokumentumnevek names = dokumentum(QString(), QStringLiteral("/program"));
+    const dokumentumnevek names = dokumentum(QString(), u"/program"_s);
 
     EXPECT_EQ(names.út, QString());
-    EXPECT_EQ(names.cím, QStringLiteral("névtelen szószedet"));
-    EXPECT_EQ(names.pdf, QStringLiteral("/program/névtelen szószedet.pdf"));
+    EXPECT_EQ(names.cím, u"névtelen szószedet"_s);
+    EXPECT_EQ(names.pdf, u"/program/névtelen szószedet.pdf"_s);
 }
 
 TEST(DocumentNames, know_a_saved_list_whose_new_naming_was_cancelled) {
     const QTemporaryDir folder;
-    const QString saved = folder.filePath(QStringLiteral("saved.szs"));
+    const QString saved = folder.filePath(u"saved.szs"_s);
     write_file(saved, "a:b\r\n");
 
-    EXPECT_EQ(dokumentum(u'*' + saved, QStringLiteral("/program")).út, saved);
-    EXPECT_EQ(dokumentum(QStringLiteral("**") + saved, QStringLiteral("/program")).cím, QStringLiteral("saved"));
-    const QString proposed = folder.filePath(QStringLiteral("proposed.szs"));
-    EXPECT_EQ(dokumentum(u'*' + proposed, QStringLiteral("/program")).út, QString());
-    EXPECT_EQ(dokumentum(QStringLiteral("*"), QStringLiteral("/program")).cím, QStringLiteral("névtelen szószedet"));
+    EXPECT_EQ(dokumentum(u'*' + saved, u"/program"_s).út, saved);
+    EXPECT_EQ(dokumentum(u"**"_s + saved, u"/program"_s).cím, u"saved"_s);
+    const QString proposed = folder.filePath(u"proposed.szs"_s);
+    EXPECT_EQ(dokumentum(u'*' + proposed, u"/program"_s).út, QString());
+    EXPECT_EQ(dokumentum(u"*"_s, u"/program"_s).cím, u"névtelen szószedet"_s);
 }
 
 TEST(DocumentNames, get_the_extension_of_a_pdf_when_it_is_missing) {
-    EXPECT_EQ(pdfnév(QStringLiteral("/a/list")), QStringLiteral("/a/list.pdf"));
-    EXPECT_EQ(pdfnév(QStringLiteral("/a/list.szs")), QStringLiteral("/a/list.szs.pdf"));
-    EXPECT_EQ(pdfnév(QStringLiteral("/a/list.pdf")), QStringLiteral("/a/list.pdf"));
-    EXPECT_EQ(pdfnév(QStringLiteral("/a/LIST.PDF")), QStringLiteral("/a/LIST.PDF"));
+    EXPECT_EQ(pdfnév(u"/a/list"_s), u"/a/list.pdf"_s);
+    EXPECT_EQ(pdfnév(u"/a/list.szs"_s), u"/a/list.szs.pdf"_s);
+    EXPECT_EQ(pdfnév(u"/a/list.pdf"_s), u"/a/list.pdf"_s);
+    EXPECT_EQ(pdfnév(u"/a/LIST.PDF"_s), u"/a/LIST.PDF"_s);
 }
 
 }  // namespace

@@ -2,13 +2,15 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The index that is chosen of fonts separated by ";"; those that end with "Serif" have serifs.
 int choice(const char *fonts) {
     const QString list = QString::fromUtf8(fonts);
     return választott_betűtípus(list.isEmpty() ? QStringList() : list.split(u';'),
-                                [](const QString &font) { return font.endsWith(QStringLiteral("Serif")); });
+                                [](const QString &font) { return font.endsWith(u"Serif"_s); });
 }
 
 TEST(FontChoice, is_times_new_roman_ce_where_there_is_one) {

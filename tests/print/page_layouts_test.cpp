@@ -6,6 +6,8 @@
 #include "support/recording_printer.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 using Orientation = PagePrinter::Orientation;
@@ -36,10 +38,10 @@ class PageLayouts : public testing::Test {
             counts.append(paper_.texts_of_page(page).size() - (page == 1 ? 1 : 0));
         return counts;
     }
-    [[nodiscard]] static QString line(int i) { return QStringLiteral("word%1  -  szó%1").arg(i); }
+    [[nodiscard]] static QString line(int i) { return u"word%1  -  szó%1"_s.arg(i); }
 
     RecordingPrinter paper_;
-    nyomtatandó what_{{}, QStringLiteral("/lists/állatok.szs"), 14, 1};
+    nyomtatandó what_{{}, u"/lists/állatok.szs"_s, 14, 1};
     nyomtatásfigyelő watch_ = [](int, int) { return true; };
 };
 
@@ -50,8 +52,7 @@ class PageLayouts : public testing::Test {
 TEST_F(PageLayouts, list_of_no_pair_is_a_page_with_the_title_only) {
     EXPECT_EQ(print_list({}, 1), nyomtatásvége::kész);
 
-    EXPECT_THAT(paper_.texts,
-                ElementsAre(PrintedText{1, 600, 800, 12, QStringLiteral("/lists/állatok.szs szószedet")}));
+    EXPECT_THAT(paper_.texts, ElementsAre(PrintedText{1, 600, 800, 12, u"/lists/állatok.szs szószedet"_s}));
     EXPECT_EQ(paper_.pages, 1);
     EXPECT_TRUE(paper_.ended);
 }
@@ -61,7 +62,7 @@ TEST_F(PageLayouts, title_of_a_list_never_saved_is_the_word_alone) {
 
     print_list({}, 1);
 
-    EXPECT_THAT(paper_.texts, ElementsAre(PrintedText{1, 600, 800, 12, QStringLiteral(" szószedet")}));
+    EXPECT_THAT(paper_.texts, ElementsAre(PrintedText{1, 600, 800, 12, u" szószedet"_s}));
 }
 
 TEST_F(PageLayouts, title_has_twelve_points_whatever_size_is_chosen) {
@@ -69,8 +70,7 @@ TEST_F(PageLayouts, title_has_twelve_points_whatever_size_is_chosen) {
 
     print_list(numbered_pairs(1), 1);
 
-    EXPECT_THAT(paper_.orders, ElementsAre(QStringLiteral("size 50"), QStringLiteral("size 12"),
-                                           QStringLiteral("size 50"), QStringLiteral("end")));
+    EXPECT_THAT(paper_.orders, ElementsAre(u"size 50"_s, u"size 12"_s, u"size 50"_s, u"end"_s));
     ASSERT_EQ(paper_.texts.size(), 2);
     EXPECT_EQ(paper_.texts[0].points, 12);
     // The title ends at 1040, and an empty line of 50 points is 1000 high. "word0" is 2500 wide, half of "  -  " 1250.
@@ -115,7 +115,7 @@ TEST_F(PageLayouts, seven_pairs_in_landscape_take_the_turned_page) {
     print_list(numbered_pairs(7), 2, Orientation::landscape);
 
     ASSERT_EQ(paper_.texts.size(), 8);
-    EXPECT_EQ(paper_.texts[0], (PrintedText{1, 800, 600, 12, QStringLiteral("/lists/állatok.szs szószedet")}));
+    EXPECT_EQ(paper_.texts[0], (PrintedText{1, 800, 600, 12, u"/lists/állatok.szs szószedet"_s}));
     const double rows_y[] = {1120, 1680, 2240, 2800};
     for (int i = 0; i < 7; ++i) {
         const PrintedText &one = paper_.texts[i + 1];
@@ -235,7 +235,7 @@ TEST_F(PageLayouts, title_is_not_repeated_on_the_other_pages) {
 TEST_F(PageLayouts, english_word_wider_than_its_space_starts_left_of_the_page_edge) {
     const QString wide(60, u'w');  // 8400 wide; the axis is at 6000
 
-    print_list({{wide, QStringLiteral("széles")}}, 1);
+    print_list({{wide, u"széles"_s}}, 1);
 
     EXPECT_EQ(rows().front().x, 6000 - 350 - 8400);
 }
@@ -243,7 +243,7 @@ TEST_F(PageLayouts, english_word_wider_than_its_space_starts_left_of_the_page_ed
 TEST_F(PageLayouts, list_keeps_the_orientation_that_is_set) {
     print_list(numbered_pairs(7), 1, Orientation::landscape);
 
-    EXPECT_THAT(paper_.orders, testing::Not(testing::Contains(QStringLiteral("portrait"))));
+    EXPECT_THAT(paper_.orders, testing::Not(testing::Contains(u"portrait"_s)));
     EXPECT_FALSE(paper_.portrait());
 }
 
@@ -270,9 +270,8 @@ TEST_F(PageLayouts, two_pairs_take_a_page_each_in_the_size_of_the_widest) {
     // "longer  -  hosszabb" has 19 letters: 75 points make 14250, 76 would make 14440. "a  -  b" is then 5250 wide.
     print(nyomtatástípus::szópárok, pairs_of({{u"a", u"b"}, {u"longer", u"hosszabb"}}));
 
-    EXPECT_THAT(paper_.texts,
-                ElementsAre(PrintedText{1, 8000 - 2625, 6000 - 750, 75, QStringLiteral("a  -  b")},
-                            PrintedText{2, 8000 - 7125, 6000 - 750, 75, QStringLiteral("longer  -  hosszabb")}));
+    EXPECT_THAT(paper_.texts, ElementsAre(PrintedText{1, 8000 - 2625, 6000 - 750, 75, u"a  -  b"_s},
+                                          PrintedText{2, 8000 - 7125, 6000 - 750, 75, u"longer  -  hosszabb"_s}));
     EXPECT_EQ(paper_.pages, 2);
 }
 
@@ -312,7 +311,7 @@ TEST_F(PageLayouts, size_stops_when_the_text_is_higher_than_nine_tenths_of_the_p
 TEST_F(PageLayouts, very_long_line_lowers_the_size_of_all_pages_to_ten_points_at_least) {
     const QString endless(300, u'x');  // 30000 wide in 10 points
 
-    print(nyomtatástípus::szópárok, {{QStringLiteral("a"), QStringLiteral("b")}, {endless, QStringLiteral("c")}});
+    print(nyomtatástípus::szópárok, {{u"a"_s, u"b"_s}, {endless, u"c"_s}});
 
     ASSERT_EQ(paper_.texts.size(), 2);
     EXPECT_EQ(paper_.texts[0].points, 10);
@@ -323,7 +322,7 @@ TEST_F(PageLayouts, very_long_line_lowers_the_size_of_all_pages_to_ten_points_at
 TEST_F(PageLayouts, size_search_goes_up_from_ten_and_one_step_back) {
     print(nyomtatástípus::szókártyák, {{QString(120, u'x'), QString()}});  // 12 points are 14400 wide
 
-    EXPECT_EQ(paper_.orders.mid(0, 5).join(u' '), QStringLiteral("landscape size 10 size 11 size 12 size 11"));
+    EXPECT_EQ(paper_.orders.mid(0, 5).join(u' '), u"landscape size 10 size 11 size 12 size 11"_s);
 }
 
 TEST_F(PageLayouts, widest_text_is_sought_in_the_size_that_was_set) {
@@ -373,10 +372,10 @@ TEST_F(PageLayouts, cards_of_two_pairs_are_five_pages_of_which_the_last_is_blank
     // "horse" has 5 letters: 287 points make 14350, 288 would make 14400.
     print(nyomtatástípus::szókártyák, pairs_of({{u"dog", u"eb"}, {u"horse", u"ló"}}));
 
-    EXPECT_THAT(paper_.texts, ElementsAre(PrintedText{1, 8000 - 4305, 6000 - 2870, 287, QStringLiteral("dog")},
-                                          PrintedText{2, 8000 - 2870, 6000 - 2870, 287, QStringLiteral("eb")},
-                                          PrintedText{3, 8000 - 7175, 6000 - 2870, 287, QStringLiteral("horse")},
-                                          PrintedText{4, 8000 - 2870, 6000 - 2870, 287, QStringLiteral("ló")},
+    EXPECT_THAT(paper_.texts, ElementsAre(PrintedText{1, 8000 - 4305, 6000 - 2870, 287, u"dog"_s},
+                                          PrintedText{2, 8000 - 2870, 6000 - 2870, 287, u"eb"_s},
+                                          PrintedText{3, 8000 - 7175, 6000 - 2870, 287, u"horse"_s},
+                                          PrintedText{4, 8000 - 2870, 6000 - 2870, 287, u"ló"_s},
                                           PrintedText{5, 8000, 6000 - 2870, 287, QString()}));
     EXPECT_EQ(paper_.pages, 5);
     EXPECT_TRUE(paper_.ended);
@@ -393,8 +392,7 @@ TEST_F(PageLayouts, cards_come_in_the_order_english_hungarian_for_one_seven_and_
         EXPECT_EQ(paper.pages, 2 * count + 1);
         ASSERT_EQ(paper.texts.size(), 2 * count + 1);
         for (int i = 0; i < count; ++i) {
-            for (const auto &[at, text] :
-                 {std::pair{2 * i, QStringLiteral("word%1").arg(i)}, {2 * i + 1, QStringLiteral("szó%1").arg(i)}}) {
+            for (const auto &[at, text] : {std::pair{2 * i, u"word%1"_s.arg(i)}, {2 * i + 1, u"szó%1"_s.arg(i)}}) {
                 const double width = 10 * points * static_cast<double>(text.size());
                 EXPECT_EQ(paper.texts[at], (PrintedText{at + 1, 8000 - width / 2, 6000 - 10 * points, points, text}));
             }

@@ -4,6 +4,8 @@
 
 #include "support/recording_printer.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 
 namespace {
@@ -32,16 +34,16 @@ TEST_F(PagePrinterPlace, begins_in_the_corner_of_the_first_page) {
 }
 
 TEST_F(PagePrinterPlace, moves_to_the_right_of_a_text_that_does_not_end_the_line) {
-    printer_.print(QStringLiteral("abc"));
+    printer_.print(u"abc"_s);
     expect_at(1300, 5000);
 
-    printer_.print(QStringLiteral("d"));
-    EXPECT_THAT(printer_.texts, ElementsAre(PrintedText{1, 1000, 5000, 10, QStringLiteral("abc")},
-                                            PrintedText{1, 1300, 5000, 10, QStringLiteral("d")}));
+    printer_.print(u"d"_s);
+    EXPECT_THAT(printer_.texts,
+                ElementsAre(PrintedText{1, 1000, 5000, 10, u"abc"_s}, PrintedText{1, 1300, 5000, 10, u"d"_s}));
 }
 
 TEST_F(PagePrinterPlace, goes_to_the_left_edge_of_the_next_line_after_a_text_that_ends_it) {
-    printer_.print_line(QStringLiteral("abc"));
+    printer_.print_line(u"abc"_s);
 
     expect_at(0, 5200);
 }
@@ -53,7 +55,7 @@ TEST_F(PagePrinterPlace, moves_down_one_line_for_an_empty_one) {
 }
 
 TEST_F(PagePrinterPlace, moves_down_two_lines_when_an_open_line_is_followed_by_an_empty_one) {
-    printer_.print(QStringLiteral("abc"));
+    printer_.print(u"abc"_s);
     printer_.print_empty_line();
     expect_at(0, 5400);
 
@@ -62,14 +64,14 @@ TEST_F(PagePrinterPlace, moves_down_two_lines_when_an_open_line_is_followed_by_a
 }
 
 TEST_F(PagePrinterPlace, moves_down_one_empty_line_after_a_line_that_was_ended) {
-    printer_.print_line(QStringLiteral("abc"));
+    printer_.print_line(u"abc"_s);
     printer_.print_empty_line();
 
     expect_at(0, 5400);
 }
 
 TEST_F(PagePrinterPlace, goes_to_the_corner_of_a_new_page_on_which_no_line_is_open) {
-    printer_.print(QStringLiteral("abc"));
+    printer_.print(u"abc"_s);
 
     EXPECT_TRUE(printer_.new_page());
     expect_at(0, 0);

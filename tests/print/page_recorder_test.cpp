@@ -11,6 +11,8 @@
 #include "support/pdf_reader.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The rectangle of the dark dots of a picture.
@@ -38,9 +40,9 @@ QImage shown(const PageRecorder &pages, int page) {
 
 TEST(PageRecorder, shows_the_pages_that_are_printed) {
     for (const auto kind : {nyomtatástípus::szószedet, nyomtatástípus::szópárok, nyomtatástípus::szókártyák}) {
-        const nyomtatandó what{numbered_pairs(40), QStringLiteral("/lists/numbers.szs"), 26, 1};
+        const nyomtatandó what{numbered_pairs(40), u"/lists/numbers.szs"_s, 26, 1};
         const auto print = [&](PagePrinter &printer) {
-            printer.set_face({QStringLiteral("Liberation Serif"), true, true});
+            printer.set_face({u"Liberation Serif"_s, true, true});
             printer.set_font_size(26);
             EXPECT_EQ(nyomtat(printer, kind, what, [](int, int) { return true; }), nyomtatásvége::kész);
         };
@@ -51,14 +53,13 @@ TEST(PageRecorder, shows_the_pages_that_are_printed) {
         print(recorder);
 
         const QTemporaryDir root;
-        const QString file = root.filePath(QStringLiteral("out.pdf"));
+        const QString file = root.filePath(u"out.pdf"_s);
         write_file(file, document.bytes());
-        ASSERT_EQ(QString::number(recorder.page_count()), pdf_info(file, QStringLiteral("Pages")));
+        ASSERT_EQ(QString::number(recorder.page_count()), pdf_info(file, u"Pages"_s));
         for (int page = 0; page < std::min(3, recorder.page_count()); ++page) {
             const QString number = QString::number(page + 1);
-            const QImage printed = QImage::fromData(output_of(
-                QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-png"),
-                                             QStringLiteral("-f"), number, QStringLiteral("-l"), number, file}));
+            const QImage printed = QImage::fromData(
+                output_of(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-png"_s, u"-f"_s, number, u"-l"_s, number, file}));
             const QImage seen = shown(recorder, page);
             ASSERT_EQ(seen.size(), printed.size());
             const QRect of_printed = ink(printed);
@@ -76,7 +77,7 @@ TEST(PageRecorder, has_the_blank_pages_too) {
     PdfDocument measure{QString()};
     PageRecorder recorder(measure.device());
     ASSERT_TRUE(recorder.new_page());
-    recorder.print(QStringLiteral("second"));
+    recorder.print(u"second"_s);
     ASSERT_TRUE(recorder.new_page());
     ASSERT_TRUE(recorder.end_document());
 

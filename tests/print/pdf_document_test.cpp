@@ -13,15 +13,17 @@
 #include "support/printing.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString serif = QStringLiteral("Liberation Serif");
+const QString serif = u"Liberation Serif"_s;
 constexpr double margin = 10;
 
 /// PDF documents, read by other programs. A line of Liberation Serif begins at the top of its letters' box.
 class PdfOutput : public testing::Test {
   protected:
-    [[nodiscard]] QString file() const { return root_.filePath(QStringLiteral("out.pdf")); }
+    [[nodiscard]] QString file() const { return root_.filePath(u"out.pdf"_s); }
 
     void write(PdfDocument &document) const {
         ASSERT_TRUE(document.printer().end_document());
@@ -29,13 +31,13 @@ class PdfOutput : public testing::Test {
     }
     void print(nyomtatástípus kind, const QVector<szópár> &pairs, int columns = 1,
                PagePrinter::Orientation orientation = PagePrinter::Orientation::portrait) const {
-        PdfDocument document(QStringLiteral("állatok"));
+        PdfDocument document(u"állatok"_s);
         document.printer().set_face({serif, false, false});
         document.printer().set_font_size(14);
         document.printer().set_orientation(orientation);
-        EXPECT_EQ(nyomtat(document.printer(), kind, {pairs, QStringLiteral("/állatok.szs"), 14, columns},
-                          [](int, int) { return true; }),
-                  nyomtatásvége::kész);
+        EXPECT_EQ(
+            nyomtat(document.printer(), kind, {pairs, u"/állatok.szs"_s, 14, columns}, [](int, int) { return true; }),
+            nyomtatásvége::kész);
         write_file(file(), document.bytes());
     }
 
@@ -43,17 +45,17 @@ class PdfOutput : public testing::Test {
 };
 
 TEST_F(PdfOutput, has_texts_where_they_were_put) {
-    PdfDocument document(QStringLiteral("title"));
+    PdfDocument document(u"title"_s);
     PagePrinter &printer = document.printer();
     printer.set_face({serif, false, false});
     printer.set_font_size(20);
     printer.set_x(1440);
     printer.set_y(2880);
-    printer.print_line(QStringLiteral("first"));
-    printer.print(QStringLiteral("second"));
+    printer.print_line(u"first"_s);
+    printer.print(u"second"_s);
     ASSERT_TRUE(printer.new_page());
     printer.set_x(5000);
-    printer.print(QStringLiteral("third"));
+    printer.print(u"third"_s);
     const double line = printer.text_height(QString()) / 20;
     write(document);
 
@@ -69,11 +71,11 @@ TEST_F(PdfOutput, has_texts_where_they_were_put) {
 }
 
 TEST_F(PdfOutput, has_texts_as_wide_as_they_were_measured) {
-    PdfDocument document(QStringLiteral("title"));
+    PdfDocument document(u"title"_s);
     document.printer().set_face({serif, true, false});
     document.printer().set_font_size(37);
-    document.printer().print(QStringLiteral("AVATAR-megkülönböztető"));
-    const double width = document.printer().text_width(QStringLiteral("AVATAR-megkülönböztető")) / 20;
+    document.printer().print(u"AVATAR-megkülönböztető"_s);
+    const double width = document.printer().text_width(u"AVATAR-megkülönböztető"_s) / 20;
     write(document);
 
     EXPECT_NEAR(pdf_words(file()).at(0).place.width(), width, 0.1);
@@ -88,22 +90,22 @@ TEST_F(PdfOutput, is_a4_less_ten_points_all_round_and_turned_in_landscape) {
     EXPECT_EQ(document.printer().page_width(), 822 * 20);
     EXPECT_EQ(document.printer().page_height(), 575 * 20);
     write(document);
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Page size")), QStringLiteral("842 x 595 pts (A4)"));
+    EXPECT_EQ(pdf_info(file(), u"Page size"_s), u"842 x 595 pts (A4)"_s);
 }
 
 TEST_F(PdfOutput, carries_its_title) {
-    PdfDocument document(QStringLiteral("Őszi űrhajók (2. rész)"));
-    document.printer().print(QStringLiteral("text"));
+    PdfDocument document(u"Őszi űrhajók (2. rész)"_s);
+    document.printer().print(u"text"_s);
     write(document);
 
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Title")), QStringLiteral("Őszi űrhajók (2. rész)"));
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Creator")), QStringLiteral("Zimbora"));
+    EXPECT_EQ(pdf_info(file(), u"Title"_s), u"Őszi űrhajók (2. rész)"_s);
+    EXPECT_EQ(pdf_info(file(), u"Creator"_s), u"Zimbora"_s);
 }
 
 TEST_F(PdfOutput, is_searched_and_copied_letter_by_letter_and_has_its_fonts_in_it) {
-    const QString text = QStringLiteral("árvíztűrő tükörfúrógép ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP office fiú flotta affix");
-    for (const QString &name : {serif, QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Serif"),
-                                QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Mono")}) {
+    const QString text = u"árvíztűrő tükörfúrógép ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP office fiú flotta affix"_s;
+    for (const QString &name :
+         {serif, u"Liberation Sans"_s, u"DejaVu Serif"_s, u"DejaVu Sans"_s, u"Liberation Mono"_s}) {
         for (const auto &[bold, italic] : {std::pair{false, false}, {true, false}, {false, true}, {true, true}}) {
             PdfDocument document{QString()};
             document.printer().set_face({name, bold, italic});
@@ -121,17 +123,17 @@ TEST_F(PdfOutput, keeps_letters_that_its_font_lacks) {
     PdfDocument document{QString()};
     document.printer().set_face({serif, false, false});
     document.printer().set_font_size(20);
-    document.printer().print(QStringLiteral("ə ʃ ŋ → ☎"));
+    document.printer().print(u"ə ʃ ŋ → ☎"_s);
     write(document);
 
-    EXPECT_EQ(pdf_text(file()).remove(u' ').trimmed(), QStringLiteral("əʃŋ→☎"));
+    EXPECT_EQ(pdf_text(file()).remove(u' ').trimmed(), u"əʃŋ→☎"_s);
 }
 
 TEST_F(PdfOutput, of_a_document_without_text_is_one_blank_page) {
     PdfDocument document{QString()};
     write(document);
 
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Pages")), QStringLiteral("1"));
+    EXPECT_EQ(pdf_info(file(), u"Pages"_s), u"1"_s);
     EXPECT_TRUE(pdf_words(file()).isEmpty());
 }
 
@@ -175,7 +177,7 @@ TEST_F(PdfOutput, of_five_hundred_pairs_breaks_its_pages_at_95_percent) {
     expected.append(QList<int>(19, 24));
     expected.append(500 - 23 - 19 * 24);
     EXPECT_EQ(rows, expected);
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Pages")), QStringLiteral("21"));
+    EXPECT_EQ(pdf_info(file(), u"Pages"_s), u"21"_s);
 }
 
 TEST_F(PdfOutput, of_cards_has_each_in_the_middle_of_a_turned_page_and_a_blank_one_at_the_end) {
@@ -183,8 +185,7 @@ TEST_F(PdfOutput, of_cards_has_each_in_the_middle_of_a_turned_page_and_a_blank_o
 
     const QList<PdfWord> words = pdf_words(file());
     ASSERT_EQ(words.size(), 4);
-    const QStringList texts{QStringLiteral("deer"), QStringLiteral("őz"), QStringLiteral("spaceship"),
-                            QStringLiteral("űrhajó")};
+    const QStringList texts{u"deer"_s, u"őz"_s, u"spaceship"_s, u"űrhajó"_s};
     for (int i = 0; i < 4; ++i) {
         EXPECT_EQ(words[i].page, i + 1);
         EXPECT_EQ(words[i].text, texts[i]);
@@ -193,28 +194,28 @@ TEST_F(PdfOutput, of_cards_has_each_in_the_middle_of_a_turned_page_and_a_blank_o
     }
     EXPECT_LT(words[2].place.width(), 0.9 * 822);
     EXPECT_GT(words[2].place.width(), 0.89 * 822);
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Pages")), QStringLiteral("5"));
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Page size")), QStringLiteral("842 x 595 pts (A4)"));
+    EXPECT_EQ(pdf_info(file(), u"Pages"_s), u"5"_s);
+    EXPECT_EQ(pdf_info(file(), u"Page size"_s), u"842 x 595 pts (A4)"_s);
 }
 
 TEST_F(PdfOutput, of_pairs_takes_landscape_whatever_is_chosen_and_the_list_what_is_chosen) {
     print(nyomtatástípus::szópárok, numbered_pairs(3));
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Page size")), QStringLiteral("842 x 595 pts (A4)"));
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Pages")), QStringLiteral("3"));
+    EXPECT_EQ(pdf_info(file(), u"Page size"_s), u"842 x 595 pts (A4)"_s);
+    EXPECT_EQ(pdf_info(file(), u"Pages"_s), u"3"_s);
 
     print(nyomtatástípus::szószedet, numbered_pairs(3));
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Page size")), QStringLiteral("595 x 842 pts (A4)"));
+    EXPECT_EQ(pdf_info(file(), u"Page size"_s), u"595 x 842 pts (A4)"_s);
     print(nyomtatástípus::szószedet, numbered_pairs(3), 1, PagePrinter::Orientation::landscape);
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Page size")), QStringLiteral("842 x 595 pts (A4)"));
+    EXPECT_EQ(pdf_info(file(), u"Page size"_s), u"842 x 595 pts (A4)"_s);
 }
 
 // Devices that fail, and the toolkit's own printer.
 
 TEST_F(PdfOutput, of_a_device_that_cannot_be_opened_fails) {
-    QPdfWriter writer(root_.filePath(QStringLiteral("nowhere/out.pdf")));
+    QPdfWriter writer(root_.filePath(u"nowhere/out.pdf"_s));
     DevicePrinter printer(writer);
 
-    printer.print(QStringLiteral("text"));
+    printer.print(u"text"_s);
     EXPECT_FALSE(printer.new_page());
     EXPECT_FALSE(printer.end_document());
 }
@@ -230,7 +231,7 @@ TEST_F(PdfOutput, of_the_toolkits_printer_has_texts_where_they_were_put) {
     EXPECT_EQ(job.printer().page_width(), 535 * 20);
     job.printer().set_x(1440);
     job.printer().set_y(2880);
-    job.printer().print(QStringLiteral("text"));
+    job.printer().print(u"text"_s);
 
     EXPECT_TRUE(job.printer().end_document());
     EXPECT_EQ(job.hand_over(), std::nullopt);
@@ -243,14 +244,14 @@ TEST_F(PdfOutput, of_the_toolkits_printer_has_texts_where_they_were_put) {
 TEST_F(PdfOutput, of_the_toolkits_printer_tells_of_its_failure) {
     auto device = std::make_unique<QPrinter>(QPrinter::HighResolution);
     device->setOutputFormat(QPrinter::PdfFormat);
-    device->setOutputFileName(root_.filePath(QStringLiteral("nowhere/out.pdf")));
+    device->setOutputFileName(root_.filePath(u"nowhere/out.pdf"_s));
     DrawnJob job(std::move(device));
-    job.printer().print(QStringLiteral("text"));
+    job.printer().print(u"text"_s);
 
     EXPECT_TRUE(job.printer().end_document());
     const auto failure = job.hand_over();
     ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->sentence.endsWith(QStringLiteral("nem sikerült nyomtatni: a nyomtató hibát jelzett.")));
+    EXPECT_TRUE(failure->sentence.endsWith(u"nem sikerült nyomtatni: a nyomtató hibát jelzett."_s));
 }
 
 TEST_F(PdfOutput, of_the_toolkits_printer_begins_when_the_document_is_whole) {
@@ -265,13 +266,13 @@ TEST_F(PdfOutput, of_the_toolkits_printer_begins_when_the_document_is_whole) {
     EXPECT_FALSE(QFile::exists(file()));
 
     EXPECT_EQ(job.hand_over(), std::nullopt);
-    EXPECT_EQ(pdf_info(file(), QStringLiteral("Pages")), QStringLiteral("5"));
+    EXPECT_EQ(pdf_info(file(), u"Pages"_s), u"5"_s);
 }
 
 TEST_F(PdfOutput, that_is_never_handed_over_leaves_no_file) {
     {
-        PdfJob job(file(), QStringLiteral("title"));
-        job.printer().print(QStringLiteral("text"));
+        PdfJob job(file(), u"title"_s);
+        job.printer().print(u"text"_s);
         EXPECT_TRUE(job.printer().end_document());
     }
 

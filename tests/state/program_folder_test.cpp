@@ -3,6 +3,8 @@
 #include "support/odd_files.h"
 #include "support/program_folder_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST_F(ProgramFolder, is_what_the_environment_names_before_all_else) {
@@ -33,21 +35,21 @@ TEST_F(ProgramFolder, is_the_folder_of_the_executable_where_an_installation_is_o
 }
 
 TEST_F(ProgramFolder, is_made_with_a_copy_of_the_help_beside_it) {
-    QDir(root_.path()).mkpath(QStringLiteral("share/help"));
+    QDir(root_.path()).mkpath(u"share/help"_s);
     write_file(place("share/help/Kavaro súgó.mht"), "help");
 
     const QString folder = find_program_folder(started_from("other"));
 
-    const QString copy = folder + QStringLiteral("kavaro/help/Kavaro súgó.mht");
+    const QString copy = folder + u"kavaro/help/Kavaro súgó.mht"_s;
     EXPECT_EQ(read_file(copy), "help");
     EXPECT_FALSE(QFileInfo(copy).isSymLink());
 }
 
 TEST_F(ProgramFolder, copies_the_help_again_after_an_update_and_only_then) {
-    QDir(root_.path()).mkpath(QStringLiteral("share/help"));
+    QDir(root_.path()).mkpath(u"share/help"_s);
     const QString installed = place("share/help/Kavaro súgó.mht");
     write_file(installed, "old");
-    const QString copy = find_program_folder(started_from("other")) + QStringLiteral("kavaro/help/Kavaro súgó.mht");
+    const QString copy = find_program_folder(started_from("other")) + u"kavaro/help/Kavaro súgó.mht"_s;
 
     const QDateTime copied = QFileInfo(copy).lastModified();
     static_cast<void>(find_program_folder(started_from("other")));
@@ -63,11 +65,11 @@ TEST_F(ProgramFolder, is_made_with_copies_of_the_sounds_the_music_and_the_initia
 
     const QString folder = find_program_folder(started_from("other"));
 
-    EXPECT_EQ(read_file(folder + QStringLiteral("/hangok/csengő.wav")), "bell");
-    EXPECT_EQ(read_file(folder + QStringLiteral("/hangok/mély duda.wav")), "horn");
-    EXPECT_EQ(read_file(folder + QStringLiteral("/zenemid/Érik a szőlő.mid")), "song");
-    EXPECT_EQ(read_file(folder + QStringLiteral("/kavaro/zenebeáll.ini")), " 0\r\n");
-    EXPECT_FALSE(QFileInfo(folder + QStringLiteral("/hangok/csengő.wav")).isSymLink());
+    EXPECT_EQ(read_file(folder + u"/hangok/csengő.wav"_s), "bell");
+    EXPECT_EQ(read_file(folder + u"/hangok/mély duda.wav"_s), "horn");
+    EXPECT_EQ(read_file(folder + u"/zenemid/Érik a szőlő.mid"_s), "song");
+    EXPECT_EQ(read_file(folder + u"/kavaro/zenebeáll.ini"_s), " 0\r\n");
+    EXPECT_FALSE(QFileInfo(folder + u"/hangok/csengő.wav"_s).isSymLink());
 }
 
 TEST_F(ProgramFolder, has_copies_in_folders_that_are_as_open_as_itself_and_nothing_else_beside_them) {
@@ -76,7 +78,7 @@ TEST_F(ProgramFolder, has_copies_in_folders_that_are_as_open_as_itself_and_nothi
     const QString folder = find_program_folder(started_from("other"));
 
     EXPECT_EQ(names_in("documents/Zimbora"), "hangok, kavaro, zenemid");
-    EXPECT_EQ(QFile::permissions(folder + QStringLiteral("/hangok")), QFile::permissions(folder));
+    EXPECT_EQ(QFile::permissions(folder + u"/hangok"_s), QFile::permissions(folder));
 }
 
 TEST_F(ProgramFolder, is_made_with_the_silence_where_its_name_directly_follows_the_folders) {
@@ -84,13 +86,13 @@ TEST_F(ProgramFolder, is_made_with_the_silence_where_its_name_directly_follows_t
 
     const QString folder = find_program_folder(started_from("other"));
 
-    EXPECT_EQ(read_file(folder + QStringLiteral("null.wav")), "silence");
+    EXPECT_EQ(read_file(folder + u"null.wav"_s), "silence");
     EXPECT_EQ(read_file(place("documents/Zimboranull.wav")), "silence");
 }
 
 TEST_F(ProgramFolder, gets_the_silence_back_when_it_is_gone) {
     install_sounds_and_music();
-    const QString silence = find_program_folder(started_from("other")) + QStringLiteral("null.wav");
+    const QString silence = find_program_folder(started_from("other")) + u"null.wav"_s;
     QFile::remove(silence);
 
     static_cast<void>(find_program_folder(started_from("other")));
@@ -100,7 +102,7 @@ TEST_F(ProgramFolder, gets_the_silence_back_when_it_is_gone) {
 
 TEST_F(ProgramFolder, does_not_get_a_sound_back_that_the_user_has_deleted) {
     install_sounds_and_music();
-    QFile::remove(find_program_folder(started_from("other")) + QStringLiteral("/hangok/csengő.wav"));
+    QFile::remove(find_program_folder(started_from("other")) + u"/hangok/csengő.wav"_s);
 
     static_cast<void>(find_program_folder(started_from("other")));
 
@@ -109,7 +111,7 @@ TEST_F(ProgramFolder, does_not_get_a_sound_back_that_the_user_has_deleted) {
 
 TEST_F(ProgramFolder, does_not_get_the_sounds_back_when_the_user_has_deleted_them_all) {
     install_sounds_and_music();
-    const QDir sounds(find_program_folder(started_from("other")) + QStringLiteral("/hangok"));
+    const QDir sounds(find_program_folder(started_from("other")) + u"/hangok"_s);
     for (const QString &name : sounds.entryList(QDir::Files))
         QFile::remove(sounds.filePath(name));
 
@@ -120,7 +122,7 @@ TEST_F(ProgramFolder, does_not_get_the_sounds_back_when_the_user_has_deleted_the
 
 TEST_F(ProgramFolder, keeps_the_users_settings_and_gets_only_the_folders_that_it_lacks) {
     install_sounds_and_music();
-    QDir(root_.path()).mkpath(QStringLiteral("documents/Zimbora/kavaro"));
+    QDir(root_.path()).mkpath(u"documents/Zimbora/kavaro"_s);
     write_file(place("documents/Zimbora/kavaro/zenebeáll.ini"), " 1\r\n");
 
     static_cast<void>(find_program_folder(started_from("other")));
@@ -131,7 +133,7 @@ TEST_F(ProgramFolder, keeps_the_users_settings_and_gets_only_the_folders_that_it
 
 TEST_F(ProgramFolder, has_no_sounds_where_none_are_installed_and_gets_them_when_they_are) {
     make_installed("am.txt", "dictionary");
-    QDir(root_.path()).mkpath(QStringLiteral("share/hangok"));
+    QDir(root_.path()).mkpath(u"share/hangok"_s);
     static_cast<void>(find_program_folder(started_from("other")));
     EXPECT_EQ(names_in("documents/Zimbora"), "am.txt");
 
@@ -159,9 +161,9 @@ TEST_F(ProgramFolder, has_no_sounds_rather_than_half_of_them) {
 
 TEST_F(ProgramFolder, is_filled_anew_when_the_first_copy_was_interrupted) {
     install_sounds_and_music();
-    QDir(root_.path()).mkpath(QStringLiteral("documents/Zimbora/.hangok-a1B2c3"));
+    QDir(root_.path()).mkpath(u"documents/Zimbora/.hangok-a1B2c3"_s);
     const QString half = place("documents/Zimbora/.hangok-a1B2c3");
-    write_file(half + QStringLiteral("/csengő.wav"), "bell");
+    write_file(half + u"/csengő.wav"_s, "bell");
     set_folder_time(half, QDateTime::currentDateTime().addSecs(-2 * 3600));
 
     static_cast<void>(find_program_folder(started_from("other")));
@@ -172,7 +174,7 @@ TEST_F(ProgramFolder, is_filled_anew_when_the_first_copy_was_interrupted) {
 
 TEST_F(ProgramFolder, leaves_the_copy_alone_that_another_start_is_making) {
     install_sounds_and_music();
-    QDir(root_.path()).mkpath(QStringLiteral("documents/Zimbora/.hangok-a1B2c3"));
+    QDir(root_.path()).mkpath(u"documents/Zimbora/.hangok-a1B2c3"_s);
 
     static_cast<void>(find_program_folder(started_from("other")));
 
@@ -190,7 +192,7 @@ TEST_F(ProgramFolder, is_returned_without_sounds_where_it_cannot_be_made) {
 
 TEST_F(ProgramFolder, leaves_a_file_alone_that_stands_where_its_sounds_would) {
     install_sounds_and_music();
-    QDir(root_.path()).mkpath(QStringLiteral("documents/Zimbora"));
+    QDir(root_.path()).mkpath(u"documents/Zimbora"_s);
     write_file(place("documents/Zimbora/hangok"), "a file");
 
     static_cast<void>(find_program_folder(started_from("other")));

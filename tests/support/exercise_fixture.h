@@ -19,6 +19,8 @@
 #include "support/window_checks.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 /// A word list that a test fills.
 class WordListForTests final : public szószedetolvasó {
   public:
@@ -31,7 +33,7 @@ class WordListForTests final : public szószedetolvasó {
 inline QString long_text() {
     QString text;
     while (text.size() < 200)
-        text += QStringLiteral("megkülönböztető jegy, ");
+        text += u"megkülönböztető jegy, "_s;
     return text.left(199) + u'x';
 }
 
@@ -50,7 +52,7 @@ class ExerciseTest : public testing::Test {
     };
 
     ExerciseTest() {
-        reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
         main_window_.háttérszínbeállít(Qt::cyan);
     }
 
@@ -90,14 +92,14 @@ class ExerciseTest : public testing::Test {
         return control<PictureBox>(window, name)->property("tag").toString();
     }
 
-    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
     QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     frm_referencia reference_;
-    ablak main_window_{QStringLiteral("szótár")};
+    ablak main_window_{u"szótár"_s};
     Module_hasznos fitting_{reference_, [this] { return screen_; }};
     WordListForTests list_;
     SeededRandom random_;
-    global::beállítástár settings_{root_.filePath(QStringLiteral("settings.ini"))};
+    global::beállítástár settings_{root_.filePath(u"settings.ini"_s)};
     FakeMessageBoxes boxes_;
     QList<Message> messages_;
     /// Called while a message would be open.

@@ -9,6 +9,8 @@
 
 #include "platform/dialogs.h"
 
+using namespace Qt::StringLiterals;
+
 /// Message boxes that note what they were told and answer from a list. A question beyond the list is answered with
 /// cancel (or no), and the note makes a test that did not expect it fail.
 class FakeMessageBoxes final : public MessageBoxes {
@@ -23,11 +25,11 @@ class FakeMessageBoxes final : public MessageBoxes {
     void tell(const QString &text) override { told.append(text); }
 
     Answer ask_yes_no(const QString &title, const QString &text) override {
-        return answer(title + u'|' + text + QStringLiteral("|yes no"), Answer::no);
+        return answer(title + u'|' + text + u"|yes no"_s, Answer::no);
     }
 
     Answer ask_yes_no_cancel(const QString &title, const QString &text) override {
-        return answer(title + u'|' + text + QStringLiteral("|yes no cancel"), Answer::cancel);
+        return answer(title + u'|' + text + u"|yes no cancel"_s, Answer::cancel);
     }
 
     void beep() override { ++beeps; }

@@ -9,6 +9,8 @@
 
 #include "lookup/widgets/large_window.h"
 
+using namespace Qt::StringLiterals;
+
 /// A main window without a window: it finds the entries that begin with the searched text and notes what is asked of
 /// it, one call a line.
 class FakeLargeWindow final : public nagyablak {
@@ -49,7 +51,7 @@ class FakeLargeWindow final : public nagyablak {
         act(text);
     }
     void Ok_Click() override {
-        calls.append(QStringLiteral("Ok_Click"));
+        calls.append(u"Ok_Click"_s);
         search();
     }
 
@@ -61,31 +63,31 @@ class FakeLargeWindow final : public nagyablak {
     }
     [[nodiscard]] int szólist_kijelölt() const override { return selected_; }
     void szólist_kijelöl(int index) override {
-        calls.append(QStringLiteral("hit %1").arg(index));
+        calls.append(u"hit %1"_s.arg(index));
         selected_ = index;
     }
     [[nodiscard]] QStringList magyarlist_elemei() const override {
         return selected_ < 0 ? QStringList() : hits_[selected_].meanings;
     }
-    void magyarlist_kijelöl(int index) override { calls.append(QStringLiteral("meaning %1").arg(index)); }
-    void magyarlist_DblClick() override { calls.append(QStringLiteral("magyarlist_DblClick")); }
-    void hozzáad_Click() override { calls.append(QStringLiteral("hozzáad_Click")); }
+    void magyarlist_kijelöl(int index) override { calls.append(u"meaning %1"_s.arg(index)); }
+    void magyarlist_DblClick() override { calls.append(u"magyarlist_DblClick"_s); }
+    void hozzáad_Click() override { calls.append(u"hozzáad_Click"_s); }
 
     [[nodiscard]] bool angolról() const override { return from_english; }
     [[nodiscard]] QRectF helye() const override { return place; }
     void visszatér(const QPointF &middle) override {
-        calls.append(QStringLiteral("visszatér"));
+        calls.append(u"visszatér"_s);
         came_back_at = middle;
         when_left();
     }
     void kilép_Click() override {
-        calls.append(QStringLiteral("kilép_Click"));
+        calls.append(u"kilép_Click"_s);
         when_left();
     }
     [[nodiscard]] bool vége() const override { return ends; }
 
   private:
-    static inline const QString typed = QStringLiteral("typed ");
+    static inline const QString typed = u"typed "_s;
 
     /// Selects the exact hit, else the first, as the dictionary does.
     void search() {

@@ -7,6 +7,8 @@
 
 #include "platform/multimedia_commands.h"
 
+using namespace Qt::StringLiterals;
+
 /// A multimedia device that notes what it is told and makes no sound.
 class FakeMultimedia final : public MultimediaCommands {
   public:
@@ -22,7 +24,7 @@ class FakeMultimedia final : public MultimediaCommands {
     MultimediaAnswer send(const QString &command, int answer_length) override {
         sent.append(command + u'|' + QString::number(answer_length));
         meanwhile();
-        const bool asks = command.startsWith(QStringLiteral("Status "));
+        const bool asks = command.startsWith(u"Status "_s);
         return {code, asks && code == 0 ? mode : QString()};
     }
 

@@ -10,6 +10,8 @@
 #include "print/printers.h"
 #include "support/recording_printer.h"
 
+using namespace Qt::StringLiterals;
+
 /// What became of the documents of the fake printers.
 struct FakePrintJobs {
     /// Printer and title of each document that was begun.
@@ -51,7 +53,7 @@ class FakePrintJob final : public PrintJob {
         jobs_.pages = paper_.pages;
         return std::nullopt;
     }
-    Failure failure() const override { return {name_ + QStringLiteral(" failed")}; }
+    Failure failure() const override { return {name_ + u" failed"_s}; }
 
   private:
     FakePrintJobs &jobs_;
@@ -75,8 +77,7 @@ class FakePrinters final : public Printers {
   public:
     QStringList installed;
     /// Fonts of a printer; of one that is not named here, those of the empty name.
-    QHash<QString, QStringList> fonts_of{
-        {QString(), {QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Serif")}}};
+    QHash<QString, QStringList> fonts_of{{QString(), {u"DejaVu Sans"_s, u"Liberation Serif"_s}}};
     FakePrintJobs jobs;
     /// The page at which printers fail, counted from 1; 0 for the end of the document, −1 for never.
     int failing_page = -1;
@@ -91,7 +92,7 @@ class FakePrinters final : public Printers {
     }
     PrintJobResult print(const QString &printer, const QString &title) override {
         if (!installed.contains(printer))
-            return Failure{printer + QStringLiteral(" has vanished")};
+            return Failure{printer + u" has vanished"_s};
         return std::make_unique<FakePrintJob>(jobs, printer + u' ' + title, failing_page, refusal);
     }
     std::unique_ptr<PagePreview> preview(const QString &printer) override {

@@ -7,6 +7,8 @@
 
 #include "platform/linux/sound_player.h"
 
+using namespace Qt::StringLiterals;
+
 /// What became of the sounds of a fake player, which notes everything here because it is owned by the code under test.
 struct SoundNotes {
     /// In order: "wave a.wav opened", "midi b.mid played", "a.wav silenced".
@@ -28,10 +30,10 @@ struct SoundNotes {
 class FakeSound final : public Sound {
   public:
     FakeSound(SoundNotes &notes, QString path) : notes_(notes), path_(std::move(path)) {}
-    ~FakeSound() override { notes_.events.append(path_ + QStringLiteral(" silenced")); }
+    ~FakeSound() override { notes_.events.append(path_ + u" silenced"_s); }
 
     bool play() override {
-        notes_.events.append(path_ + QStringLiteral(" played"));
+        notes_.events.append(path_ + u" played"_s);
         played_ = notes_.playable;
         return played_;
     }
@@ -57,8 +59,7 @@ class FakeSoundPlayer final : public SoundPlayer {
     }
 
     [[nodiscard]] std::unique_ptr<Sound> open(SoundType type, const QString &path) override {
-        notes_.events.append((type == SoundType::wave ? QStringLiteral("wave ") : QStringLiteral("midi ")) + path +
-                             QStringLiteral(" opened"));
+        notes_.events.append((type == SoundType::wave ? u"wave "_s : u"midi "_s) + path + u" opened"_s);
         return notes_.readable ? std::make_unique<FakeSound>(notes_, path) : nullptr;
     }
 

@@ -10,6 +10,8 @@
 #include "support/printing.h"
 #include "ui/controls/file_list.h"
 
+using namespace Qt::StringLiterals;
+
 /// A list of the sounds of a folder of its own.
 class FileList : public testing::Test {
   protected:
@@ -29,8 +31,8 @@ class FileList : public testing::Test {
         return all;
     }
 
-    QTemporaryDir folder_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
-    FileListBox list_{QStringLiteral("*.wav")};
+    QTemporaryDir folder_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
+    FileListBox list_{u"*.wav"_s};
     QSignalSpy selected_{&list_, &ListBox::itemSelected};
     QSignalSpy deleted_{&list_, &FileListBox::deletePressed};
 };

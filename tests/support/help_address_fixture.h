@@ -9,6 +9,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 /// A program folder with a dictionary, and the help document beside it.
 class HelpAddress : public testing::Test {
   protected:
@@ -31,6 +33,6 @@ class HelpAddress : public testing::Test {
         return obstacle ? obstacle->sentence : QString();
     }
 
-    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
     súgócímek addresses_{path("program")};
 };

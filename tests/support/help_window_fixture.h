@@ -17,19 +17,21 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 /// A program folder of the test's own, with a help document, and the help viewer in front of it. Notes are collected,
 /// not shown.
 class HelpWindowTest : public testing::Test {
   protected:
     HelpWindowTest() {
-        reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
         main_window_.háttérszínbeállít(Qt::cyan);
         QDir().mkpath(program_);
-        QDir().mkpath(program_ + QStringLiteral("kavaro/help"));
+        QDir().mkpath(program_ + u"kavaro/help"_s);
     }
 
     /// The help document's real path.
-    [[nodiscard]] QString document() const { return program_ + QStringLiteral("kavaro/help/Kavaro súgó.mht"); }
+    [[nodiscard]] QString document() const { return program_ + u"kavaro/help/Kavaro súgó.mht"_s; }
 
     /// Loads the viewer, but does not show it.
     void load(WebBrowserFactory browser) {
@@ -73,12 +75,12 @@ class HelpWindowTest : public testing::Test {
         QTest::keyClick(address_box(), Qt::Key_Return);
     }
 
-    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
     /// Text of the program folder.
-    QString program_ = root_.filePath(QStringLiteral("program"));
+    QString program_ = root_.filePath(u"program"_s);
     QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     frm_referencia reference_;
-    ablak main_window_{QStringLiteral("szótár")};
+    ablak main_window_{u"szótár"_s};
     Module_hasznos fitting_{reference_, [this] { return screen_; }};
     FakeMessageBoxes boxes_;
     QStringList notes_;

@@ -5,6 +5,8 @@
 #include "exercises/letter_puzzle/widgets/letter_puzzle_window.h"
 #include "support/exercise_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 /// A letter puzzle, what is seen of it, and what a user does with it. Places and sizes are pixels of the frame.
 class LetterPuzzleTest : public ExerciseWindowTest<frm_kirakó, frm_kirakó_beáll> {
   protected:
@@ -12,16 +14,14 @@ class LetterPuzzleTest : public ExerciseWindowTest<frm_kirakó, frm_kirakó_beá
     void start(int pairs) { start(numbered_pairs(pairs)); }
 
     void store(const char *key, const QVariant &value) {
-        settings_.beállításment(ablak(QStringLiteral("frm_kirakó_beáll")), QString::fromUtf8(key), value);
+        settings_.beállításment(ablak(u"frm_kirakó_beáll"_s), QString::fromUtf8(key), value);
     }
 
     [[nodiscard]] ChoosablePicture *frame() const { return control<ChoosablePicture>(*window_, "pic_keret"); }
     [[nodiscard]] QString question() const { return shown(*window_, "pic_feladvány"); }
     [[nodiscard]] QString counter() const { return label(*window_, "Label_info"); }
 
-    [[nodiscard]] LetterTile *tile(int i) const {
-        return frame()->findChild<LetterTile *>(QStringLiteral("Label_betű(%1)").arg(i));
-    }
+    [[nodiscard]] LetterTile *tile(int i) const { return frame()->findChild<LetterTile *>(u"Label_betű(%1)"_s.arg(i)); }
     /// In the order of the answer.
     [[nodiscard]] QVector<LetterTile *> tiles() const {
         QVector<LetterTile *> all;
@@ -134,7 +134,6 @@ class LetterPuzzleTest : public ExerciseWindowTest<frm_kirakó, frm_kirakó_beá
         QTest::keyClick(window_->focusWidget() ? window_->focusWidget() : window_.get(), key, held);
     }
 
-    static inline const QStringList wrong_message{QStringLiteral("Ez sajnos nem jó!"), QStringLiteral(" "),
-                                                  QStringLiteral("Kérlek, próbáld újra!")};
-    static inline const QVector<szópár> grape{{QStringLiteral("grape"), QStringLiteral("szőlő")}};
+    static inline const QStringList wrong_message{u"Ez sajnos nem jó!"_s, u" "_s, u"Kérlek, próbáld újra!"_s};
+    static inline const QVector<szópár> grape{{u"grape"_s, u"szőlő"_s}};
 };

@@ -26,12 +26,14 @@
 #include "support/printing.h"
 #include "support/seeded_random.h"
 
+using namespace Qt::StringLiterals;
+
 /// A main window with fake dialogs, a drive C and a program folder of its own, and two small dictionaries.
 class MainWindowTest : public testing::Test {
   protected:
     MainWindowTest() {
-        QDir(root_.path()).mkpath(QStringLiteral("c"));
-        QDir(root_.path()).mkpath(QStringLiteral("angol"));
+        QDir(root_.path()).mkpath(u"c"_s);
+        QDir(root_.path()).mkpath(u"angol"_s);
         state_.programkönyvtár = place("angol");
         write_file(place("angol/am.txt"),
                    dictionary_of({"apple:alma\xf7"
@@ -115,7 +117,7 @@ class MainWindowTest : public testing::Test {
         return place(name);
     }
 
-    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
     QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     global::programállapot state_;
     frm_referencia reference_;

@@ -21,6 +21,8 @@
 #include "support/window_checks.h"
 #include "ui/controls/list_box.h"
 
+using namespace Qt::StringLiterals;
+
 /// A window of the sounds or the music, with a program folder and a drive C of its own, a device that notes what it is
 /// told, and message boxes that are noted, not shown.
 template <class Window>
@@ -30,7 +32,7 @@ class MediaWindowTest : public testing::Test {
         for (const char *folder : {"c", "program/hangok", "program/zenemid", "program/kavaro"})
             make_folder(folder);
         state_.programkönyvtár = place("program");
-        reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
         main_window_.háttérszínbeállít(Qt::cyan);
     }
 
@@ -118,11 +120,11 @@ class MediaWindowTest : public testing::Test {
         EXPECT_LE(taken + 4, button->width()) << button->objectName().toStdString();
     }
 
-    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
     QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     global::programállapot state_;
     frm_referencia reference_;
-    ablak main_window_{QStringLiteral("szótár")};
+    ablak main_window_{u"szótár"_s};
     Module_hasznos fitting_{reference_, [this] { return screen_; }};
     FakeMessageBoxes boxes_;
     FakeMultimedia multimedia_;

@@ -7,6 +7,8 @@
 #include "support/timers.h"
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 /// A memory game, what is seen of it, and what a user does with it. The steps of its animations follow each other
 /// without waiting.
 class MemoryTest : public ExerciseWindowTest<frm_memory, frm_memory_beáll> {
@@ -37,7 +39,7 @@ class MemoryTest : public ExerciseWindowTest<frm_memory, frm_memory_beáll> {
     }
 
     void store(const char *key, const QVariant &value) {
-        settings_.beállításment(ablak(QStringLiteral("frm_memory_beáll")), QString::fromUtf8(key), value);
+        settings_.beállításment(ablak(u"frm_memory_beáll"_s), QString::fromUtf8(key), value);
     }
 
     [[nodiscard]] QTimer *cover_timer() const { return control<QTimer>(*window_, "Timer_lefed"); }
@@ -46,7 +48,7 @@ class MemoryTest : public ExerciseWindowTest<frm_memory, frm_memory_beáll> {
     [[nodiscard]] QString progress() const { return label(*window_, "Label_info"); }
 
     [[nodiscard]] ChoosablePicture *card(int i) const {
-        return window_->findChild<ChoosablePicture *>(QStringLiteral("pic_kártya(%1)").arg(i));
+        return window_->findChild<ChoosablePicture *>(u"pic_kártya(%1)"_s.arg(i));
     }
     [[nodiscard]] QVector<ChoosablePicture *> cards() const {
         QVector<ChoosablePicture *> all;
@@ -94,7 +96,7 @@ class MemoryTest : public ExerciseWindowTest<frm_memory, frm_memory_beáll> {
     [[nodiscard]] bool belong_together(int a, int b) const {
         return std::any_of(list_.pairs.cbegin(), list_.pairs.cend(), [&](const szópár &pair) {
             const QString hungarian =
-                pair.magyar.isEmpty() ? QStringLiteral("Kéne írni ide valamit!") : pair.magyar.section(u',', 0, 0);
+                pair.magyar.isEmpty() ? u"Kéne írni ide valamit!"_s : pair.magyar.section(u',', 0, 0);
             return (text(a) == pair.angol && text(b) == hungarian) || (text(b) == pair.angol && text(a) == hungarian);
         });
     }

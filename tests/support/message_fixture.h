@@ -12,11 +12,13 @@
 #include "ui/window/reference_window.h"
 #include "ui/window/window_fitting.h"
 
+using namespace Qt::StringLiterals;
+
 /// What the small windows in front of the main window are given.
 class MessageTest : public testing::Test {
   protected:
     MessageTest() {
-        reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
         main_window_.háttérszínbeállít(Qt::cyan);
     }
 
@@ -45,6 +47,6 @@ class MessageTest : public testing::Test {
 
     QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     frm_referencia reference_;
-    ablak main_window_{QStringLiteral("szótár")};
+    ablak main_window_{u"szótár"_s};
     Module_hasznos fitting_{reference_, [this] { return screen_; }};
 };

@@ -18,14 +18,16 @@
 #include "support/printing.h"
 #include "support/timers.h"
 
+using namespace Qt::StringLiterals;
+
 /// A mini window beside a main window, a clipboard and a screen of the test's own. Time stands still: the test steps
 /// the glide and the timer.
 class MiniWindowTest : public testing::Test {
   protected:
     MiniWindowTest() {
-        large_.dictionary = {{QStringLiteral("alma"), {QStringLiteral("apple")}},
-                             {QStringLiteral("almafa"), {QStringLiteral("apple tree"), QStringLiteral("apple wood")}},
-                             {QStringLiteral("ház"), {QStringLiteral("house"), QStringLiteral("home")}}};
+        large_.dictionary = {{u"alma"_s, {u"apple"_s}},
+                             {u"almafa"_s, {u"apple tree"_s, u"apple wood"_s}},
+                             {u"ház"_s, {u"house"_s, u"home"_s}}};
         state_.kisablakbal = 1234;
         state_.kisablakfent = 2345;
         state_.kisablakmód = 1;
@@ -87,7 +89,7 @@ class MiniWindowTest : public testing::Test {
         tick();
     }
     void copy(const char *text) { copy(QString::fromUtf8(text)); }
-    void tick() { expire(*window_->findChild<QTimer *>(QStringLiteral("Timer1"))); }
+    void tick() { expire(*window_->findChild<QTimer *>(u"Timer1"_s)); }
 
     // The mouse, at a place on the screen in pixels.
     static void mouse(QWidget *on, QEvent::Type type, const QPoint &at, Qt::MouseButton button,

@@ -3,6 +3,8 @@
 #include "exercises/multiple_choice/widgets/multiple_choice_window.h"
 #include "support/exercise_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 /// A multiple choice, what is seen of it, and what a user does with it.
 class MultipleChoiceTest : public ExerciseWindowTest<választás, választás_beáll> {
   protected:
@@ -10,11 +12,11 @@ class MultipleChoiceTest : public ExerciseWindowTest<választás, választás_be
     void start(int pairs = 10) { start(numbered_pairs(pairs)); }
 
     void store(const char *key, const QVariant &value) {
-        settings_.beállításment(ablak(QStringLiteral("választás_beáll")), QString::fromUtf8(key), value);
+        settings_.beállításment(ablak(u"választás_beáll"_s), QString::fromUtf8(key), value);
     }
 
     [[nodiscard]] ChoosablePicture *candidate(int k) const {
-        return window_->findChild<ChoosablePicture *>(QStringLiteral("pic_kínálat(%1)").arg(k));
+        return window_->findChild<ChoosablePicture *>(u"pic_kínálat(%1)"_s.arg(k));
     }
     [[nodiscard]] ChoosablePicture *frame() const { return control<ChoosablePicture>(*window_, "pic_megoldás"); }
     [[nodiscard]] QTimer *timer() const { return control<QTimer>(*window_, "Timer1"); }

@@ -5,6 +5,8 @@
 #include "media/widgets/music_settings_window.h"
 #include "support/media_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 /// The settings window of the background music, over four MIDI files.
 class MusicSettingsTest : public MediaWindowTest<frm_zenebeáll> {
   protected:
@@ -14,7 +16,7 @@ class MusicSettingsTest : public MediaWindowTest<frm_zenebeáll> {
     }
 
     void put_piece(const QString &name) const { write_file(piece(name), "MThd"); }
-    [[nodiscard]] QString piece(const QString &name) const { return place(QStringLiteral("program/zenemid/") + name); }
+    [[nodiscard]] QString piece(const QString &name) const { return place(u"program/zenemid/"_s + name); }
 
     /// Writes the settings of this user.
     void store(const QByteArray &lines) const {
@@ -23,14 +25,13 @@ class MusicSettingsTest : public MediaWindowTest<frm_zenebeáll> {
     }
     /// Opens the window with a playlist in which nothing is selected and of which nothing has been heard.
     void start_with(const QStringList &playlist) {
-        store(" 1\r\n" + code_page::encode(playlist.join(QStringLiteral("\r\n"))).value() + "\r\n");
+        store(" 1\r\n" + code_page::encode(playlist.join(u"\r\n"_s)).value() + "\r\n");
         start();
     }
 
     /// The commands that start a piece while none is open.
     [[nodiscard]] QStringList start_of(const QString &name) const {
-        return {QStringLiteral("open \"%1\" type sequencer alias midi|0").arg(piece(name)),
-                QStringLiteral("play midi |0")};
+        return {u"open \"%1\" type sequencer alias midi|0"_s.arg(piece(name)), u"play midi |0"_s};
     }
     /// The commands that start a piece after another.
     [[nodiscard]] QStringList change_to(const QString &name) const { return stop + start_of(name); }
@@ -44,9 +45,9 @@ class MusicSettingsTest : public MediaWindowTest<frm_zenebeáll> {
     static constexpr const char *down = "cmd_áthelyez(2)";
 
     // In the order in which the window lists them.
-    const QString aria = QStringLiteral("Aria.mid");
-    const QString dance = QStringLiteral("csárdás két lassúval.mid");
-    const QString march = QStringLiteral("induló.mid");
-    const QString waltz = QStringLiteral("keringő.mid");
-    const QStringList stop{QStringLiteral("close midi|0")};
+    const QString aria = u"Aria.mid"_s;
+    const QString dance = u"csárdás két lassúval.mid"_s;
+    const QString march = u"induló.mid"_s;
+    const QString waltz = u"keringő.mid"_s;
+    const QStringList stop{u"close midi|0"_s};
 };

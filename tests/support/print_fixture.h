@@ -22,6 +22,8 @@
 #include "support/window_checks.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 class PrintedListForTests final : public nyomtatottszószedet {
   public:
     QVector<szópár> pairs;
@@ -33,11 +35,11 @@ class PrintedListForTests final : public nyomtatottszószedet {
 class PrintTest : public testing::Test {
   protected:
     PrintTest() {
-        reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
         main_window_.háttérszínbeállít(Qt::cyan);
         list_.pairs = numbered_pairs(3);
         state_.programkönyvtár = root_.path();
-        printers_.installed = {QStringLiteral("First"), QStringLiteral("Second")};
+        printers_.installed = {u"First"_s, u"Second"_s};
     }
 
     void load() {
@@ -59,9 +61,7 @@ class PrintTest : public testing::Test {
     [[nodiscard]] QCheckBox *check(const char *name) const { return control<QCheckBox>(*window_, name); }
     [[nodiscard]] QRadioButton *option(const char *name) const { return control<QRadioButton>(*window_, name); }
     [[nodiscard]] QString label(const char *name) const { return control<QLabel>(*window_, name)->text(); }
-    [[nodiscard]] PictureBox *sample(int i) const {
-        return control<PictureBox>(*window_, QStringLiteral("pic_minta(%1)").arg(i));
-    }
+    [[nodiscard]] PictureBox *sample(int i) const { return control<PictureBox>(*window_, u"pic_minta(%1)"_s.arg(i)); }
     [[nodiscard]] static QStringList entries(const QComboBox *box) {
         QStringList all;
         for (int i = 0; i < box->count(); ++i)
@@ -84,12 +84,10 @@ class PrintTest : public testing::Test {
     }
 
     [[nodiscard]] QString stored(const char *key) const {
-        return settings_
-            .beállításolvas(ablak(QStringLiteral("frm_nyomtatás")), QString::fromUtf8(key), QStringLiteral("(nothing)"))
-            .toString();
+        return settings_.beállításolvas(ablak(u"frm_nyomtatás"_s), QString::fromUtf8(key), u"(nothing)"_s).toString();
     }
     void store(const char *key, const QVariant &value) {
-        settings_.beállításment(ablak(QStringLiteral("frm_nyomtatás")), QString::fromUtf8(key), value);
+        settings_.beállításment(ablak(u"frm_nyomtatás"_s), QString::fromUtf8(key), value);
     }
     /// The seven settings as they lie in the store.
     [[nodiscard]] QStringList all_stored() const {
@@ -98,29 +96,29 @@ class PrintTest : public testing::Test {
             all.append(stored(key));
         return all;
     }
-    [[nodiscard]] bool nothing_is_stored() const { return all_stored() == QStringList(7, QStringLiteral("(nothing)")); }
+    [[nodiscard]] bool nothing_is_stored() const { return all_stored() == QStringList(7, u"(nothing)"_s); }
 
     /// What the window shows of its settings.
     [[nodiscard]] QStringList shown() const {
         return {printers()->currentText(),
                 fonts()->currentText(),
-                check("Check_dőlt")->isChecked() ? QStringLiteral("italic") : QString(),
-                check("Check_félkövér")->isChecked() ? QStringLiteral("bold") : QString(),
+                check("Check_dőlt")->isChecked() ? u"italic"_s : QString(),
+                check("Check_félkövér")->isChecked() ? u"bold"_s : QString(),
                 QString::number(spin("UpDown_betűméret")->value()),
                 QString::number(spin("UpDown_hasábszám")->value()),
-                option("Option_tájolás(0)")->isChecked() ? QStringLiteral("portrait") : QStringLiteral("landscape")};
+                option("Option_tájolás(0)")->isChecked() ? u"portrait"_s : u"landscape"_s};
     }
 
     [[nodiscard]] QString place(const char *name) const { return root_.filePath(QString::fromUtf8(name)); }
 
-    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
     QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     frm_referencia reference_;
-    ablak main_window_{QStringLiteral("szótár")};
+    ablak main_window_{u"szótár"_s};
     Module_hasznos fitting_{reference_, [this] { return screen_; }};
     PrintedListForTests list_;
     global::programállapot state_;
-    global::beállítástár settings_{root_.filePath(QStringLiteral("settings.ini"))};
+    global::beállítástár settings_{root_.filePath(u"settings.ini"_s)};
     FakeMessageBoxes boxes_;
     FakeFileDialogs dialogs_;
     FakePrinters printers_;

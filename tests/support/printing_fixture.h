@@ -5,6 +5,8 @@
 
 #include "support/print_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 /// What becomes of a print-out that is started in the print settings.
 class Printing : public PrintTest {
   protected:
@@ -20,11 +22,11 @@ class Printing : public PrintTest {
     /// Presses the button of the progress as soon as it is there.
     void cancel_when_it_takes_long() {
         QTimer::singleShot(0, window_.get(), [this] {
-            auto *progress = window_->findChild<QProgressDialog *>(QStringLiteral("haladás"));
+            auto *progress = window_->findChild<QProgressDialog *>(u"haladás"_s);
             ASSERT_NE(progress, nullptr);
             progress_text_ = progress->labelText();
             auto *button = progress->findChild<QPushButton *>();
-            EXPECT_EQ(button->text(), QStringLiteral("Mégsem"));
+            EXPECT_EQ(button->text(), u"Mégsem"_s);
             button->click();
         });
     }
@@ -42,6 +44,6 @@ class PrintingIntoFile : public Printing {
         return bytes.startsWith("%PDF-") && bytes.trimmed().endsWith("%%EOF");
     }
     [[nodiscard]] QStringList files() const {
-        return QDir(root_.path()).entryList({QStringLiteral("*pdf*")}, QDir::Files | QDir::Hidden);
+        return QDir(root_.path()).entryList({u"*pdf*"_s}, QDir::Files | QDir::Hidden);
     }
 };

@@ -11,6 +11,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 /// The folders that a start looks at, and an installation that a test fills.
 class ProgramFolder : public testing::Test {
   protected:
@@ -44,7 +46,7 @@ class ProgramFolder : public testing::Test {
     /// The names of all that is in the folder, with ", " between them.
     [[nodiscard]] std::string names_in(const char *folder) const {
         const QDir::Filters all = QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot;
-        return QDir(place(folder)).entryList(all).join(QStringLiteral(", ")).toStdString();
+        return QDir(place(folder)).entryList(all).join(u", "_s).toStdString();
     }
 
     QTemporaryDir root_;

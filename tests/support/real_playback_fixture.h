@@ -20,6 +20,8 @@
 #include "support/printing.h"
 #include "support/sound_files.h"
 
+using namespace Qt::StringLiterals;
+
 /// The program's real player, whose device is a file: everything that is heard is written into it, some times faster
 /// than it would sound.
 class RealPlayback : public testing::Test {
@@ -84,7 +86,7 @@ class RealPlayback : public testing::Test {
         return std::all_of(samples.begin(), samples.end(), [](double sample) { return sample == 0; });
     }
 
-    [[nodiscard]] QString wave_mode() { return commands_->send(QStringLiteral("status hang mode"), 255).text; }
+    [[nodiscard]] QString wave_mode() { return commands_->send(u"status hang mode"_s, 255).text; }
 
     /// True when a wave that is played now is heard: the device has come through what was before.
     [[nodiscard]] bool can_play_a_wave() {
@@ -116,7 +118,7 @@ class RealPlayback : public testing::Test {
     char *arguments_[2] = {program_name_, nullptr};
     QCoreApplication application_{argument_count_, arguments_};
     QTemporaryDir folder_;
-    const QString heard_ = folder_.filePath(QStringLiteral("heard.raw"));
+    const QString heard_ = folder_.filePath(u"heard.raw"_s);
 
   protected:
     std::unique_ptr<MultimediaCommands> commands_ = make_multimedia_commands();

@@ -9,6 +9,8 @@
 
 #include "print/page_printer.h"
 
+using namespace Qt::StringLiterals;
+
 /// A text on a page, its top left corner in twips.
 struct PrintedText {
     int page;
@@ -41,12 +43,12 @@ class RecordingPrinter : public PagePrinter {
     void set_face(const Face &value) override { face = value; }
     void set_font_size(double points) override {
         points_ = points;
-        orders.append(QStringLiteral("size %1").arg(points));
+        orders.append(u"size %1"_s.arg(points));
     }
     double font_size() const override { return points_; }
     void set_orientation(Orientation orientation) override {
         portrait_ = orientation == Orientation::portrait;
-        orders.append(portrait_ ? QStringLiteral("portrait") : QStringLiteral("landscape"));
+        orders.append(portrait_ ? u"portrait"_s : u"landscape"_s);
     }
     double page_width() const override { return portrait_ ? 12000 : 16000; }
     double page_height() const override { return portrait_ ? 16000 : 12000; }
@@ -66,12 +68,12 @@ class RecordingPrinter : public PagePrinter {
         texts.append({pages, place.x(), place.y(), points_, text});
     }
     bool begin_next_page() override {
-        orders.append(QStringLiteral("page"));
+        orders.append(u"page"_s);
         ++pages;
         return pages != failing_page;
     }
     bool finish() override {
-        orders.append(QStringLiteral("end"));
+        orders.append(u"end"_s);
         ended = failing_page != 0;
         return ended;
     }

@@ -5,6 +5,8 @@
 #include "media/widgets/sound_settings_window.h"
 #include "support/media_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 /// The settings window of the feedback sounds, over four wave files.
 class SoundSettingsTest : public MediaWindowTest<frm_hangbeáll> {
   protected:
@@ -14,13 +16,12 @@ class SoundSettingsTest : public MediaWindowTest<frm_hangbeáll> {
     }
 
     void put_sound(const QString &name) const { write_file(sound(name), "RIFF"); }
-    [[nodiscard]] QString sound(const QString &name) const { return place(QStringLiteral("program/hangok/") + name); }
+    [[nodiscard]] QString sound(const QString &name) const { return place(u"program/hangok/"_s + name); }
     [[nodiscard]] bool is_there(const QString &name) const { return QFile::exists(sound(name)); }
 
     /// The commands that start a sound while none is open.
     [[nodiscard]] QStringList start_of(const QString &name) const {
-        return {QStringLiteral("open \"%1\" type waveaudio alias hang|0").arg(sound(name)),
-                QStringLiteral("play hang |0")};
+        return {u"open \"%1\" type waveaudio alias hang|0"_s.arg(sound(name)), u"play hang |0"_s};
     }
     /// The commands that start a sound after another.
     [[nodiscard]] QStringList change_to(const QString &name) const { return stop + start_of(name); }
@@ -49,9 +50,9 @@ class SoundSettingsTest : public MediaWindowTest<frm_hangbeáll> {
         {"Lst_hibahang", "cmd_hibahang_add", "cmd_hangtörl_hibahangból", "Label_hibahang"}};
 
     // In the order in which the window lists them.
-    const QString bell = QStringLiteral("bell.wav");
-    const QString horn = QStringLiteral("Hajókürt két hangon.wav");
-    const QString chime = QStringLiteral("harang.wav");
-    const QString gong = QStringLiteral("zörej őű.wav");
-    const QStringList stop{QStringLiteral("close hang|0")};
+    const QString bell = u"bell.wav"_s;
+    const QString horn = u"Hajókürt két hangon.wav"_s;
+    const QString chime = u"harang.wav"_s;
+    const QString gong = u"zörej őű.wav"_s;
+    const QStringList stop{u"close hang|0"_s};
 };

@@ -1,9 +1,11 @@
 #include "support/test_places.h"
 
+using namespace Qt::StringLiterals;
+
 namespace test_places {
 
 QString program() {
-    return QStringLiteral(ZIMBORA_TEST_PROGRAM);
+    return u"" ZIMBORA_TEST_PROGRAM ""_s;
 }
 
 QString in_program(const QString &file) {

@@ -6,6 +6,8 @@
 
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 // Style, type face and locale are those of the tests, whatever desktop they run on.
 int main(int argc, char *argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -14,7 +16,7 @@ int main(int argc, char *argv[]) {
         qputenv("QT_QPA_FONTDIR", qgetenv("ZIMBORA_TEST_FACES"));
     QStandardPaths::setTestModeEnabled(true);
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(u"fusion"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::Hungarian, QLocale::Hungary));
     fonts::substitute_missing_faces();

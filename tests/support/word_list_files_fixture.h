@@ -10,6 +10,8 @@
 #include "support/printing.h"
 #include "wordlist/word_list_files.h"
 
+using namespace Qt::StringLiterals;
+
 /// Notes what the file procedures ask of the window.
 class FakeWindow final : public szószedetablak {
   public:
@@ -30,7 +32,7 @@ class FakeWindow final : public szószedetablak {
 class WordListFiles : public testing::Test {
   protected:
     WordListFiles() {
-        QDir(root_.path()).mkdir(QStringLiteral("angol"));
+        QDir(root_.path()).mkdir(u"angol"_s);
         state_.programkönyvtár = place("angol");
     }
 
@@ -55,7 +57,7 @@ class WordListFiles : public testing::Test {
     }
 
     // Below /tmp there is no dot in a path unless the test wants one.
-    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
     global::programállapot state_;
     szópárlista list_;
     FakeWindow window_;

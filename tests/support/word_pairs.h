@@ -7,11 +7,13 @@
 
 #include "wordlist/word_pair_list.h"
 
+using namespace Qt::StringLiterals;
+
 /// The pairs word0 – szó0, word1 – szó1, …
 inline QVector<szópár> numbered_pairs(int count) {
     QVector<szópár> pairs;
     for (int i = 0; i < count; ++i)
-        pairs.append({QStringLiteral("word%1").arg(i), QStringLiteral("szó%1").arg(i)});
+        pairs.append({u"word%1"_s.arg(i), u"szó%1"_s.arg(i)});
     return pairs;
 }
 

@@ -6,14 +6,16 @@
 
 #include "tools/sample_package.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using freedict::Definition;
 using freedict::definitions;
 using freedict::unpacked;
 
-const QString index_name = QStringLiteral("sample.index");
-const QString data_name = QStringLiteral("sample.dict.dz");
+const QString index_name = u"sample.index"_s;
+const QString data_name = u"sample.dict.dz"_s;
 
 QString sentence(const std::variant<QVector<Definition>, Failure> &result) {
     const auto *failure = std::get_if<Failure>(&result);
@@ -62,9 +64,8 @@ TEST(DictdIndex, a_definition_that_reaches_beyond_the_data_is_named_with_its_lin
     for (const char *line : {"w\tB\tD\n", "w\tE\tA\n", "w\t////////\tB\n", "w\t/////////\t/////////\n"}) {
         const auto result = definitions(QByteArray("w\tA\tA\n") + line, "abc", index_name);
 
-        EXPECT_EQ(
-            sentence(result),
-            QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 2. sorban az adatfájlon kívülre mutató hely van."));
+        EXPECT_EQ(sentence(result),
+                  u"A(z) „sample.index” fájl sérült: a(z) 2. sorban az adatfájlon kívülre mutató hely van."_s);
     }
 }
 
@@ -73,8 +74,7 @@ TEST(DictdIndex, a_number_with_any_other_character_or_with_too_many_digits_is_re
                              "w\tAAAAAAAAAA\tA\n", "w\tA\t\xC3\xA1\n"}) {
         const auto result = definitions(line, "abc", index_name);
 
-        EXPECT_EQ(sentence(result),
-                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 1. sorban értelmezhetetlen szám van."))
+        EXPECT_EQ(sentence(result), u"A(z) „sample.index” fájl sérült: a(z) 1. sorban értelmezhetetlen szám van."_s)
             << line;
     }
 }
@@ -83,16 +83,14 @@ TEST(DictdIndex, a_line_without_three_columns_is_refused) {
     for (const char *line : {"\n", "w\n", "w\tA\n", "\tA\tA\n"}) {
         const auto result = definitions(line, "abc", index_name);
 
-        EXPECT_EQ(sentence(result),
-                  QStringLiteral("A(z) „sample.index” fájl sérült: a(z) 1. sorban nem három oszlop van."))
-            << line;
+        EXPECT_EQ(sentence(result), u"A(z) „sample.index” fájl sérült: a(z) 1. sorban nem három oszlop van."_s) << line;
     }
 }
 
 TEST(DictdIndex, an_index_cut_off_in_its_last_line_is_refused) {
     const auto result = definitions("a\tA\tB\nb\tB\tB", "abc", index_name);
 
-    EXPECT_EQ(sentence(result), QStringLiteral("A(z) „sample.index” fájl sérült: az utolsó sora csonka."));
+    EXPECT_EQ(sentence(result), u"A(z) „sample.index” fájl sérült: az utolsó sora csonka."_s);
 }
 
 TEST(DictdData, a_file_of_many_megabytes_is_unpacked_byte_for_byte) {
@@ -111,8 +109,7 @@ TEST(DictdData, a_file_cut_off_anywhere_is_refused) {
         const FileContent content = unpacked(gzip.first(size), data_name);
 
         ASSERT_TRUE(std::holds_alternative<Failure>(content)) << size;
-        EXPECT_EQ(std::get<Failure>(content).sentence,
-                  QStringLiteral("A(z) „sample.dict.dz” fájl sérült: nem ép gzip-fájl."));
+        EXPECT_EQ(std::get<Failure>(content).sentence, u"A(z) „sample.dict.dz” fájl sérült: nem ép gzip-fájl."_s);
     }
 }
 
@@ -130,7 +127,7 @@ TEST(DictdData, a_file_with_something_behind_its_end_is_refused) {
 
     ASSERT_TRUE(std::holds_alternative<Failure>(content));
     EXPECT_EQ(std::get<Failure>(content).sentence,
-              QStringLiteral("A(z) „sample.dict.dz” fájl sérült: a gzip-adatok vége után is van benne valami."));
+              u"A(z) „sample.dict.dz” fájl sérült: a gzip-adatok vége után is van benne valami."_s);
 }
 
 TEST(DictdData, a_file_that_is_not_packed_is_refused) {

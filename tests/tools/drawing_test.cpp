@@ -14,6 +14,8 @@
 #include "support/files_for_tests.h"
 #include "ui/drawing/svg_picture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QImage drawn_from_svg(const QString &file, const QSize &size, double ratio) {
@@ -45,10 +47,9 @@ TEST(RecordedDrawing, of_each_picture_of_the_program_is_the_drawing) {
     // A rounding at an edge or in a gradient is not seen.
     constexpr int not_seen = 24;
     const QTemporaryDir folder;
-    const QString recorded = folder.filePath(QStringLiteral("recorded"));
+    const QString recorded = folder.filePath(u"recorded"_s);
     int drawings = 0;
-    QDirIterator all(QStringLiteral(ZIMBORA_RESOURCES), {QStringLiteral("*.svg")}, QDir::Files,
-                     QDirIterator::Subdirectories);
+    QDirIterator all(u"" ZIMBORA_RESOURCES ""_s, {u"*.svg"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (all.hasNext()) {
         const QString svg = all.next();
         write_file(recorded, record_drawing(read_file(svg)));

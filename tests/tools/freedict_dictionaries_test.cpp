@@ -13,6 +13,8 @@
 #include "freedict/import.h"
 #include "platform/code_page.h"
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 
 /// GoogleTest's way of showing a test's parameter; by itself it would print addresses.
@@ -35,7 +37,7 @@ class FreedictDictionaries : public testing::Test {
   protected:
     static void SetUpTestSuite() {
         folder_ = new QTemporaryDir;
-        const auto result = freedict::import_dictionaries(QStringLiteral(ZIMBORA_FREEDICT_DIR), folder_->path(),
+        const auto result = freedict::import_dictionaries(u"" ZIMBORA_FREEDICT_DIR ""_s, folder_->path(),
                                                           [](const Dictionary &, int) {});
         ASSERT_TRUE(std::holds_alternative<QVector<freedict::Imported>>(result))
             << qPrintable(std::get<Failure>(result).sentence);
@@ -72,17 +74,17 @@ QString definition_of(const QByteArray &line) {
     QStringList meanings = code_page::decode(line.mid(colon + 1)).split(u'÷');
     EXPECT_TRUE(meanings.takeLast().isEmpty()) << line.toStdString();
     for (qsizetype i = 0; i < meanings.size() && meanings.size() > 1; ++i)
-        meanings[i].prepend(QStringLiteral("%1. ").arg(i + 1));
+        meanings[i].prepend(u"%1. "_s.arg(i + 1));
     return code_page::decode(line.left(colon)) + u'\n' + meanings.join(u'\n') + u'\n';
 }
 
 /// The same of each definition of the package, with its letters mended.
 QStringList mended_definitions(const Dictionary &dictionary) {
-    const QString base = QStringLiteral(ZIMBORA_FREEDICT_DIR "/") + dictionary.package.toString();
-    const QByteArray index = bytes_of(base + QStringLiteral(".index"));
-    const auto unpacked = freedict::unpacked(bytes_of(base + QStringLiteral(".dict.dz")), base);
+    const QString base = u"" ZIMBORA_FREEDICT_DIR "/"_s + dictionary.package.toString();
+    const QByteArray index = bytes_of(base + u".index"_s);
+    const auto unpacked = freedict::unpacked(bytes_of(base + u".dict.dz"_s), base);
     const auto found = freedict::definitions(index, std::get<QByteArray>(unpacked), base);
-    const QRegularExpression pronunciation(QStringLiteral(" /[^/\n]+/\n"));
+    const QRegularExpression pronunciation(u" /[^/\n]+/\n"_s);
     QStringList definitions;
     for (const auto &definition : std::get<QVector<freedict::Definition>>(found)) {
         if (definition.index_word.startsWith("00database"))
@@ -91,8 +93,8 @@ QStringList mended_definitions(const Dictionary &dictionary) {
         if (dictionary.file == u"am.txt")
             text.replace(u'û', u'ű').replace(u'ô', u'ő');
         else
-            text.replace(QStringLiteral("válasszatok: tett"), QStringLiteral("válasszatok – tett"));
-        definitions.append(text.replace(pronunciation, QStringLiteral("\n")));
+            text.replace(u"válasszatok: tett"_s, u"válasszatok – tett"_s);
+        definitions.append(text.replace(pronunciation, u"\n"_s));
     }
     return definitions;
 }
@@ -134,7 +136,7 @@ TEST_P(EachFreedictDictionary, stand_in_byte_order_with_a_leading_to_left_out_of
 }
 
 TEST_P(EachFreedictDictionary, have_a_headword_without_colon_and_a_meaning_in_every_line) {
-    const QRegularExpression entry(QStringLiteral("^[^:÷]+:([^÷]+÷)+$"));
+    const QRegularExpression entry(u"^[^:÷]+:([^÷]+÷)+$"_s);
     qsizetype more_colons = 0;
 
     for (const QByteArray &line : entry_lines_of(GetParam())) {
@@ -181,7 +183,7 @@ TEST_F(FreedictDictionaries, name_their_edition_and_licence) {
 TEST_F(FreedictDictionaries, hold_the_same_pairs_in_both_directions) {
     QStringList english = pairs_of(entry_lines_of(freedict::english_hungarian), false);
     QStringList hungarian = pairs_of(entry_lines_of(freedict::hungarian_english), true);
-    english.replaceInStrings(QStringLiteral("válasszatok: tett"), QStringLiteral("válasszatok – tett"));
+    english.replaceInStrings(u"válasszatok: tett"_s, u"válasszatok – tett"_s);
 
     english.sort();
 

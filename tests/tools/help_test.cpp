@@ -12,6 +12,8 @@
 #include "support/test_places.h"
 #include "support/web_archive_reader.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray page(const char *title, const char *body) {
@@ -23,7 +25,7 @@ QByteArray page(const char *title, const char *body) {
 class HelpPacker : public testing::Test {
   protected:
     HelpPacker() {
-        QDir(root_.path()).mkpath(QStringLiteral("pages/kepek"));
+        QDir(root_.path()).mkpath(u"pages/kepek"_s);
         write("tartalom.txt", "# A lapok\n\nindex.html\r\n  ablak.html\nmasik.html\nmellette: keszito.html\n");
         write("index.html", page("Próba – súgó",
                                  "<h1>Súgó</h1><p>Az <a href=\"ablak.html\">ablak</a> és "
@@ -47,15 +49,15 @@ class HelpPacker : public testing::Test {
         write_file(pages() + u'/' + QString::fromUtf8(name), bytes);
     }
 
-    [[nodiscard]] QString pages() const { return root_.filePath(QStringLiteral("pages")); }
-    [[nodiscard]] QString output() const { return root_.filePath(QStringLiteral("out/help")); }
-    [[nodiscard]] QByteArray archive() const { return read_file(output() + QStringLiteral("/Kavaro súgó.mht")); }
+    [[nodiscard]] QString pages() const { return root_.filePath(u"pages"_s); }
+    [[nodiscard]] QString output() const { return root_.filePath(u"out/help"_s); }
+    [[nodiscard]] QByteArray archive() const { return read_file(output() + u"/Kavaro súgó.mht"_s); }
 
     /// Packs and returns the document.
     [[nodiscard]] QString packed_document() {
         const auto result = help::pack(pages(), output());
         if (const auto *failure = std::get_if<Failure>(&result))
-            return QStringLiteral("FAILURE: ") + failure->sentence;
+            return u"FAILURE: "_s + failure->sentence;
         return QString::fromUtf8(parts_of(archive()).value(0).bytes);
     }
 
@@ -69,10 +71,10 @@ class HelpPacker : public testing::Test {
 
     void expect_failure_of_body(const char *body, const char16_t *what) {
         write("masik.html", page("Másik", body));
-        expect_failure(QStringLiteral("masik.html, 9. sor: ") + QString::fromUtf16(what));
+        expect_failure(u"masik.html, 9. sor: "_s + QString::fromUtf16(what));
     }
 
-    QTemporaryDir root_{QDir::tempPath() + QStringLiteral("/zimboraXXXXXX")};
+    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
     const QByteArray picture_ = QByteArray("\x89PNG\r\n\x1a\n\0--\r\n=_", 15) + QByteArray(300, '\xff');
 };
 
@@ -96,7 +98,7 @@ TEST_F(HelpPacker, makes_an_archive_of_the_document_the_style_sheet_and_each_pic
 
 TEST_F(HelpPacker, ends_every_line_with_cr_lf_after_at_most_76_characters) {
     write("index.html", page("Cím", "<p>" + QByteArray("árvíztűrő tükörfúrógép ").repeated(20) + "</p>\n \t\n"));
-    ASSERT_FALSE(packed_document().startsWith(QStringLiteral("FAILURE")));
+    ASSERT_FALSE(packed_document().startsWith(u"FAILURE"_s));
 
     const QByteArray bytes = archive();
     EXPECT_EQ(bytes.count('\n'), bytes.count("\r\n"));
@@ -112,7 +114,7 @@ TEST_F(HelpPacker, ends_every_line_with_cr_lf_after_at_most_76_characters) {
 TEST_F(HelpPacker, brings_every_text_through_the_archive_as_it_was) {
     const QByteArray bytes = "a=b =3D \t\nőű\n.\n--\n" + QByteArray(200, ' ') + "\n" + QByteArray(200, '=') + "\nvége";
 
-    const auto parts = parts_of(help::web_archive({{QStringLiteral("index.html"), "text/html", bytes}}));
+    const auto parts = parts_of(help::web_archive({{u"index.html"_s, "text/html", bytes}}));
 
     ASSERT_EQ(parts.size(), 1);
     EXPECT_EQ(parts[0].bytes, bytes);
@@ -131,13 +133,13 @@ TEST_F(HelpPacker, turns_links_between_pages_into_places_of_the_document) {
 
 TEST_F(HelpPacker, leaves_no_link_that_leads_to_nothing_in_the_real_help) {
     const QString html = QString::fromUtf8(
-        parts_of(read_file(test_places::program() + QStringLiteral("kavaro/help/Kavaro súgó.mht"))).value(0).bytes);
-    static const QRegularExpression link(QStringLiteral("href=\"#([^\"]+)\""));
+        parts_of(read_file(test_places::program() + u"kavaro/help/Kavaro súgó.mht"_s)).value(0).bytes);
+    static const QRegularExpression link(u"href=\"#([^\"]+)\""_s);
 
     int links = 0;
     for (auto found = link.globalMatch(html); found.hasNext(); ++links) {
         const QString id = found.next().captured(1);
-        EXPECT_EQ(html.count(QStringLiteral("id=\"%1\"").arg(id)), 1) << id.toStdString();
+        EXPECT_EQ(html.count(u"id=\"%1\""_s.arg(id)), 1) << id.toStdString();
     }
     EXPECT_GT(links, 5);
 }
@@ -145,29 +147,26 @@ TEST_F(HelpPacker, leaves_no_link_that_leads_to_nothing_in_the_real_help) {
 TEST_F(HelpPacker, titles_the_document_after_the_first_page_and_lists_the_others) {
     const QString html = packed_document();
 
-    EXPECT_TRUE(html.contains(QStringLiteral("<title>Próba – súgó</title>")));
-    const QString contents =
-        html.section(QStringLiteral("<nav id=\"tartalom\">"), 1).section(QStringLiteral("</nav>"), 0, 0);
+    EXPECT_TRUE(html.contains(u"<title>Próba – súgó</title>"_s));
+    const QString contents = html.section(u"<nav id=\"tartalom\">"_s, 1).section(u"</nav>"_s, 0, 0);
     EXPECT_EQ(contents.simplified(),
-              QStringLiteral(
-                  "<h2>Tartalom</h2> <ol> <li><a href=\"#ablak\">Az ablak</a> <ul> <li><a "
-                  "href=\"#ablak.hely\">A jó hely</a></li> </ul> </li> <li><a href=\"#masik\">Másik</a></li> </ol>"));
-    EXPECT_EQ(html.count(QStringLiteral("<a href=\"#tartalom\">")), 2);
+              u"<h2>Tartalom</h2> <ol> <li><a href=\"#ablak\">Az ablak</a> <ul> <li><a "
+              "href=\"#ablak.hely\">A jó hely</a></li> </ul> </li> <li><a href=\"#masik\">Másik</a></li> </ol>"_s);
+    EXPECT_EQ(html.count(u"<a href=\"#tartalom\">"_s), 2);
 }
 
 TEST_F(HelpPacker, writes_html_that_a_browser_reads_as_it_was_meant) {
     const QString html = packed_document();
 
-    EXPECT_TRUE(html.startsWith(QStringLiteral("<!DOCTYPE html>")));
-    EXPECT_TRUE(html.contains(QStringLiteral("<br>őű &lt;b&gt;</p><p id=\"ablak.ures\"></p>")));
-    EXPECT_TRUE(html.contains(QStringLiteral("<img src=\"kepek/a.png\" alt=\"\">")));
+    EXPECT_TRUE(html.startsWith(u"<!DOCTYPE html>"_s));
+    EXPECT_TRUE(html.contains(u"<br>őű &lt;b&gt;</p><p id=\"ablak.ures\"></p>"_s));
+    EXPECT_TRUE(html.contains(u"<img src=\"kepek/a.png\" alt=\"\">"_s));
 }
 
 TEST_F(HelpPacker, lays_the_page_beside_the_document_as_it_is) {
-    ASSERT_FALSE(packed_document().startsWith(QStringLiteral("FAILURE")));
+    ASSERT_FALSE(packed_document().startsWith(u"FAILURE"_s));
 
-    EXPECT_EQ(read_file(output() + QStringLiteral("/keszito.html")),
-              read_file(pages() + QStringLiteral("/keszito.html")));
+    EXPECT_EQ(read_file(output() + u"/keszito.html"_s), read_file(pages() + u"/keszito.html"_s));
 }
 
 TEST_F(HelpPacker, fails_on_a_dead_link) {
@@ -185,37 +184,36 @@ TEST_F(HelpPacker, fails_on_a_picture_that_is_missing_or_says_nothing) {
     expect_failure_of_body("<img src=\"/etc/a.png\" alt=\"\"/>", u"a kép neve nem megfelelő: „/etc/a.png”.");
     expect_failure_of_body("<img src=\"kép.png\" alt=\"\"/>", u"a kép neve nem megfelelő: „kép.png”.");
     write("masik.html", page("Másik", "<img src=\"kepek/b.bmp\" alt=\"\"/>"));
-    expect_failure(QStringLiteral("„kepek/b.bmp”: ilyen fajta kép nem lehet a súgóban."));
+    expect_failure(u"„kepek/b.bmp”: ilyen fajta kép nem lehet a súgóban."_s);
     write("masik.html", page("Másik", "<img src=\"kepek/b.png\" alt=\"\"/>"));
-    expect_failure(QStringLiteral("A(z) „%1/kepek/b.png” fájl nem olvasható: a fájl nem létezik.").arg(pages()));
+    expect_failure(u"A(z) „%1/kepek/b.png” fájl nem olvasható: a fájl nem létezik."_s.arg(pages()));
 }
 
 TEST_F(HelpPacker, fails_on_a_page_that_is_unknown_or_named_twice) {
     write("uj.html", page("Új", "<p>x</p>"));
-    expect_failure(QStringLiteral("tartalom.txt: hiányzik belőle a „uj.html” lap."));
+    expect_failure(u"tartalom.txt: hiányzik belőle a „uj.html” lap."_s);
     write("tartalom.txt", "index.html\nablak.html\nindex.html\n");
-    expect_failure(QStringLiteral("tartalom.txt, 3. sor: a lap már szerepel: „index.html”."));
+    expect_failure(u"tartalom.txt, 3. sor: a lap már szerepel: „index.html”."_s);
     write("tartalom.txt", "index.html\n../x.html\n");
-    expect_failure(QStringLiteral("tartalom.txt, 2. sor: ez nem lehet egy lap neve: „../x.html”."));
+    expect_failure(u"tartalom.txt, 2. sor: ez nem lehet egy lap neve: „../x.html”."_s);
     write("tartalom.txt", "ablak.html\nindex.html\n");
-    expect_failure(QStringLiteral("tartalom.txt: az első lap nem „index.html”."));
+    expect_failure(u"tartalom.txt: az első lap nem „index.html”."_s);
     write("tartalom.txt", "index.html\nablak.html\nmasik.html\nuj.html\nmellette: keszito.html\nnincs.html\n");
-    expect_failure(QStringLiteral("A(z) „%1/nincs.html” fájl nem olvasható: a fájl nem létezik.").arg(pages()));
+    expect_failure(u"A(z) „%1/nincs.html” fájl nem olvasható: a fájl nem létezik."_s.arg(pages()));
 }
 
 TEST_F(HelpPacker, fails_on_a_page_without_a_title_or_a_body) {
     write("ablak.html", page(" ", "<p>x</p>"));
-    expect_failure(QStringLiteral("ablak.html, 12. sor: a lapnak nincs címe (title)."));
+    expect_failure(u"ablak.html, 12. sor: a lapnak nincs címe (title)."_s);
     write("ablak.html", "<html><head><title>T</title></head></html>");
-    expect_failure(QStringLiteral("ablak.html, 1. sor: a lapnak nincs törzse (body)."));
+    expect_failure(u"ablak.html, 1. sor: a lapnak nincs törzse (body)."_s);
 }
 
 TEST_F(HelpPacker, fails_on_a_page_that_is_not_well_formed) {
     write("ablak.html", page("Az ablak", "<p>x"));
     const auto result = help::pack(pages(), output());
     ASSERT_TRUE(std::holds_alternative<Failure>(result));
-    EXPECT_TRUE(
-        std::get<Failure>(result).sentence.startsWith(QStringLiteral("ablak.html, 10. sor: a lap nem jól formált (")));
+    EXPECT_TRUE(std::get<Failure>(result).sentence.startsWith(u"ablak.html, 10. sor: a lap nem jól formált ("_s));
 }
 
 TEST_F(HelpPacker, fails_on_ids_that_are_the_same_or_not_plain) {
@@ -231,9 +229,9 @@ TEST_F(HelpPacker, fails_on_scripts_and_foreign_elements) {
 
 TEST_F(HelpPacker, fails_on_a_style_sheet_that_names_other_files_or_differs) {
     write("sugo.css", "h1 { background: url(x.png) }");
-    expect_failure(QStringLiteral("sugo.css: a stíluslap nem hivatkozhat más fájlra."));
+    expect_failure(u"sugo.css: a stíluslap nem hivatkozhat más fájlra."_s);
     write("ablak.html", "<html><head><title>T</title></head><body/></html>");
-    expect_failure(QStringLiteral("ablak.html: a lap stíluslapja más, mint a címlapé."));
+    expect_failure(u"ablak.html: a lap stíluslapja más, mint a címlapé."_s);
 }
 
 TEST_F(HelpPacker, fails_on_a_page_beside_the_document_that_needs_other_files) {
@@ -241,9 +239,9 @@ TEST_F(HelpPacker, fails_on_a_page_beside_the_document_that_needs_other_files) {
         write("keszito.html", QByteArray("<html><head><title>K</title></head><body>") + body + "</body></html>");
     };
     beside("<img src=\"a.png\" alt=\"\"/>");
-    expect_failure(QStringLiteral("keszito.html, 1. sor: a dokumentum mellett nincsenek képek."));
+    expect_failure(u"keszito.html, 1. sor: a dokumentum mellett nincsenek képek."_s);
     beside("<a href=\"index.html\">x</a>");
-    expect_failure(QStringLiteral("keszito.html, 1. sor: a hivatkozás nem vezet sehová: „index.html”."));
+    expect_failure(u"keszito.html, 1. sor: a hivatkozás nem vezet sehová: „index.html”."_s);
 }
 
 struct Outcome {
@@ -254,7 +252,7 @@ struct Outcome {
 
 Outcome run(const QStringList &arguments) {
     QProcess process;
-    process.start(QStringLiteral(ZIMBORA_HELP), arguments);
+    process.start(u"" ZIMBORA_HELP ""_s, arguments);
     EXPECT_TRUE(process.waitForFinished());
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
@@ -264,7 +262,7 @@ TEST_F(HelpPacker, is_a_command_that_says_what_it_packed) {
     const Outcome outcome = run({pages(), output()});
 
     EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(outcome.out, QStringLiteral("Kavaro súgó.mht: 3 lap, 1 kép.\n"));
+    EXPECT_EQ(outcome.out, u"Kavaro súgó.mht: 3 lap, 1 kép.\n"_s);
     EXPECT_EQ(parts_of(archive()).size(), 3);
 }
 
@@ -274,13 +272,13 @@ TEST_F(HelpPacker, is_a_command_that_names_what_is_wrong) {
     const Outcome outcome = run({pages(), output()});
 
     EXPECT_EQ(outcome.code, 1);
-    EXPECT_EQ(outcome.error, QStringLiteral("masik.html, 9. sor: a hivatkozás nem vezet sehová: „nincs.html”.\n"));
+    EXPECT_EQ(outcome.error, u"masik.html, 9. sor: a hivatkozás nem vezet sehová: „nincs.html”.\n"_s);
 }
 
 TEST_F(HelpPacker, is_a_command_that_explains_itself_in_hungarian) {
-    EXPECT_TRUE(run({QStringLiteral("--help")}).out.startsWith(QStringLiteral("Használat: zimbora-help")));
-    EXPECT_EQ(run({QStringLiteral("--nincs")}).code, 2);
-    EXPECT_EQ(run({QStringLiteral("a")}).code, 2);
+    EXPECT_TRUE(run({u"--help"_s}).out.startsWith(u"Használat: zimbora-help"_s));
+    EXPECT_EQ(run({u"--nincs"_s}).code, 2);
+    EXPECT_EQ(run({u"a"_s}).code, 2);
 }
 
 }  // namespace

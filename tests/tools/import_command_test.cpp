@@ -5,6 +5,8 @@
 
 #include "tools/sample_package.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Outcome {
@@ -17,13 +19,13 @@ struct Outcome {
 class ImportCommand : public testing::Test {
   protected:
     ImportCommand() {
-        SamplePackage().add("to go /x/\n1. megy\n2. jár\n").write(packages_.path(), QStringLiteral("freedict-eng-hun"));
-        SamplePackage().add("alma /x/\napple\n").write(packages_.path(), QStringLiteral("freedict-hun-eng"));
+        SamplePackage().add("to go /x/\n1. megy\n2. jár\n").write(packages_.path(), u"freedict-eng-hun"_s);
+        SamplePackage().add("alma /x/\napple\n").write(packages_.path(), u"freedict-hun-eng"_s);
     }
 
     static Outcome run(const QStringList &arguments) {
         QProcess process;
-        process.start(QStringLiteral(ZIMBORA_IMPORT), arguments);
+        process.start(u"" ZIMBORA_IMPORT ""_s, arguments);
         EXPECT_TRUE(process.waitForFinished());
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
@@ -36,26 +38,26 @@ class ImportCommand : public testing::Test {
 };
 
 TEST_F(ImportCommand, writes_both_dictionaries_and_prints_the_counts) {
-    const Outcome outcome = run({QStringLiteral("--freedict"), packages_.path(), output_.path()});
+    const Outcome outcome = run({u"--freedict"_s, packages_.path(), output_.path()});
 
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.out.toStdString(),
               "am.txt (angol–magyar szótár): 1 szócikkből és 2 jelentésből 1 szócikk és 2 jelentés lett.\n"
               "ma.txt (magyar–angol szótár): 1 szócikkből és 1 jelentésből 1 szócikk és 1 jelentés lett.\n");
-    EXPECT_EQ(output_files(), (QStringList{QStringLiteral("am.txt"), QStringLiteral("ma.txt")}));
+    EXPECT_EQ(output_files(), (QStringList{u"am.txt"_s, u"ma.txt"_s}));
 }
 
 TEST_F(ImportCommand, leaves_one_plain_line_a_dictionary_in_a_log) {
-    const Outcome outcome = run({QStringLiteral("--freedict=") + packages_.path(), output_.path()});
+    const Outcome outcome = run({u"--freedict="_s + packages_.path(), output_.path()});
 
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.error.toStdString(), "angol–magyar szótár átalakítása…\nmagyar–angol szótár átalakítása…\n");
 }
 
 TEST_F(ImportCommand, fails_with_a_message_and_no_file_when_a_package_is_damaged) {
-    SamplePackage().state(3).write(packages_.path(), QStringLiteral("freedict-hun-eng"));
+    SamplePackage().state(3).write(packages_.path(), u"freedict-hun-eng"_s);
 
-    const Outcome outcome = run({QStringLiteral("--freedict"), packages_.path(), output_.path()});
+    const Outcome outcome = run({u"--freedict"_s, packages_.path(), output_.path()});
 
     EXPECT_EQ(outcome.code, 1);
     EXPECT_TRUE(outcome.out.isEmpty());
@@ -65,7 +67,7 @@ TEST_F(ImportCommand, fails_with_a_message_and_no_file_when_a_package_is_damaged
 }
 
 TEST_F(ImportCommand, explains_itself_in_hungarian) {
-    const Outcome outcome = run({QStringLiteral("--help")});
+    const Outcome outcome = run({u"--help"_s});
 
     EXPECT_EQ(outcome.code, 0);
     EXPECT_TRUE(outcome.out.startsWith(u"Használat: zimbora-import [--help] [--freedict MAPPA] KIMENETI-MAPPA\n"));
@@ -75,10 +77,10 @@ TEST_F(ImportCommand, explains_itself_in_hungarian) {
 TEST_F(ImportCommand, says_what_is_wrong_with_its_arguments) {
     const std::pair<QStringList, const char *> wrong[] = {
         {{}, "Hiányzik a kimeneti mappa.\n"},
-        {{QStringLiteral("--gyors"), output_.path()}, "Ismeretlen kapcsoló: „--gyors”.\n"},
-        {{output_.path(), QStringLiteral("--freedict")}, "A --freedict kapcsoló után hiányzik a mappa.\n"},
-        {{output_.path(), QStringLiteral("--freedict=")}, "A --freedict kapcsoló után hiányzik a mappa.\n"},
-        {{output_.path(), QStringLiteral("más")}, "Csak egy kimeneti mappa adható meg, fölösleges: „más”.\n"},
+        {{u"--gyors"_s, output_.path()}, "Ismeretlen kapcsoló: „--gyors”.\n"},
+        {{output_.path(), u"--freedict"_s}, "A --freedict kapcsoló után hiányzik a mappa.\n"},
+        {{output_.path(), u"--freedict="_s}, "A --freedict kapcsoló után hiányzik a mappa.\n"},
+        {{output_.path(), u"más"_s}, "Csak egy kimeneti mappa adható meg, fölösleges: „más”.\n"},
     };
     for (const auto &[arguments, message] : wrong) {
         const Outcome outcome = run(arguments);

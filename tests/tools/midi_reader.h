@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 /// A standard MIDI file, read strictly.
 struct MidiPiece {
     struct Note {
@@ -75,7 +77,7 @@ class MidiReader {
 
   private:
     MidiPiece failed(const char16_t *fault) {
-        piece_.fault = QString::fromUtf16(fault) + QStringLiteral(" (byte %1)").arg(at_);
+        piece_.fault = QString::fromUtf16(fault) + u" (byte %1)"_s.arg(at_);
         return piece_;
     }
 

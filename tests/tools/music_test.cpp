@@ -10,16 +10,18 @@
 #include "support/test_places.h"
 #include "tools/midi_reader.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString program = test_places::program();
 
 QStringList piece_names() {
-    return QDir(program + QStringLiteral("/zenemid")).entryList({QStringLiteral("*.mid")});
+    return QDir(program + u"/zenemid"_s).entryList({u"*.mid"_s});
 }
 
 QByteArray bytes_of_piece(const QString &name) {
-    return read_file(program + QStringLiteral("/zenemid/") + name);
+    return read_file(program + u"/zenemid/"_s + name);
 }
 
 /// The pieces of the program folder by their names.
@@ -33,7 +35,7 @@ std::map<std::string, MidiPiece> pieces() {
 /// Runs a script of the music; its exit code.
 int run(const char *script, const QStringList &arguments) {
     QProcess process;
-    process.start(QStringLiteral(ZIMBORA_MUSIC_SCRIPTS "/") + QString::fromUtf8(script), arguments);
+    process.start(u"" ZIMBORA_MUSIC_SCRIPTS "/"_s + QString::fromUtf8(script), arguments);
     return process.waitForFinished(60'000) ? process.exitCode() : -1;
 }
 
@@ -47,7 +49,7 @@ TEST(Music, has_at_least_six_pieces_with_hungarian_names) {
     const QStringList names = piece_names();
 
     EXPECT_GE(names.size(), 6);
-    EXPECT_TRUE(names.contains(QStringLiteral("Érik a szőlő.mid")));
+    EXPECT_TRUE(names.contains(u"Érik a szőlő.mid"_s));
 }
 
 TEST(Music, consists_of_well_formed_files) {
@@ -92,7 +94,7 @@ TEST(Music, has_no_silence_longer_than_a_breath) {
 }
 
 TEST(Music, begins_with_a_playlist_of_all_its_pieces_and_is_switched_off) {
-    const QByteArray playlist = read_file(program + QStringLiteral("/kavaro/zenebeáll.ini"));
+    const QByteArray playlist = read_file(program + u"/kavaro/zenebeáll.ini"_s);
 
     ASSERT_TRUE(playlist.endsWith("\r\n"));
     QByteArrayList lines = playlist.chopped(2).replace("\r\n", "\n").split('\n');
@@ -106,18 +108,18 @@ TEST(Music, begins_with_a_playlist_of_all_its_pieces_and_is_switched_off) {
 
 TEST(Music, is_made_the_same_each_time) {
     const QTemporaryDir made;
-    const QString source = QStringLiteral(ZIMBORA_MUSIC_SOURCES "/ripening_grapes.abc");
-    const QString piece = made.filePath(QStringLiteral("szőlő.mid"));
+    const QString source = u"" ZIMBORA_MUSIC_SOURCES "/ripening_grapes.abc"_s;
+    const QString piece = made.filePath(u"szőlő.mid"_s);
 
     ASSERT_EQ(run("make_midi.sh", {source, piece}), 0);
 
-    EXPECT_EQ(read_file(piece), bytes_of_piece(QStringLiteral("Érik a szőlő.mid")));
+    EXPECT_EQ(read_file(piece), bytes_of_piece(u"Érik a szőlő.mid"_s));
 }
 
 TEST(Music, is_not_made_of_a_piece_whose_bar_is_too_short) {
     const QTemporaryDir made;
-    const QString source = made.filePath(QStringLiteral("a.abc"));
-    const QString piece = made.filePath(QStringLiteral("a.mid"));
+    const QString source = made.filePath(u"a.abc"_s);
+    const QString piece = made.filePath(u"a.mid"_s);
 
     write_file(source, abc("CDE"));
     EXPECT_NE(run("make_midi.sh", {source, piece}), 0);
@@ -130,12 +132,12 @@ TEST(Music, is_not_made_of_a_piece_whose_bar_is_too_short) {
 
 TEST(Music, has_no_playlist_with_a_name_that_the_code_page_lacks) {
     const QTemporaryDir made;
-    const QString playlist = made.filePath(QStringLiteral("lista.ini"));
+    const QString playlist = made.filePath(u"lista.ini"_s);
 
-    EXPECT_NE(run("make_playlist.sh", {playlist, QStringLiteral("春.mid")}), 0);
+    EXPECT_NE(run("make_playlist.sh", {playlist, u"春.mid"_s}), 0);
     EXPECT_FALSE(QFile::exists(playlist));
 
-    EXPECT_EQ(run("make_playlist.sh", {playlist, QStringLiteral("ő.mid")}), 0);
+    EXPECT_EQ(run("make_playlist.sh", {playlist, u"ő.mid"_s}), 0);
     EXPECT_EQ(read_file(playlist), " 0\r\n\xf5.mid\r\n");
 }
 

@@ -6,6 +6,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Outcome {
@@ -16,7 +18,7 @@ struct Outcome {
 
 Outcome order(const QStringList &arguments) {
     QProcess process;
-    process.start(QStringLiteral(ZIMBORA_ORDER), arguments);
+    process.start(u"" ZIMBORA_ORDER ""_s, arguments);
     EXPECT_TRUE(process.waitForFinished());
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
@@ -24,13 +26,13 @@ Outcome order(const QStringList &arguments) {
 
 TEST(OrderCommand, sorts_the_file_and_shows_its_progress) {
     const QTemporaryDir folder;
-    write_file(folder.filePath(QStringLiteral("magyar.skt")), "t\xfbz\r\nalma\r\n");
+    write_file(folder.filePath(u"magyar.skt"_s), "t\xfbz\r\nalma\r\n");
 
     const Outcome outcome = order({folder.path()});
 
     EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(outcome.out, QStringLiteral("Folyamatban...\n1,2\n1\n2\nMűvelet kész.\n"));
-    EXPECT_EQ(read_file(folder.filePath(QStringLiteral("magyarvg.skt"))), "ALMA\r\nT\xdbZ\r\n");
+    EXPECT_EQ(outcome.out, u"Folyamatban...\n1,2\n1\n2\nMűvelet kész.\n"_s);
+    EXPECT_EQ(read_file(folder.filePath(u"magyarvg.skt"_s)), "ALMA\r\nT\xdbZ\r\n");
 }
 
 TEST(OrderCommand, names_the_missing_file) {
@@ -39,13 +41,13 @@ TEST(OrderCommand, names_the_missing_file) {
     const Outcome outcome = order({folder.path()});
 
     EXPECT_EQ(outcome.code, 1);
-    EXPECT_TRUE(outcome.error.contains(QStringLiteral("magyar.skt")));
+    EXPECT_TRUE(outcome.error.contains(u"magyar.skt"_s));
 }
 
 TEST(OrderCommand, explains_itself_in_hungarian_and_refuses_other_options) {
-    EXPECT_TRUE(order({QStringLiteral("--help")}).out.startsWith(QStringLiteral("Használat: zimbora-order")));
-    EXPECT_EQ(order({QStringLiteral("--nincs")}).code, 2);
-    EXPECT_EQ(order({QStringLiteral("a"), QStringLiteral("b")}).code, 2);
+    EXPECT_TRUE(order({u"--help"_s}).out.startsWith(u"Használat: zimbora-order"_s));
+    EXPECT_EQ(order({u"--nincs"_s}).code, 2);
+    EXPECT_EQ(order({u"a"_s, u"b"_s}).code, 2);
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 /// A FreeDict package made by a test, sound unless the test makes it otherwise. Every text is UTF-8.
 class SamplePackage final {
   public:
@@ -43,8 +45,8 @@ class SamplePackage final {
 
     /// Writes the files `name`.index and `name`.dict.dz into `folder`.
     void write(const QString &folder, const QString &name) const {
-        put(QDir(folder).filePath(name + QStringLiteral(".index")), index());
-        put(QDir(folder).filePath(name + QStringLiteral(".dict.dz")), packed(data()));
+        put(QDir(folder).filePath(name + u".index"_s), index());
+        put(QDir(folder).filePath(name + u".dict.dz"_s), packed(data()));
     }
 
     static void put(const QString &path, const QByteArray &bytes) {

@@ -10,19 +10,21 @@
 #include "support/test_places.h"
 #include "tools/wave_reader.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString program = test_places::program();
 
 QByteArrayList sound_names() {
     QByteArrayList names;
-    for (const QString &name : QDir(program + QStringLiteral("/hangok")).entryList({QStringLiteral("*.wav")}))
+    for (const QString &name : QDir(program + u"/hangok"_s).entryList({u"*.wav"_s}))
         names.append(name.toUtf8());
     return names;
 }
 
 QByteArray bytes_of_sound(const QByteArray &name) {
-    return read_file(program + QStringLiteral("/hangok/") + QString::fromUtf8(name));
+    return read_file(program + u"/hangok/"_s + QString::fromUtf8(name));
 }
 
 /// The sounds of the program folder by their names; a file that is no such wave fails the test.
@@ -101,7 +103,7 @@ TEST(Sounds, are_all_different) {
 }
 
 TEST(Sounds, include_a_silence_where_its_name_directly_follows_the_program_folder) {
-    const std::optional<Wave> silence = read_wave(read_file(program + QStringLiteral("null.wav")));
+    const std::optional<Wave> silence = read_wave(read_file(program + u"null.wav"_s));
 
     ASSERT_TRUE(silence);
     EXPECT_GT(silence->seconds(), 0.05);
@@ -111,20 +113,19 @@ TEST(Sounds, include_a_silence_where_its_name_directly_follows_the_program_folde
 
 TEST(Sounds, come_out_the_same_each_time_they_are_made) {
     const QTemporaryDir made;
-    const QString silence = made.filePath(QStringLiteral("null.wav"));
+    const QString silence = made.filePath(u"null.wav"_s);
 
     QProcess script;
-    script.start(QStringLiteral(ZIMBORA_SOUND_SCRIPT), {made.filePath(QStringLiteral("hangok")), silence});
+    script.start(u"" ZIMBORA_SOUND_SCRIPT ""_s, {made.filePath(u"hangok"_s), silence});
     ASSERT_TRUE(script.waitForFinished(120'000));
     ASSERT_EQ(script.exitCode(), 0) << script.readAllStandardError().toStdString();
 
     // Sound by sound what the build has made before.
-    EXPECT_EQ(QDir(made.filePath(QStringLiteral("hangok"))).entryList(QDir::Files).size(), sound_names().size());
+    EXPECT_EQ(QDir(made.filePath(u"hangok"_s)).entryList(QDir::Files).size(), sound_names().size());
     for (const QByteArray &name : sound_names())
-        EXPECT_TRUE(read_file(made.filePath(QStringLiteral("hangok/") + QString::fromUtf8(name))) ==
-                    bytes_of_sound(name))
+        EXPECT_TRUE(read_file(made.filePath(u"hangok/"_s + QString::fromUtf8(name))) == bytes_of_sound(name))
             << name.toStdString();
-    EXPECT_EQ(read_file(silence), read_file(program + QStringLiteral("null.wav")));
+    EXPECT_EQ(read_file(silence), read_file(program + u"null.wav"_s));
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool always(const QString &) {
@@ -14,11 +16,9 @@ bool always(const QString &) {
 TEST(RecentFiles, uses_the_first_four_that_exist) {
     const QByteArray bytes = "/a.szs\r\n/gone.szs\r\n/b.szs\r\n\r\n/c.szs\r\n/d.szs\r\n/e.szs\r\n";
 
-    const QStringList read =
-        legutóbbifájlok::olvas(bytes, [](const QString &path) { return path != QStringLiteral("/gone.szs"); });
+    const QStringList read = legutóbbifájlok::olvas(bytes, [](const QString &path) { return path != u"/gone.szs"_s; });
 
-    EXPECT_EQ(read, QStringList({QStringLiteral("/a.szs"), QStringLiteral("/b.szs"), QStringLiteral("/c.szs"),
-                                 QStringLiteral("/d.szs")}));
+    EXPECT_EQ(read, QStringList({u"/a.szs"_s, u"/b.szs"_s, u"/c.szs"_s, u"/d.szs"_s}));
 }
 
 TEST(RecentFiles, are_found_among_rubbish) {
@@ -26,12 +26,11 @@ TEST(RecentFiles, are_found_among_rubbish) {
     for (int i = 0; i < 5000; ++i)
         rubbish.append(static_cast<char>(i * 7919 % 256));
 
-    const auto is_there = [](const QString &path) { return path == QStringLiteral("/van.szs"); };
+    const auto is_there = [](const QString &path) { return path == u"/van.szs"_s; };
 
     EXPECT_TRUE(legutóbbifájlok::olvas("", always).isEmpty());
     EXPECT_TRUE(legutóbbifájlok::olvas(rubbish, is_there).isEmpty());
-    EXPECT_EQ(legutóbbifájlok::olvas(rubbish + "\r\n/van.szs\r\n" + rubbish, is_there),
-              QStringList{QStringLiteral("/van.szs")});
+    EXPECT_EQ(legutóbbifájlok::olvas(rubbish + "\r\n/van.szs\r\n" + rubbish, is_there), QStringList{u"/van.szs"_s});
 }
 
 TEST(RecentFiles, are_asked_for_no_further_than_needed_in_fifty_lines) {
@@ -47,32 +46,28 @@ TEST(RecentFiles, are_asked_for_no_further_than_needed_in_fifty_lines) {
 }
 
 TEST(RecentFiles, show_a_file_twice_that_stands_twice) {
-    EXPECT_EQ(legutóbbifájlok::olvas("/a.szs\r\n/a.szs\r\n", always),
-              QStringList({QStringLiteral("/a.szs"), QStringLiteral("/a.szs")}));
+    EXPECT_EQ(legutóbbifájlok::olvas("/a.szs\r\n/a.szs\r\n", always), QStringList({u"/a.szs"_s, u"/a.szs"_s}));
 }
 
 TEST(RecentFiles, put_the_current_file_first_and_only_once) {
-    const FileContent bytes = legutóbbifájlok::ír(
-        QStringLiteral("/ő.szs"), {QStringLiteral("/a.szs"), QStringLiteral("/ő.szs"), QStringLiteral("/b.szs")});
+    const FileContent bytes = legutóbbifájlok::ír(u"/ő.szs"_s, {u"/a.szs"_s, u"/ő.szs"_s, u"/b.szs"_s});
 
     EXPECT_EQ(std::get<QByteArray>(bytes), "/\xf5.szs\r\n/a.szs\r\n/b.szs\r\n");
 }
 
 TEST(RecentFiles, refuse_a_path_that_the_code_page_cannot_hold) {
-    const FileContent bytes = legutóbbifájlok::ír(QStringLiteral("/火.szs"), {});
+    const FileContent bytes = legutóbbifájlok::ír(u"/火.szs"_s, {});
 
-    EXPECT_TRUE(std::get<Failure>(bytes).sentence.contains(QStringLiteral("„/火.szs”")));
+    EXPECT_TRUE(std::get<Failure>(bytes).sentence.contains(u"„/火.szs”"_s));
 }
 
 TEST(RecentFiles, have_the_path_behind_the_first_four_characters_of_their_caption) {
-    EXPECT_EQ(legutóbbifájlok::felirat(1, QStringLiteral("/szavak/allatok.szs")),
-              QStringLiteral("&1: /szavak/allatok.szs"));
-    EXPECT_EQ(legutóbbifájlok::útvonal(QStringLiteral("&1: /szavak/allatok.szs")),
-              QStringLiteral("/szavak/allatok.szs"));
+    EXPECT_EQ(legutóbbifájlok::felirat(1, u"/szavak/allatok.szs"_s), u"&1: /szavak/allatok.szs"_s);
+    EXPECT_EQ(legutóbbifájlok::útvonal(u"&1: /szavak/allatok.szs"_s), u"/szavak/allatok.szs"_s);
 }
 
 TEST(RecentFiles, keep_an_ampersand_of_the_path) {
-    const QString path = QStringLiteral("/R&D && más/a&.szs");
+    const QString path = u"/R&D && más/a&.szs"_s;
 
     EXPECT_EQ(legutóbbifájlok::útvonal(legutóbbifájlok::felirat(4, path)), path);
 }

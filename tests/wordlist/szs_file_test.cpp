@@ -5,6 +5,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QVector<szópár> pairs(std::initializer_list<std::pair<const char16_t *, const char16_t *>> list) {
@@ -77,7 +79,7 @@ TEST(SzsFile, holds_a_hundred_thousand_pairs) {
     const QVector<szópár> read = szsfájl::olvas(bytes);
 
     ASSERT_EQ(read.size(), 100000);
-    EXPECT_EQ(read.back(), (szópár{QStringLiteral("word99999"), QStringLiteral("szó99999")}));
+    EXPECT_EQ(read.back(), (szópár{u"word99999"_s, u"szó99999"_s}));
     EXPECT_EQ(written(read), bytes);
 }
 
@@ -85,8 +87,8 @@ TEST(SzsFile, names_the_word_that_the_code_page_cannot_hold) {
     const FileContent content = szsfájl::ír(pairs({{u"apple", u"alma"}, {u"fire", u"火 tűz"}}));
 
     const QString sentence = std::get<Failure>(content).sentence;
-    EXPECT_TRUE(sentence.contains(QStringLiteral("„火 tűz”"))) << sentence.toStdString();
-    EXPECT_TRUE(sentence.contains(QStringLiteral("„火”"))) << sentence.toStdString();
+    EXPECT_TRUE(sentence.contains(u"„火 tűz”"_s)) << sentence.toStdString();
+    EXPECT_TRUE(sentence.contains(u"„火”"_s)) << sentence.toStdString();
 }
 
 TEST(SzsFile, refuses_what_would_be_read_as_something_else) {
@@ -98,12 +100,12 @@ TEST(SzsFile, refuses_what_would_be_read_as_something_else) {
 
 TEST(SzsFile, quotes_the_beginning_of_a_word_that_is_too_long_for_a_message) {
     const QString longest(5000, u'x');
-    const QString sentences[] = {szsfájl::akadály({longest + u':', QStringLiteral("szó")}),
-                                 szsfájl::akadály({longest, QStringLiteral("két\nsor")}),
+    const QString sentences[] = {szsfájl::akadály({longest + u':', u"szó"_s}),
+                                 szsfájl::akadály({longest, u"két\nsor"_s}),
                                  std::get<Failure>(szsfájl::ír({{longest, longest + u'火'}})).sentence};
 
     for (const QString &sentence : sentences)
-        EXPECT_TRUE(sentence.contains(u'„' + longest.left(60) + QStringLiteral("…”"))) << sentence.toStdString();
+        EXPECT_TRUE(sentence.contains(u'„' + longest.left(60) + u"…”"_s)) << sentence.toStdString();
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 #include "support/odd_files.h"
 #include "support/word_list_files_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString exit_question = QStringLiteral("Kilépés|Akarja menteni a változtatásokat?|yes no cancel");
-const QString new_list_question = QStringLiteral("Kilépés|Akarja menteni a változtatásokat?|yes no");
+const QString exit_question = u"Kilépés|Akarja menteni a változtatásokat?|yes no cancel"_s;
+const QString new_list_question = u"Kilépés|Akarja menteni a változtatásokat?|yes no"_s;
 
 TEST_F(WordListFiles, first_save_proposes_the_program_folder_and_the_first_english_word) {
     add("apple", "alma");
@@ -16,7 +18,7 @@ TEST_F(WordListFiles, first_save_proposes_the_program_folder_and_the_first_engli
     EXPECT_EQ(read_file(place("gyumi.szs")), "apple:alma\r\n");
     EXPECT_EQ(state_.aktuálisfájl, place("gyumi.szs"));
     EXPECT_EQ(state_.változott, 0);
-    EXPECT_EQ(window_.title, QStringLiteral("Zimbora Angol-Magyar szótár - %1 szószedet").arg(place("gyumi.szs")));
+    EXPECT_EQ(window_.title, u"Zimbora Angol-Magyar szótár - %1 szószedet"_s.arg(place("gyumi.szs")));
     EXPECT_EQ(window_.recent, QStringList{place("gyumi.szs")});
 }
 
@@ -53,7 +55,7 @@ TEST_F(WordListFiles, cancelled_first_save_writes_nothing_and_leaves_no_current_
 
 TEST_F(WordListFiles, name_with_a_dot_before_its_last_four_characters_is_refused_without_a_word) {
     add("apple", "alma");
-    QDir(root_.path()).mkdir(QStringLiteral("a.b"));
+    QDir(root_.path()).mkdir(u"a.b"_s);
     dialogs_.choices = {place("a.b/lista.szs"), place("lista")};
 
     files_.mnufájlment();
@@ -72,9 +74,8 @@ TEST_F(WordListFiles, existing_file_is_overwritten_only_after_a_yes) {
 
     files_.mnufájlment();
 
-    EXPECT_EQ(
-        boxes_.asked,
-        QStringList{QStringLiteral("Fájl felülírása|A %1 szószedet fájl már létezik. Felülírja?|yes no").arg(old)});
+    EXPECT_EQ(boxes_.asked,
+              QStringList{u"Fájl felülírása|A %1 szószedet fájl már létezik. Felülírja?|yes no"_s.arg(old)});
     EXPECT_EQ(read_file(old), "old:r\xe9gi\r\n");
     EXPECT_EQ(read_file(place("más.szs")), "apple:alma\r\n");
 }
@@ -129,10 +130,10 @@ TEST_F(WordListFiles, opening_replaces_the_list_and_puts_the_file_first_in_the_m
     files_.mnufájlmegnyit();
 
     EXPECT_EQ(dialogs_.proposals, QStringList{place("angol/*.szs")});
-    EXPECT_EQ(pairs(), QStringLiteral("time:idő: 3 óra"));
+    EXPECT_EQ(pairs(), u"time:idő: 3 óra"_s);
     EXPECT_EQ(state_.aktuálisfájl, place("b.szs"));
     EXPECT_EQ(state_.változott, 0);
-    EXPECT_EQ(window_.title, QStringLiteral("Zimbora Angol-Magyar szótár - %1 szószedet").arg(place("b.szs")));
+    EXPECT_EQ(window_.title, u"Zimbora Angol-Magyar szótár - %1 szószedet"_s.arg(place("b.szs")));
     EXPECT_EQ(window_.recent, QStringList{place("b.szs")});
     EXPECT_EQ(window_.cleared, 1);
     EXPECT_GE(window_.fitted, 1);
@@ -144,7 +145,7 @@ TEST_F(WordListFiles, open_dialog_comes_again_until_the_file_exists) {
     files_.mnufájlmegnyit();
 
     EXPECT_EQ(dialogs_.proposals.size(), 3);
-    EXPECT_EQ(pairs(), QStringLiteral("a:b"));
+    EXPECT_EQ(pairs(), u"a:b"_s);
 }
 
 TEST_F(WordListFiles, cancelled_open_dialog_changes_nothing) {
@@ -155,7 +156,7 @@ TEST_F(WordListFiles, cancelled_open_dialog_changes_nothing) {
     files_.mnufájlmegnyit();
 
     EXPECT_EQ(boxes_.asked, QStringList{new_list_question});
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
     EXPECT_EQ(state_.aktuálisfájl, place("a.szs"));
     EXPECT_EQ(state_.változott, 1);
 }
@@ -170,9 +171,9 @@ TEST_F(WordListFiles, file_that_cannot_be_read_after_the_dialog_is_told_and_noth
     files_.mnufájlmegnyit();
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].startsWith(
-        QStringLiteral("A(z) „%1” fájl nem olvasható").arg(QDir::toNativeSeparators(place("b.szs")))));
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_TRUE(
+        boxes_.told[0].startsWith(u"A(z) „%1” fájl nem olvasható"_s.arg(QDir::toNativeSeparators(place("b.szs")))));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
     EXPECT_EQ(state_.aktuálisfájl, place("a.szs"));
     EXPECT_EQ(state_.változott, 1);
 }
@@ -186,8 +187,8 @@ TEST_F(WordListFiles, file_that_vanishes_before_it_is_opened_is_told_and_nothing
     files_.mnufájlfájl(path);
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].endsWith(QStringLiteral("b.szs” fájl nem olvasható: a fájl nem létezik.")));
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_TRUE(boxes_.told[0].endsWith(u"b.szs” fájl nem olvasható: a fájl nem létezik."_s));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
     EXPECT_EQ(state_.változott, 1);
 }
 
@@ -217,7 +218,7 @@ TEST_F(WordListFiles, appending_adds_every_pair_at_the_end_and_doubles_a_list_ap
     files_.mnufájlhozzáfűz();
     files_.mnufájlhozzáfűz();
 
-    EXPECT_EQ(pairs(), QStringLiteral("dog:kutya apple:alma apple:alma"));
+    EXPECT_EQ(pairs(), u"dog:kutya apple:alma apple:alma"_s);
     EXPECT_EQ(state_.aktuálisfájl, place("saját.szs"));
     EXPECT_EQ(state_.változott, 1);
     EXPECT_EQ(dialogs_.proposals[0], place("angol/*.szs"));
@@ -282,7 +283,7 @@ TEST_F(WordListFiles, pairs_stay_when_the_save_before_a_new_list_is_cancelled) {
 
     files_.mnufájlúj();
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
     EXPECT_EQ(state_.változott, 1);
 }
 
@@ -294,7 +295,7 @@ TEST_F(WordListFiles, save_into_a_missing_folder_is_told_and_nothing_is_lost) {
 
     ASSERT_EQ(boxes_.told.size(), 1);
     EXPECT_TRUE(boxes_.told[0].contains(u'„' + QDir::toNativeSeparators(place("nincs/lista")) + u'”'));
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
     EXPECT_EQ(state_.változott, 1);
     EXPECT_EQ(state_.aktuálisfájl, QString());
 }
@@ -306,7 +307,7 @@ TEST_F(WordListFiles, save_with_a_letter_beyond_the_code_page_names_the_word_and
     files_.mnufájlment();
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("„火”")));
+    EXPECT_TRUE(boxes_.told[0].contains(u"„火”"_s));
     EXPECT_EQ(read_file(place("a.szs")), "old:r\xe9gi\r\n");
     EXPECT_EQ(state_.változott, 1);
 }
@@ -328,7 +329,7 @@ TEST_F(WordListFiles, recent_file_is_opened_and_moves_to_the_top) {
 
     files_.mnufájlfájl(place("1.szs"));
 
-    EXPECT_EQ(pairs(), QStringLiteral("egy:one"));
+    EXPECT_EQ(pairs(), u"egy:one"_s);
     EXPECT_EQ(window_.recent, QStringList({place("1.szs"), place("2.szs")}));
 }
 
@@ -338,7 +339,7 @@ TEST_F(WordListFiles, recent_file_that_is_gone_does_nothing) {
     files_.mnufájlfájl(place("nincs.szs"));
 
     EXPECT_TRUE(boxes_.asked.isEmpty());
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
 }
 
 TEST_F(WordListFiles, missing_recent_files_drop_out_when_the_list_is_written) {
@@ -356,7 +357,7 @@ TEST_F(WordListFiles, command_line_may_quote_the_path_or_not) {
     for (const QString &line : {path, u'"' + path + u'"'}) {
         list_.kiürít();
         files_.parancssorból(line);
-        EXPECT_EQ(pairs(), QStringLiteral("a:b"));
+        EXPECT_EQ(pairs(), u"a:b"_s);
         EXPECT_EQ(state_.aktuálisfájl, QDir::toNativeSeparators(path));
     }
 }
@@ -365,8 +366,7 @@ TEST_F(WordListFiles, command_line_with_a_missing_file_or_a_folder_says_so) {
     files_.parancssorból(u'"' + place("nincs.szs") + u'"');
     files_.parancssorból(place("angol"));
 
-    EXPECT_EQ(boxes_.told,
-              QStringList({QStringLiteral("Sikertelen fájlmegnyitás!"), QStringLiteral("Sikertelen fájlmegnyitás!")}));
+    EXPECT_EQ(boxes_.told, QStringList({u"Sikertelen fájlmegnyitás!"_s, u"Sikertelen fájlmegnyitás!"_s}));
     EXPECT_EQ(state_.aktuálisfájl, QString());
     EXPECT_TRUE(list_.üres());
 }
@@ -402,7 +402,7 @@ TEST_F(WordListFiles, exit_stays_when_the_name_is_cancelled_or_the_file_cannot_b
     dialogs_.choices = {place("nincs/lista")};
     EXPECT_FALSE(files_.kilépéskérdés());
 
-    EXPECT_EQ(pairs(), QStringLiteral("apple:alma"));
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
 }
 
 TEST_F(WordListFiles, recent_list_that_cannot_be_written_is_told) {
@@ -411,7 +411,7 @@ TEST_F(WordListFiles, recent_list_that_cannot_be_written_is_told) {
     files.mnufájlúj();
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].contains(QStringLiteral("zbrmkfnh.ini")));
+    EXPECT_TRUE(boxes_.told[0].contains(u"zbrmkfnh.ini"_s));
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class WordPairList : public testing::Test {
@@ -14,73 +16,73 @@ class WordPairList : public testing::Test {
 };
 
 TEST_F(WordPairList, keeps_one_pair_when_the_same_meaning_is_added_twice) {
-    list_.felvesz(QStringLiteral("apple"), QStringLiteral("alma"));
+    list_.felvesz(u"apple"_s, u"alma"_s);
 
-    EXPECT_EQ(list_.felvesz(QStringLiteral("apple"), QStringLiteral("alma")), 0);
+    EXPECT_EQ(list_.felvesz(u"apple"_s, u"alma"_s), 0);
 
     EXPECT_EQ(list_.darab(), 1);
-    EXPECT_EQ(magyar(0), QStringLiteral("alma"));
+    EXPECT_EQ(magyar(0), u"alma"_s);
 }
 
 TEST_F(WordPairList, appends_another_meaning_to_the_pair_and_none_again) {
-    list_.felvesz(QStringLiteral("apple"), QStringLiteral("alma"));
-    list_.felvesz(QStringLiteral("apple"), QStringLiteral("almafa"));
+    list_.felvesz(u"apple"_s, u"alma"_s);
+    list_.felvesz(u"apple"_s, u"almafa"_s);
 
-    list_.felvesz(QStringLiteral("apple"), QStringLiteral("alma"));
+    list_.felvesz(u"apple"_s, u"alma"_s);
 
     EXPECT_EQ(list_.darab(), 1);
-    EXPECT_EQ(magyar(0), QStringLiteral("alma, almafa"));
+    EXPECT_EQ(magyar(0), u"alma, almafa"_s);
 }
 
 TEST_F(WordPairList, adds_a_meaning_that_is_only_the_beginning_of_one_it_has) {
-    list_.felvesz(QStringLiteral("house"), QStringLiteral("házi"));
+    list_.felvesz(u"house"_s, u"házi"_s);
 
-    list_.felvesz(QStringLiteral("house"), QStringLiteral("ház"));
+    list_.felvesz(u"house"_s, u"ház"_s);
 
-    EXPECT_EQ(magyar(0), QStringLiteral("házi, ház"));
+    EXPECT_EQ(magyar(0), u"házi, ház"_s);
 }
 
 TEST_F(WordPairList, takes_words_of_another_case_for_other_words) {
-    list_.felvesz(QStringLiteral("apple"), QStringLiteral("alma"));
+    list_.felvesz(u"apple"_s, u"alma"_s);
 
-    EXPECT_EQ(list_.felvesz(QStringLiteral("Apple"), QStringLiteral("alma")), 1);
+    EXPECT_EQ(list_.felvesz(u"Apple"_s, u"alma"_s), 1);
 
     EXPECT_EQ(list_.darab(), 2);
 }
 
 TEST_F(WordPairList, adds_the_meaning_to_the_first_of_repeated_words) {
-    list_.hozzáfűz({{QStringLiteral("a"), QStringLiteral("1")}, {QStringLiteral("a"), QStringLiteral("2")}});
+    list_.hozzáfűz({{u"a"_s, u"1"_s}, {u"a"_s, u"2"_s}});
 
-    EXPECT_EQ(list_.felvesz(QStringLiteral("a"), QStringLiteral("3")), 0);
+    EXPECT_EQ(list_.felvesz(u"a"_s, u"3"_s), 0);
 
-    EXPECT_EQ(magyar(0), QStringLiteral("1, 3"));
-    EXPECT_EQ(magyar(1), QStringLiteral("2"));
+    EXPECT_EQ(magyar(0), u"1, 3"_s);
+    EXPECT_EQ(magyar(1), u"2"_s);
 }
 
 TEST_F(WordPairList, keeps_the_order_of_insertion) {
-    list_.felvesz(QStringLiteral("b"), QStringLiteral("1"));
-    list_.felvesz(QStringLiteral("a"), QStringLiteral("2"));
+    list_.felvesz(u"b"_s, u"1"_s);
+    list_.felvesz(u"a"_s, u"2"_s);
 
-    EXPECT_EQ(list_.pár(0).angol, QStringLiteral("b"));
-    EXPECT_EQ(list_.pár(1).angol, QStringLiteral("a"));
+    EXPECT_EQ(list_.pár(0).angol, u"b"_s);
+    EXPECT_EQ(list_.pár(1).angol, u"a"_s);
 }
 
 TEST_F(WordPairList, selects_the_next_pair_after_removing_one) {
-    list_.hozzáfűz({{QStringLiteral("a"), {}}, {QStringLiteral("b"), {}}, {QStringLiteral("c"), {}}});
+    list_.hozzáfűz({{u"a"_s, {}}, {u"b"_s, {}}, {u"c"_s, {}}});
 
     EXPECT_EQ(list_.töröl(1), 1);
 
-    EXPECT_EQ(list_.pár(1).angol, QStringLiteral("c"));
+    EXPECT_EQ(list_.pár(1).angol, u"c"_s);
 }
 
 TEST_F(WordPairList, selects_the_new_last_pair_after_removing_the_last) {
-    list_.hozzáfűz({{QStringLiteral("a"), {}}, {QStringLiteral("b"), {}}});
+    list_.hozzáfűz({{u"a"_s, {}}, {u"b"_s, {}}});
 
     EXPECT_EQ(list_.töröl(1), 0);
 }
 
 TEST_F(WordPairList, selects_none_after_removing_the_only_pair) {
-    list_.hozzáfűz({{QStringLiteral("a"), {}}});
+    list_.hozzáfűz({{u"a"_s, {}}});
 
     EXPECT_EQ(list_.töröl(0), -1);
 
@@ -88,12 +90,11 @@ TEST_F(WordPairList, selects_none_after_removing_the_only_pair) {
 }
 
 TEST_F(WordPairList, shows_item_i_of_both_columns_as_pair_i) {
-    list_.hozzáfűz(
-        {{QStringLiteral("dog"), QStringLiteral("kutya")}, {QStringLiteral("cat"), QStringLiteral("macska")}});
+    list_.hozzáfűz({{u"dog"_s, u"kutya"_s}, {u"cat"_s, u"macska"_s}});
 
     EXPECT_EQ(list_.rowCount(), 2);
-    EXPECT_EQ(list_.index(1, szópárlista::angol_oszlop).data().toString(), QStringLiteral("cat"));
-    EXPECT_EQ(list_.index(1, szópárlista::magyar_oszlop).data().toString(), QStringLiteral("macska"));
+    EXPECT_EQ(list_.index(1, szópárlista::angol_oszlop).data().toString(), u"cat"_s);
+    EXPECT_EQ(list_.index(1, szópárlista::magyar_oszlop).data().toString(), u"macska"_s);
 }
 
 }  // namespace

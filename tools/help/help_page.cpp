@@ -6,6 +6,8 @@
 #include <optional>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace help {
 namespace {
 
@@ -19,11 +21,11 @@ class PageReader final {
         while (!failure_ && !reader_.atEnd())
             take(reader_.readNext());
         if (!failure_ && reader_.hasError())
-            fail(QStringLiteral("a lap nem jól formált (%1)").arg(reader_.errorString()));
+            fail(u"a lap nem jól formált (%1)"_s.arg(reader_.errorString()));
         if (!failure_ && page_.title.isEmpty())
-            fail(QStringLiteral("a lapnak nincs címe (title)"));
+            fail(u"a lapnak nincs címe (title)"_s);
         if (!failure_ && !has_body_)
-            fail(QStringLiteral("a lapnak nincs törzse (body)"));
+            fail(u"a lapnak nincs törzse (body)"_s);
         if (failure_)
             return *failure_;
         return std::move(page_);
@@ -56,27 +58,26 @@ class PageReader final {
             page_.title = reader_.readElementText().simplified();
         } else if (name == u"style" && own_style_ == OwnStyle::allowed) {
             reader_.skipCurrentElement();
-        } else if (name == u"link" && reader_.attributes().value(QStringLiteral("rel")) == u"stylesheet" &&
+        } else if (name == u"link" && reader_.attributes().value(u"rel"_s) == u"stylesheet" &&
                    page_.style_sheet.isEmpty()) {
-            page_.style_sheet = reader_.attributes().value(QStringLiteral("href")).toString();
+            page_.style_sheet = reader_.attributes().value(u"href"_s).toString();
         } else {
-            fail(QStringLiteral("„%1” elem itt nem lehet").arg(name));
+            fail(u"„%1” elem itt nem lehet"_s.arg(name));
         }
     }
 
     void body_element(const QString &name) {
-        static const QStringList refused{QStringLiteral("script"), QStringLiteral("style"),  QStringLiteral("link"),
-                                         QStringLiteral("iframe"), QStringLiteral("object"), QStringLiteral("embed"),
-                                         QStringLiteral("form"),   QStringLiteral("base"),   QStringLiteral("meta")};
+        static const QStringList refused{u"script"_s, u"style"_s, u"link"_s, u"iframe"_s, u"object"_s,
+                                         u"embed"_s,  u"form"_s,  u"base"_s, u"meta"_s};
         if (refused.contains(name)) {
-            fail(QStringLiteral("„%1” elem itt nem lehet").arg(name));
+            fail(u"„%1” elem itt nem lehet"_s.arg(name));
             return;
         }
         Token token{Token::Kind::start, name, {}, {}, reader_.lineNumber()};
         for (const QXmlStreamAttribute &one : reader_.attributes()) {
             const QString attribute = one.name().toString();
-            if (attribute.startsWith(QStringLiteral("on"))) {
-                fail(QStringLiteral("a lapon nem futhat program („%1”)").arg(attribute));
+            if (attribute.startsWith(u"on"_s)) {
+                fail(u"a lapon nem futhat program („%1”)"_s.arg(attribute));
                 return;
             }
             token.attributes.append({attribute, one.value().toString()});
@@ -104,7 +105,7 @@ class PageReader final {
 QString Token::attribute(QStringView wanted) const {
     for (const auto &[one, value] : attributes) {
         if (one == wanted)
-            return value.isNull() ? QStringLiteral("") : value;
+            return value.isNull() ? u""_s : value;
     }
     return {};
 }
@@ -121,7 +122,7 @@ bool is_plain_name(QStringView name) {
 }
 
 Failure failure_at(const QString &page, qint64 line, const QString &what) {
-    return {QStringLiteral("%1, %2. sor: %3.").arg(page, QString::number(line), what)};
+    return {u"%1, %2. sor: %3."_s.arg(page, QString::number(line), what)};
 }
 
 }  // namespace help

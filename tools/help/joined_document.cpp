@@ -3,10 +3,12 @@
 #include <QMap>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace help {
 namespace {
 
-const QString contents_key = QStringLiteral("tartalom");
+const QString contents_key = u"tartalom"_s;
 
 /// Elements that HTML closes itself.
 bool is_void(QStringView name) {
@@ -14,7 +16,7 @@ bool is_void(QStringView name) {
 }
 
 QString written(const QString &name, const QString &value) {
-    return u' ' + name + QStringLiteral("=\"") + value.toHtmlEscaped() + u'"';
+    return u' ' + name + u"=\""_s + value.toHtmlEscaped() + u'"';
 }
 
 /// The texts of the headings with an id, in order.
@@ -47,7 +49,7 @@ class Joiner final {
             if (auto failure = add(page))
                 return *failure;
         }
-        out_ += QStringLiteral("</body>\n</html>\n");
+        out_ += u"</body>\n</html>\n"_s;
         document_.html = out_.toUtf8();
         return document_;
     }
@@ -58,25 +60,23 @@ class Joiner final {
         if (const auto *failure = std::get_if<Failure>(&ids))
             return *failure;
         if (page.key() == contents_key)
-            return Failure{QStringLiteral("A lap neve nem lehet „%1”.").arg(page.name)};
+            return Failure{u"A lap neve nem lehet „%1”."_s.arg(page.name)};
         if (page.style_sheet != pages_.front().style_sheet)
-            return Failure{QStringLiteral("%1: a lap stíluslapja más, mint a címlapé.").arg(page.name)};
+            return Failure{u"%1: a lap stíluslapja más, mint a címlapé."_s.arg(page.name)};
         ids_.insert(page.name, std::get<QStringList>(ids));
         return std::nullopt;
     }
 
     void begin() {
-        out_ =
-            QStringLiteral("<!DOCTYPE html>\n<html lang=\"hu\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n")
-                .arg(pages_.front().title.toHtmlEscaped());
+        out_ = u"<!DOCTYPE html>\n<html lang=\"hu\">\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"_s.arg(
+            pages_.front().title.toHtmlEscaped());
         if (!document_.style_sheet.isEmpty())
-            out_ += QStringLiteral("<link rel=\"stylesheet\"%1>\n")
-                        .arg(written(QStringLiteral("href"), document_.style_sheet));
-        out_ += QStringLiteral("</head>\n<body>\n");
+            out_ += u"<link rel=\"stylesheet\"%1>\n"_s.arg(written(u"href"_s, document_.style_sheet));
+        out_ += u"</head>\n<body>\n"_s;
     }
 
     std::optional<Failure> add(const Page &page) {
-        out_ += QStringLiteral("<section class=\"lap\" id=\"%1\">").arg(page.key());
+        out_ += u"<section class=\"lap\" id=\"%1\">"_s.arg(page.key());
         for (const Token &token : page.body) {
             if (auto failure = add(page, token))
                 return failure;
@@ -85,9 +85,8 @@ class Joiner final {
         if (first)
             add_contents();
         else
-            out_ += QStringLiteral("<p class=\"tartalomhoz\"><a href=\"#%1\">Vissza a tartalomhoz</a></p>\n")
-                        .arg(contents_key);
-        out_ += QStringLiteral("</section>\n");
+            out_ += u"<p class=\"tartalomhoz\"><a href=\"#%1\">Vissza a tartalomhoz</a></p>\n"_s.arg(contents_key);
+        out_ += u"</section>\n"_s;
         return std::nullopt;
     }
 
@@ -95,7 +94,7 @@ class Joiner final {
         if (token.kind == Token::Kind::text) {
             out_ += token.text.toHtmlEscaped();
         } else if (token.kind == Token::Kind::end) {
-            out_ += is_void(token.name) ? QString() : QStringLiteral("</%1>").arg(token.name);
+            out_ += is_void(token.name) ? QString() : u"</%1>"_s.arg(token.name);
         } else {
             out_ += u'<' + token.name;
             for (const auto &[name, value] : token.attributes) {
@@ -116,8 +115,7 @@ class Joiner final {
         } else if (name == u"href") {
             auto place = target(page, value);
             if (!place)
-                return failure_at(page.name, token.line,
-                                  QStringLiteral("a hivatkozás nem vezet sehová: „%1”").arg(value));
+                return failure_at(page.name, token.line, u"a hivatkozás nem vezet sehová: „%1”"_s.arg(value));
             address = *place;
         }
         out_ += written(name, address);
@@ -142,10 +140,10 @@ class Joiner final {
     std::optional<Failure> add_picture(const Page &page, const Token &token) {
         const QString path = token.attribute(u"src");
         if (token.attribute(u"alt").isNull())
-            return failure_at(page.name, token.line, QStringLiteral("a képnek nincs leírása (alt): „%1”").arg(path));
+            return failure_at(page.name, token.line, u"a képnek nincs leírása (alt): „%1”"_s.arg(path));
         for (const QString &step : path.split(u'/')) {
             if (!is_plain_name(step) || step.startsWith(u'.'))
-                return failure_at(page.name, token.line, QStringLiteral("a kép neve nem megfelelő: „%1”").arg(path));
+                return failure_at(page.name, token.line, u"a kép neve nem megfelelő: „%1”"_s.arg(path));
         }
         if (!document_.pictures.contains(path))
             document_.pictures.append(path);
@@ -153,25 +151,25 @@ class Joiner final {
     }
 
     void add_contents() {
-        out_ += QStringLiteral("<nav id=\"%1\">\n<h2>Tartalom</h2>\n<ol>\n").arg(contents_key);
+        out_ += u"<nav id=\"%1\">\n<h2>Tartalom</h2>\n<ol>\n"_s.arg(contents_key);
         for (const Page &page : pages_) {
             if (&page == &pages_.front())
                 continue;
-            out_ += QStringLiteral("<li>%1").arg(contents_link(page.key(), page.title));
+            out_ += u"<li>%1"_s.arg(contents_link(page.key(), page.title));
             const auto chapters = chapters_of(page);
             if (!chapters.isEmpty())
-                out_ += QStringLiteral("\n<ul>\n");
+                out_ += u"\n<ul>\n"_s;
             for (const auto &[id, text] : chapters)
-                out_ += QStringLiteral("<li>%1</li>\n").arg(contents_link(page.key() + u'.' + id, text.simplified()));
+                out_ += u"<li>%1</li>\n"_s.arg(contents_link(page.key() + u'.' + id, text.simplified()));
             if (!chapters.isEmpty())
-                out_ += QStringLiteral("</ul>\n");
-            out_ += QStringLiteral("</li>\n");
+                out_ += u"</ul>\n"_s;
+            out_ += u"</li>\n"_s;
         }
-        out_ += QStringLiteral("</ol>\n</nav>\n");
+        out_ += u"</ol>\n</nav>\n"_s;
     }
 
     static QString contents_link(const QString &place, const QString &text) {
-        return QStringLiteral("<a href=\"#%1\">%2</a>").arg(place, text.toHtmlEscaped());
+        return u"<a href=\"#%1\">%2</a>"_s.arg(place, text.toHtmlEscaped());
     }
 
     const QVector<Page> &pages_;
@@ -199,9 +197,9 @@ std::variant<QStringList, Failure> ids_of(const Page &page) {
         if (id.isNull())
             continue;
         if (!is_plain_name(id) || id.contains(u'.'))
-            return failure_at(page.name, token.line, QStringLiteral("az azonosító nem megfelelő: „%1”").arg(id));
+            return failure_at(page.name, token.line, u"az azonosító nem megfelelő: „%1”"_s.arg(id));
         if (ids.contains(id))
-            return failure_at(page.name, token.line, QStringLiteral("az azonosító már szerepel a lapon: „%1”").arg(id));
+            return failure_at(page.name, token.line, u"az azonosító már szerepel a lapon: „%1”"_s.arg(id));
         ids.append(id);
     }
     return ids;

@@ -8,11 +8,16 @@
 #include "help/joined_document.h"
 #include "help/web_archive.h"
 
+using namespace Qt::StringLiterals;
+
 namespace help {
+
+const QString archive_name = u"Kavaro súgó.mht"_s;
+
 namespace {
 
-const QString contents_file = QStringLiteral("tartalom.txt");
-const QString first_page = QStringLiteral("index.html");
+const QString contents_file = u"tartalom.txt"_s;
+const QString first_page = u"index.html"_s;
 
 struct Contents {
     QStringList pages;
@@ -27,18 +32,18 @@ std::variant<Contents, Failure> parse_contents(const QByteArray &bytes) {
         QString name = lines[i].trimmed();
         if (name.isEmpty() || name.startsWith(u'#'))
             continue;
-        const QString mark = QStringLiteral("mellette:");
+        const QString mark = u"mellette:"_s;
         const bool lies_beside = name.startsWith(mark);
         if (lies_beside)
             name = name.mid(mark.size()).trimmed();
-        if (!is_plain_name(name) || !name.endsWith(QStringLiteral(".html")) || name != name.toLower())
-            return at(i + 1, QStringLiteral("ez nem lehet egy lap neve: „%1”").arg(name));
+        if (!is_plain_name(name) || !name.endsWith(u".html"_s) || name != name.toLower())
+            return at(i + 1, u"ez nem lehet egy lap neve: „%1”"_s.arg(name));
         if (contents.pages.contains(name) || contents.beside.contains(name))
-            return at(i + 1, QStringLiteral("a lap már szerepel: „%1”").arg(name));
+            return at(i + 1, u"a lap már szerepel: „%1”"_s.arg(name));
         (lies_beside ? contents.beside : contents.pages).append(name);
     }
     if (contents.pages.value(0) != first_page)
-        return Failure{QStringLiteral("%1: az első lap nem „%2”.").arg(contents_file, first_page)};
+        return Failure{u"%1: az első lap nem „%2”."_s.arg(contents_file, first_page)};
     return contents;
 }
 
@@ -54,9 +59,9 @@ class Packer final {
         if (const auto *failure = std::get_if<Failure>(&contents))
             return *failure;
         contents_ = std::get<Contents>(std::move(contents));
-        for (const QString &name : folder_.entryList({QStringLiteral("*.html")}, QDir::Files)) {
+        for (const QString &name : folder_.entryList({u"*.html"_s}, QDir::Files)) {
             if (!contents_.pages.contains(name) && !contents_.beside.contains(name))
-                return Failure{QStringLiteral("%1: hiányzik belőle a „%2” lap.").arg(contents_file, name)};
+                return Failure{u"%1: hiányzik belőle a „%2” lap."_s.arg(contents_file, name)};
         }
         for (const QString &name : contents_.pages) {
             if (auto failure = read_page(name))
@@ -84,7 +89,7 @@ class Packer final {
                 return *failure;
         }
         written_.append({archive_name, web_archive(parts)});
-        output_.mkpath(QStringLiteral("."));
+        output_.mkpath(u"."_s);
         for (const auto &[name, bytes] : written_) {
             if (auto failure = files::replace_whole(output_.filePath(name), bytes))
                 return *failure;
@@ -113,13 +118,13 @@ class Packer final {
             return *failure;
         const auto &page = std::get<Page>(result);
         if (!page.style_sheet.isEmpty())
-            return Failure{QStringLiteral("%1: a dokumentum mellett nincs stíluslap.").arg(name)};
+            return Failure{u"%1: a dokumentum mellett nincs stíluslap."_s.arg(name)};
         for (const Token &token : page.body) {
             if (token.name == u"img")
-                return failure_at(name, token.line, QStringLiteral("a dokumentum mellett nincsenek képek"));
+                return failure_at(name, token.line, u"a dokumentum mellett nincsenek képek"_s);
             const QString link = token.attribute(u"href");
             if (!link.isNull() && !is_web_address(link) && QUrl(link).path() != archive_name)
-                return failure_at(name, token.line, QStringLiteral("a hivatkozás nem vezet sehová: „%1”").arg(link));
+                return failure_at(name, token.line, u"a hivatkozás nem vezet sehová: „%1”"_s.arg(link));
         }
         written_.append({name, std::get<QByteArray>(bytes)});
         return std::nullopt;
@@ -131,7 +136,7 @@ class Packer final {
             return *failure;
         const auto &style = std::get<QByteArray>(bytes);
         if (!is_plain_name(name) || style.contains("url(") || style.contains("@import"))
-            return Failure{QStringLiteral("%1: a stíluslap nem hivatkozhat más fájlra.").arg(name)};
+            return Failure{u"%1: a stíluslap nem hivatkozhat más fájlra."_s.arg(name)};
         parts.append({name, "text/css", style});
         return std::nullopt;
     }
@@ -146,7 +151,7 @@ class Packer final {
         else if (ending == u"svg")
             type = "image/svg+xml";
         else
-            return Failure{QStringLiteral("„%1”: ilyen fajta kép nem lehet a súgóban.").arg(path)};
+            return Failure{u"„%1”: ilyen fajta kép nem lehet a súgóban."_s.arg(path)};
         FileContent bytes = files::read_whole(folder_.filePath(path));
         if (const auto *failure = std::get_if<Failure>(&bytes))
             return *failure;

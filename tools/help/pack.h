@@ -16,7 +16,7 @@
 //     mellette: keszito.html
 namespace help {
 
-inline const QString archive_name = QStringLiteral("Kavaro súgó.mht");
+extern const QString archive_name;
 
 struct Packed {
     qsizetype pages = 0;

@@ -4,22 +4,22 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Letters of more than one character. Those of three come first, so that they win over the two they begin with.
 const std::array többjegyűek{
-    QStringLiteral("dzs"), QStringLiteral("ccs"), QStringLiteral("ddz"), QStringLiteral("ggy"), QStringLiteral("lly"),
-    QStringLiteral("nny"), QStringLiteral("ssz"), QStringLiteral("tty"), QStringLiteral("zzs"), QStringLiteral("cs"),
-    QStringLiteral("dz"),  QStringLiteral("gy"),  QStringLiteral("ly"),  QStringLiteral("ny"),  QStringLiteral("sz"),
-    QStringLiteral("ty"),  QStringLiteral("zs"),
+    u"dzs"_s, u"ccs"_s, u"ddz"_s, u"ggy"_s, u"lly"_s, u"nny"_s, u"ssz"_s, u"tty"_s, u"zzs"_s,
+    u"cs"_s,  u"dz"_s,  u"gy"_s,  u"ly"_s,  u"ny"_s,  u"sz"_s,  u"ty"_s,  u"zs"_s,
 };
 
 /// Compound words in which two letters meet that look like one, with a blank between their letters.
 const std::array összetettek{
-    QStringLiteral("r a j z sz ö g"),
-    QStringLiteral("r a j z sz e g"),
-    QStringLiteral("k a r o s sz é k"),
-    QStringLiteral("m a g á n ny o m o z ó"),
+    u"r a j z sz ö g"_s,
+    u"r a j z sz e g"_s,
+    u"k a r o s sz é k"_s,
+    u"m a g á n ny o m o z ó"_s,
 };
 
 /// Lower case, character by character: as long as `szöveg`.
@@ -103,7 +103,7 @@ QString kszöveg::szóbetűje(int i) const {
 }
 
 bool kszöveg::EzabetűMagánhangzóE(int i) const {
-    static const QString magánhangzók = QStringLiteral("aáeéiíoóöőuúüű");
+    static const QString magánhangzók = u"aáeéiíoóöőuúüű"_s;
     const QString betű = szóbetűje(i);
     return betű.size() == 1 && magánhangzók.contains(betű);
 }
@@ -117,7 +117,7 @@ QString kszöveg::magyarright(int n) const {
 }
 
 QString kszöveg::VesszősSzöveg() const {
-    QString vesszős = QStringLiteral(",");
+    QString vesszős = u","_s;
     for (const QString &betű : betűk_)
         vesszős += betű + u',';
     return vesszős;
@@ -128,7 +128,7 @@ bool kszöveg::vanebenne(const QString &betű) const {
 }
 
 QString kszöveg::Névelővel(bool nagybetűs) const {
-    const QString névelő = EzabetűMagánhangzóE(1) ? QStringLiteral("az ") : QStringLiteral("a ");
+    const QString névelő = EzabetűMagánhangzóE(1) ? u"az "_s : u"a "_s;
     return (nagybetűs ? névelő.at(0).toUpper() + névelő.mid(1) : névelő) + szöveg_;
 }
 

@@ -68,7 +68,7 @@ class kszöveg final {
     void betűkre_bont();
 
     QString szöveg_;
-    QString töltelék_ = QStringLiteral(" ");
+    QString töltelék_{u' '};
     int nyelv_ = magyar;
     QStringList betűk_;
 };

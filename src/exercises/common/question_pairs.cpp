@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 kérdésnyelv kérdés_nyelve(irány merre, RandomNumbers &véletlen) {
     const int index = merre == irány::változó ? véletlen.pick(2) : static_cast<int>(merre);
     return index == static_cast<int>(irány::magyarról) ? kérdésnyelv::magyar : kérdésnyelv::angol;
@@ -56,5 +58,5 @@ int kérdéssor::hibaarány() const {
 }
 
 QString számszöveg(int szám) {
-    return (szám < 0 ? QString() : QStringLiteral(" ")) + QString::number(szám);
+    return (szám < 0 ? QString() : u" "_s) + QString::number(szám);
 }

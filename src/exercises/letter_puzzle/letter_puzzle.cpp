@@ -1,5 +1,7 @@
 #include "exercises/letter_puzzle/letter_puzzle.h"
 
+using namespace Qt::StringLiterals;
+
 kirakójáték::kirakójáték(const QVector<szópár> &szavak, RandomNumbers &véletlen)
     : sor_(szavak, véletlen), véletlen_(véletlen) {}
 
@@ -13,7 +15,7 @@ bool kirakójáték::következő(irány merre) {
     nyelv_ = kérdés_nyelve(merre, véletlen_);
     megoldás_.szövegnyelv(nyelv_ == kérdésnyelv::magyar ? kszöveg::angol : kszöveg::magyar);
     megoldás_.value(sor_.megoldás(aktuális_, nyelv_));
-    megoldás_.csere(QStringLiteral(" "), QStringLiteral("_"));
+    megoldás_.csere(u" "_s, u"_"_s);
     return true;
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 memóriajáték::memóriajáték(const QVector<szópár> &szavak, RandomNumbers &véletlen) : véletlen_(véletlen) {
     for (const szópár &szó : szavak)
         szópárok_.append({szó.magyar.section(u',', 0, 0), szó.angol});
@@ -77,5 +79,5 @@ void memóriajáték::lefed() {
 }
 
 QString memóriajáték::állás() const {
-    return QStringLiteral("%1/%2").arg(megtalált_).arg(játékpárok_.size());
+    return u"%1/%2"_s.arg(megtalált_).arg(játékpárok_.size());
 }

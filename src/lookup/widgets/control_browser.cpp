@@ -9,6 +9,8 @@
 #include "lookup/control_address.h"
 #include "lookup/widgets/system_browser.h"
 
+using namespace Qt::StringLiterals;
+
 ControlSurface::ControlSurface() {
     // The control lives in a window of the system.
     setAttribute(Qt::WA_NativeWindow);
@@ -59,10 +61,10 @@ WebControl::Events ControlBrowser::events() {
                 // Not before the control is done with the request.
                 QTimer::singleShot(0, this, [this, address] { navigate(address_of_control(address)); });
             },
-            [this] { refuse(QStringLiteral("Innen nem tölthető le fájl.")); },
+            [this] { refuse(u"Innen nem tölthető le fájl."_s); },
             [this](const QString &address, int code) {
-                refuse(QStringLiteral("A(z) „%1” lap nem tölthető be: hiba történt (%2).")
-                           .arg(address, QString::number(static_cast<quint32>(code), 16)));
+                refuse(u"A(z) „%1” lap nem tölthető be: hiba történt (%2)."_s.arg(
+                    address, QString::number(static_cast<quint32>(code), 16)));
             }};
 }
 
@@ -117,7 +119,7 @@ WebBrowserResult make_system_browser(const WebBrowserRules &rules) {
     auto browser = std::make_unique<ControlBrowser>(rules);
     if (!browser->works())
         return Failure{
-            QStringLiteral("A súgó nem mutatható meg, mert a Windows böngészővezérlője hiányzik vagy nem "
-                           "indítható.")};
+            u"A súgó nem mutatható meg, mert a Windows böngészővezérlője hiányzik vagy nem "
+            "indítható."_s};
     return browser;
 }

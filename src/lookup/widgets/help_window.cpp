@@ -15,6 +15,8 @@
 #include "ui/drawing/twips.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -33,7 +35,7 @@ constexpr double szél = 100;
 
 constexpr int időköz = 100;  // milliseconds
 
-const QString keresőlap = QStringLiteral("https://duckduckgo.com/");
+const QString keresőlap = u"https://duckduckgo.com/"_s;
 
 struct Gomb {
     const char16_t *kulcs;
@@ -56,17 +58,17 @@ constexpr std::array<Gomb, 6> imlIcons{{
 }  // namespace
 
 frm_súgó::frm_súgó(const súgókörnyezet &környezet)
-    : ablak(QStringLiteral("frm_súgó"), menü::nincs, keret::átméretezhető),
+    : ablak(u"frm_súgó"_s, menü::nincs, keret::átméretezhető),
       k_(környezet),
       címek_(k_.programkönyvtár),
       kezdőcím_(címek_.kezdőcím()),
       tbToolBar_(named(new QToolBar, u"tbToolBar", u"Eszköztár")),
       picAddress_(named(new PictureBox, u"picAddress", u"Címsor")),
-      lblAddress_(named(new QLabel(QStringLiteral("&Address:")), u"lblAddress", nullptr)),
+      lblAddress_(named(new QLabel(u"&Address:"_s), u"lblAddress", nullptr)),
       cboAddress_(named(new QComboBox, u"cboAddress", u"Cím")),
       timTimer_(new QTimer(this)) {
-    setWindowTitle(QStringLiteral("Kavaro - Súgó"));
-    timTimer_->setObjectName(QStringLiteral("timTimer"));
+    setWindowTitle(u"Kavaro - Súgó"_s);
+    timTimer_->setObjectName(u"timTimer"_s);
     timTimer_->setInterval(időköz);
     connect(timTimer_, &QTimer::timeout, this, [this] { timTimer_Timer(); });
     eszköztár();
@@ -82,9 +84,8 @@ void frm_súgó::eszköztár() {
         const QKeySequence billentyű(gomb.billentyű);
         const QString név = QString::fromUtf16(gomb.név);
         button->setShortcut(billentyű);
-        button->setToolTip(billentyű.isEmpty()
-                               ? név
-                               : név + QStringLiteral(" (%1)").arg(billentyű.toString(QKeySequence::NativeText)));
+        button->setToolTip(billentyű.isEmpty() ? név
+                                               : név + u" (%1)"_s.arg(billentyű.toString(QKeySequence::NativeText)));
         button->setAutoRaise(true);
         tbToolBar_->addWidget(button);
         connect(button, &QToolButton::clicked, this, [this, mi = gomb.teendő] { tbToolBar_ButtonClick(mi); });
@@ -133,7 +134,7 @@ void frm_súgó::elhelyezés() {
     const int oldal = twips::to_pixels(képméret * szorzó);
     tbToolBar_->setIconSize({oldal, oldal});
     for (const Gomb &gomb : imlIcons) {
-        const QString fájl = QStringLiteral(":/help-toolbar/%1.svg").arg(QString::fromLatin1(gomb.kép));
+        const QString fájl = u":/help-toolbar/%1.svg"_s.arg(QString::fromLatin1(gomb.kép));
         findChild<QToolButton *>(QString::fromUtf16(gomb.kulcs))
             ->setIcon(svg_picture(fájl, {oldal, oldal}, devicePixelRatioF()));
     }
@@ -205,7 +206,7 @@ void frm_súgó::lapnév() {
 
 void frm_súgó::timTimer_Timer() {
     if (brwWebBrowser_->busy()) {
-        setWindowTitle(QStringLiteral("Working..."));
+        setWindowTitle(u"Working..."_s);
         return;
     }
     timTimer_->stop();

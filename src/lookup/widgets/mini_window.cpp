@@ -14,6 +14,8 @@
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -35,11 +37,11 @@ constexpr int vágólapidő = 300;
 /// No panel of a desktop is wider than this, in twips.
 constexpr double panelméret = 1500;
 
-const QString fejléc_súgója = QStringLiteral(
-    "Ha megfogja a fejlécet az egérrel, szabadon áthelyezheti az ablakot.  Az F2 megnyomására az ablak a "
-    "képernyő sarkába ugrik.");
-const QString lent_súgója = QStringLiteral("A szótár kisablakát a képernyő sarkába igazítja. (F2)");
-const QString x_súgója = QStringLiteral("Szótár bezárása");
+const QString fejléc_súgója =
+    u"Ha megfogja a fejlécet az egérrel, szabadon áthelyezheti az ablakot.  Az F2 megnyomására az ablak a "
+    "képernyő sarkába ugrik."_s;
+const QString lent_súgója = u"A szótár kisablakát a képernyő sarkába igazítja. (F2)"_s;
+const QString x_súgója = u"Szótár bezárása"_s;
 
 template <class Control>
 Control *súgóval(Control *control, const QString &súgó) {
@@ -49,7 +51,7 @@ Control *súgóval(Control *control, const QString &súgó) {
 
 QFrame *vonalka(size_t i) {
     auto *új = new QFrame;
-    új->setObjectName(QStringLiteral("Line1(%1)").arg(i));
+    új->setObjectName(u"Line1(%1)"_s.arg(i));
     új->setFrameStyle(i < 2 ? QFrame::HLine | QFrame::Plain : QFrame::VLine | QFrame::Plain);
     return új;
 }
@@ -85,28 +87,27 @@ QPixmap kereszt(const QSize &méret, double arány) {
 }  // namespace
 
 frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
-    : ablak(QStringLiteral("frm_kisablak"), menü::nincs, keret::nincs),
+    : ablak(u"frm_kisablak"_s, menü::nincs, keret::nincs),
       k_(környezet),
-      label_fejléc_(súgóval(named(new QLabel(QStringLiteral("Szótár")), u"label_fejléc"), fejléc_súgója)),
+      label_fejléc_(súgóval(named(new QLabel(u"Szótár"_s), u"label_fejléc"), fejléc_súgója)),
       cmd_lent_(súgóval(named(new QLabel, u"cmd_lent", u"Sarokba, F2"), lent_súgója)),
       cmd_x_(súgóval(named(new QLabel, u"cmd_x", u"Szótár bezárása"), x_súgója)),
-      Label1_(named(new QLabel(QStringLiteral("Keresett szó:")), u"Label1")),
+      Label1_(named(new QLabel(u"Keresett szó:"_s), u"Label1")),
       txt_keres_(súgóval(named(keresőmező(), u"txt_keres", u"Keresett szó"),
-                         QStringLiteral("Ide írja be a keresett szót. Ha valamely alkalmazásban a vágólapra helyez egy "
-                                        "szót, az rögtön megjelenik a keresőmezőben."))),
-      cmd_keres_(
-          súgóval(named(new QPushButton(QStringLiteral("Keres")), u"cmd_keres", u"Keres"), QStringLiteral("Keres"))),
-      lst_találatlista_(súgóval(named(new ListBox, u"lst_találatlista", u"Találatok"),
-                                QStringLiteral("A keresésnek megfelelő szavak listája"))),
+                         u"Ide írja be a keresett szót. Ha valamely alkalmazásban a vágólapra helyez egy "
+                         "szót, az rögtön megjelenik a keresőmezőben."_s)),
+      cmd_keres_(súgóval(named(new QPushButton(u"Keres"_s), u"cmd_keres", u"Keres"), u"Keres"_s)),
+      lst_találatlista_(
+          súgóval(named(new ListBox, u"lst_találatlista", u"Találatok"), u"A keresésnek megfelelő szavak listája"_s)),
       lst_translate_(súgóval(named(new ListBox, u"lst_translate", u"Jelentések"),
-                             QStringLiteral("Itt jelennek meg a keresett szó megfelelői."))),
+                             u"Itt jelennek meg a keresett szó megfelelői."_s)),
       cmd_szószedethez_ad_(
-          súgóval(named(new QPushButton(QStringLiteral("Szószedet")), u"cmd_szószedethez_ad", u"A szószedethez ad"),
-                  QStringLiteral("A szószedethez adja a keresett szót és a kijelölt fordítását. A szószedet használata "
-                                 "segíti a tanulást, és a gyakorlást. A szószedet szavai csak a nagyablakban jelennek "
-                                 "meg."))),
-      cmd_kilép_(súgóval(named(new QPushButton(QStringLiteral("Nagy")), u"cmd_kilép", u"Nagy ablak"),
-                         QStringLiteral("A nagy ablakra vált, melyben több szolgáltatás áll rendelkezésére."))),
+          súgóval(named(new QPushButton(u"Szószedet"_s), u"cmd_szószedethez_ad", u"A szószedethez ad"),
+                  u"A szószedethez adja a keresett szót és a kijelölt fordítását. A szószedet használata "
+                  "segíti a tanulást, és a gyakorlást. A szószedet szavai csak a nagyablakban jelennek "
+                  "meg."_s)),
+      cmd_kilép_(súgóval(named(new QPushButton(u"Nagy"_s), u"cmd_kilép", u"Nagy ablak"),
+                         u"A nagy ablakra vált, melyben több szolgáltatás áll rendelkezésére."_s)),
       Timer1_(new QTimer(this)),
       vágólap_(k_.vágólap()) {
     setWindowFlag(Qt::WindowStaysOnTopHint);
@@ -116,8 +117,7 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
     eseményeket_köt();
     Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, képernyőrész));
     k_.hasznos.ablakstílus(*this);
-    const QString cím = k_.nagy.angolról() ? QStringLiteral("Zimbora Angol-magyar szótár")
-                                           : QStringLiteral("Zimbora Magyar-angol szótár");
+    const QString cím = k_.nagy.angolról() ? u"Zimbora Angol-magyar szótár"_s : u"Zimbora Magyar-angol szótár"_s;
     label_fejléc_->setText(cím);
     setWindowTitle(cím);
     if (const auto most = vágólap_->text())
@@ -128,7 +128,7 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
 
 frm_kisablak::~frm_kisablak() {
     if (!k_.nagy.vége())
-        k_.üzenetek.tell(QStringLiteral("Elveszett"));
+        k_.üzenetek.tell(u"Elveszett"_s);
 }
 
 void frm_kisablak::elhelyezés() {
@@ -156,7 +156,7 @@ void frm_kisablak::eseményeket_köt() {
     connect(lst_translate_, &ListBox::itemDoubleClicked, this, [this] { k_.nagy.magyarlist_DblClick(); });
     connect(cmd_szószedethez_ad_, &QPushButton::clicked, this, [this] { cmd_szószedethez_ad_Click(); });
     connect(cmd_kilép_, &QPushButton::clicked, this, [this] { cmd_kilép_Click(); });
-    Timer1_->setObjectName(QStringLiteral("Timer1"));
+    Timer1_->setObjectName(u"Timer1"_s);
     connect(Timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
     // The window sees keys before its controls do.
     for (QWidget *vezérlő : vezérlők())
@@ -177,7 +177,7 @@ void frm_kisablak::fejlécet_elrendez() {
     elhelyez(cmd_lent_, {jobb - 2 * gomb, vastag, gomb, gomb});
     label_fejléc_->lower();
     label_fejléc_->setContentsMargins(twips::to_pixels(szél), 0, 2 * cmd_x_->width(), 0);
-    cmd_lent_->setText(QStringLiteral(">"));
+    cmd_lent_->setText(u">"_s);
     cmd_x_->setPixmap(kereszt(cmd_x_->size(), devicePixelRatioF()));
     QFont betű = cmd_x_->font();
     fonts::set_points(betű, fonts::points(cmd_lent_->font()) - 1);
@@ -441,8 +441,8 @@ bool frm_kisablak::eventFilter(QObject *watched, QEvent *event) {
                 break;
             // As rich text a long tip is broken into lines.
             QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                               QStringLiteral("<p style='white-space:pre-wrap'>%1</p>")
-                                   .arg(static_cast<QWidget *>(watched)->toolTip().toHtmlEscaped()),
+                               u"<p style='white-space:pre-wrap'>%1</p>"_s.arg(
+                                   static_cast<QWidget *>(watched)->toolTip().toHtmlEscaped()),
                                static_cast<QWidget *>(watched));
             return true;
         case QEvent::MouseButtonPress:

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 MissingBrowser::MissingBrowser(const QString &reason) : reason_(std::make_unique<QLabel>(reason)) {
     reason_->setTextFormat(Qt::PlainText);
     reason_->setWordWrap(true);
@@ -10,6 +12,10 @@ MissingBrowser::MissingBrowser(const QString &reason) : reason_(std::make_unique
 }
 
 MissingBrowser::~MissingBrowser() = default;
+
+QString MissingBrowser::location_name() const {
+    return u"Kavaro - Súgó"_s;
+}
 
 QWidget *MissingBrowser::widget() {
     return reason_.get();

@@ -26,7 +26,7 @@ class MissingBrowser final : public WebBrowser {
     void go_search() override {}
     void stop() override {}
     [[nodiscard]] bool busy() const override { return false; }
-    [[nodiscard]] QString location_name() const override { return QStringLiteral("Kavaro - Súgó"); }
+    [[nodiscard]] QString location_name() const override;
     [[nodiscard]] QString location_address() const override { return {}; }
 
   private:

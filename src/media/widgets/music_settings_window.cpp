@@ -9,6 +9,8 @@
 #include "ui/drawing/twips.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -39,7 +41,7 @@ QPushButton *gomb(const char16_t *név, const char16_t *felirat) {
 
 QPushButton *nyílgomb(int index, const char16_t *mit) {
     auto *nyilas = named(new QPushButton, u"", mit);
-    nyilas->setObjectName(QStringLiteral("cmd_áthelyez(%1)").arg(index));
+    nyilas->setObjectName(u"cmd_áthelyez(%1)"_s.arg(index));
     nyilas->setToolTip(QString::fromUtf16(mit));
     return nyilas;
 }
@@ -47,24 +49,22 @@ QPushButton *nyílgomb(int index, const char16_t *mit) {
 }  // namespace
 
 frm_zenebeáll::frm_zenebeáll(const hangkörnyezet &környezet)
-    : ablak(QStringLiteral("frm_zenebeáll")),
+    : ablak(u"frm_zenebeáll"_s),
       k_(környezet),
       beállítások_(k_.meghajtó, k_.programkönyvtár),
-      Label2_(named(new QLabel(QStringLiteral("A rendelkezésre álló zenei fájlok:")), u"Label2", nullptr)),
-      filelist_zene_(
-          named(new FileListBox(QStringLiteral("*.mid")), u"filelist_zene", u"A rendelkezésre álló zenei fájlok")),
+      Label2_(named(new QLabel(u"A rendelkezésre álló zenei fájlok:"_s), u"Label2", nullptr)),
+      filelist_zene_(named(new FileListBox(u"*.mid"_s), u"filelist_zene", u"A rendelkezésre álló zenei fájlok")),
       cmd_add_(gomb(u"cmd_add", u"Zene hozzáadása a listához")),
-      Label1_(named(new QLabel(QStringLiteral("A lejátszásra kerülő zenei fájlok:")), u"Label1", nullptr)),
+      Label1_(named(new QLabel(u"A lejátszásra kerülő zenei fájlok:"_s), u"Label1", nullptr)),
       list_playlist_(named(new ListBox, u"list_playlist", u"A lejátszásra kerülő zenei fájlok")),
       cmd_törl_(gomb(u"cmd_törl", u"Zene törlése a listából")),
       fel_(nyílgomb(fel_index, u"A kijelölt zene feljebb")),
       le_(nyílgomb(le_index, u"A kijelölt zene lejjebb")),
-      chk_zene_enged_(
-          named(new QCheckBox(QStringLiteral("Zene engedélyezése")), u"chk_zene_enged", u"Zene engedélyezése")),
-      cmd_ok_(named(new QPushButton(QStringLiteral("Ok")), u"cmd_ok", u"Ok, mentés")),
-      cmd_mégsem_(named(new QPushButton(QStringLiteral("Mégsem")), u"cmd_mégsem", u"Mégsem")),
-      lab_türelem_(named(new QLabel(QStringLiteral("Fájl.mid lejátszása")), u"lab_türelem", nullptr)) {
-    setWindowTitle(QStringLiteral("Zenei beállítások"));
+      chk_zene_enged_(named(new QCheckBox(u"Zene engedélyezése"_s), u"chk_zene_enged", u"Zene engedélyezése")),
+      cmd_ok_(named(new QPushButton(u"Ok"_s), u"cmd_ok", u"Ok, mentés")),
+      cmd_mégsem_(named(new QPushButton(u"Mégsem"_s), u"cmd_mégsem", u"Mégsem")),
+      lab_türelem_(named(new QLabel(u"Fájl.mid lejátszása"_s), u"lab_türelem", nullptr)) {
+    setWindowTitle(u"Zenei beállítások"_s);
     elhelyezés();
     eseményeket_köt();
     Form_Load();
@@ -168,7 +168,7 @@ void frm_zenebeáll::indít(const QString &név) {
 
 /// Says what is being opened, in the largest letters in which it takes nine tenths of the width.
 void frm_zenebeáll::türelmet_kér(const QString &név) {
-    const QString szöveg = név + QStringLiteral(" fájl lejátszása");
+    const QString szöveg = név + u" fájl lejátszása"_s;
     QRectF helye = hely(lab_türelem_);
     QFont betű = lab_türelem_->font();
     double pont = türelem_pont;

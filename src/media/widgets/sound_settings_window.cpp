@@ -8,6 +8,8 @@
 #include "ui/controls/named.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -35,7 +37,7 @@ constexpr double képernyőrész = 0.95;
 
 /// A number as text: with a blank in the place of its sign.
 QString szám_szöveg(int szám) {
-    return (szám < 0 ? QString() : QStringLiteral(" ")) + QString::number(szám);
+    return (szám < 0 ? QString() : u" "_s) + QString::number(szám);
 }
 
 QCheckBox *jelölő(const char16_t *név, const char16_t *felirat) {
@@ -53,14 +55,14 @@ QLabel *címke(const char16_t *név, const char16_t *felirat = u"") {
 }  // namespace
 
 frm_hangbeáll::frm_hangbeáll(const hangkörnyezet &környezet)
-    : ablak(QStringLiteral("frm_hangbeáll")),
+    : ablak(u"frm_hangbeáll"_s),
       k_(környezet),
       beállítások_(k_.programkönyvtár),
       Label_hangszám_(címke(u"Label_hangszám")),
-      Filelist_(named(new FileListBox(QStringLiteral("*.wav")), u"Filelist", u"Hangok")),
+      Filelist_(named(new FileListBox(u"*.wav"_s), u"Filelist", u"Hangok")),
       cmd_play_(gomb(u"cmd_play", u"Hang lejátszása")),
       cmd_hangtörlése_(gomb(u"cmd_hangtörlése", u"Hang törlése")),
-      frame_hangjelzések_(named(new QGroupBox(QStringLiteral("Hangjelzések")), u"frame_hangjelzések", u"Hangjelzések")),
+      frame_hangjelzések_(named(new QGroupBox(u"Hangjelzések"_s), u"frame_hangjelzések", u"Hangjelzések")),
       chk_{jelölő(u"chk_hang_a_gratulálópanelen", u"Hangjelzések használata a gratuláló panelen"),
            jelölő(u"chk_hang_a_feladatokban_helyes", u"Hangjelzések használata a feladatokban helyes megoldás esetén"),
            jelölő(u"chk_hang_a_feladatokban_hiba", u"Hangjelzések használata a feladatokban hibás megoldás esetén"),
@@ -78,9 +80,9 @@ frm_hangbeáll::frm_hangbeáll(const hangkörnyezet &környezet)
                named(new ListBox, u"Lst_hibahang", u"Hibás megoldás esetén megszólaló hangok"),
                címke(u"Label_hibahang"), gomb(u"cmd_hibahang_add", u"Hozzáadás a hibahangok listájához"),
                gomb(u"cmd_hangtörl_hibahangból", u"Törlés a hibahangok listájából")}}},
-      cmd_ok_(named(new QPushButton(QStringLiteral("Ok")), u"cmd_ok", u"Ok, mentés")),
-      cmd_mégsem_(named(new QPushButton(QStringLiteral("Mégsem")), u"cmd_mégsem", u"Mégsem")) {
-    setWindowTitle(QStringLiteral("Kavaro Hangbeállítások"));
+      cmd_ok_(named(new QPushButton(u"Ok"_s), u"cmd_ok", u"Ok, mentés")),
+      cmd_mégsem_(named(new QPushButton(u"Mégsem"_s), u"cmd_mégsem", u"Mégsem")) {
+    setWindowTitle(u"Kavaro Hangbeállítások"_s);
     elhelyezés();
     eseményeket_köt();
     Form_Load();
@@ -190,10 +192,10 @@ void frm_hangbeáll::listákat_mutat() {
 void frm_hangbeáll::feliratok() {
     const int darab = Filelist_->count();
     const int hányadik = Filelist_->selected() + 1;
-    Label_hangszám_->setText(hányadik == 0 ? szám_szöveg(darab) + QStringLiteral(" hang áll rendelkezésemre")
+    Label_hangszám_->setText(hányadik == 0 ? szám_szöveg(darab) + u" hang áll rendelkezésemre"_s
                                            : szám_szöveg(hányadik) + u'\\' + szám_szöveg(darab));
     for (const Hangsor &sor : sorok_)
-        sor.szám->setText(szám_szöveg(sor.nevek.darab()) + QStringLiteral(" hang"));
+        sor.szám->setText(szám_szöveg(sor.nevek.darab()) + u" hang"_s);
 }
 
 void frm_hangbeáll::engedélyezés() {

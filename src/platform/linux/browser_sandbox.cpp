@@ -7,6 +7,8 @@
 #include <QString>
 #include <cerrno>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char *switched_off = "QTWEBENGINE_DISABLE_SANDBOX";
@@ -34,6 +36,6 @@ std::optional<Failure> prepare_browser_sandbox() {
     if (qEnvironmentVariableIntValue(switched_off) != 0 || can_lock_in())
         return std::nullopt;
     return Failure{
-        QStringLiteral("A súgó böngészője nem indítható: a rendszer nem engedi, hogy a lapokat elzárva "
-                       "jelenítse meg (a felhasználói névterek ki vannak kapcsolva).")};
+        u"A súgó böngészője nem indítható: a rendszer nem engedi, hogy a lapokat elzárva "
+        "jelenítse meg (a felhasználói névterek ki vannak kapcsolva)."_s};
 }

@@ -6,6 +6,8 @@
 
 #include "platform/linux/command_string.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 MultimediaAnswer failure(quint32 code) {
@@ -19,9 +21,9 @@ QString same_case(const QString &word) {
 
 std::optional<SoundType> type_of(const QString &word) {
     const QString name = same_case(word);
-    if (name == QStringLiteral("waveaudio"))
+    if (name == u"waveaudio"_s)
         return SoundType::wave;
-    if (name == QStringLiteral("sequencer"))
+    if (name == u"sequencer"_s)
         return SoundType::midi;
     return std::nullopt;
 }
@@ -37,8 +39,8 @@ std::optional<OpenWords> open_words(const QStringList &words) {
     OpenWords found;
     for (qsizetype i = 0; i < words.size(); i += 2) {
         const QString keyword = same_case(words[i]);
-        const bool type = keyword == QStringLiteral("type");
-        if ((!type && keyword != QStringLiteral("alias")) || i + 1 == words.size())
+        const bool type = keyword == u"type"_s;
+        if ((!type && keyword != u"alias"_s) || i + 1 == words.size())
             return std::nullopt;
         (type ? found.type : found.alias) = words[i + 1];
     }
@@ -57,25 +59,23 @@ MultimediaAnswer CommandInterpreter::send(const QString &command, int answer_len
     if (words->isEmpty())
         return failure(mci_error::missing_command_string);
     const QString verb = same_case(words->first());
-    const bool known =
-        QStringList{QStringLiteral("open"), QStringLiteral("play"), QStringLiteral("status"), QStringLiteral("close")}
-            .contains(verb);
+    const bool known = QStringList{u"open"_s, u"play"_s, u"status"_s, u"close"_s}.contains(verb);
     if (!known)
         return failure(mci_error::unrecognized_command);
     if (words->size() < 2)
         return failure(mci_error::missing_device_name);
-    if (verb == QStringLiteral("open"))
+    if (verb == u"open"_s)
         return open(words->sliced(1));
     const QString name = same_case(words->at(1));
     if (!open_.contains(name))
         return failure(mci_error::invalid_device_name);
-    if (verb == QStringLiteral("status")) {
+    if (verb == u"status"_s) {
         const MultimediaAnswer answer = status(name, words->sliced(2));
         return answer.text.size() < answer_length || answer.code != 0 ? answer : failure(mci_error::answer_too_long);
     }
     if (words->size() > 2)
         return failure(mci_error::unrecognized_keyword);
-    return verb == QStringLiteral("play") ? play(name) : close(name);
+    return verb == u"play"_s ? play(name) : close(name);
 }
 
 MultimediaAnswer CommandInterpreter::open(const QStringList &words) {
@@ -115,9 +115,9 @@ MultimediaAnswer CommandInterpreter::close(const QString &name) {
 MultimediaAnswer CommandInterpreter::status(const QString &name, const QStringList &items) const {
     if (items.isEmpty())
         return failure(mci_error::missing_parameter);
-    if (items.size() > 1 || same_case(items.first()) != QStringLiteral("mode"))
+    if (items.size() > 1 || same_case(items.first()) != u"mode"_s)
         return failure(mci_error::unrecognized_keyword);
-    return {0, open_.value(name)->playing() ? QStringLiteral("playing") : QStringLiteral("stopped")};
+    return {0, open_.value(name)->playing() ? u"playing"_s : u"stopped"_s};
 }
 
 bool CommandInterpreter::has_player() {

@@ -2,6 +2,8 @@
 
 #include "platform/drive_c.h"
 
+using namespace Qt::StringLiterals;
+
 QString DriveC::root_of_this_user() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/zimbora/c");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/zimbora/c"_s;
 }

@@ -5,13 +5,15 @@
 #include <QByteArray>
 #include <QLibrary>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What is used of the client library of CUPS. It is loaded at its first use: linked, it and the libraries that it
 /// needs would be loaded at each start of the program. Its functions are null on a system that lacks it.
 class Cups final {
     // The functions below come out of it.
-    QLibrary library_{QStringLiteral("cups"), 2};
+    QLibrary library_{u"cups"_s, 2};
 
     template <class Function>
     Function function(const char *name) {
@@ -35,27 +37,26 @@ class Cups final {
     }
 };
 
-const QString interrupted = QStringLiteral("a kapcsolat a nyomtatókiszolgálóval megszakadt.");
-const QString no_server = QStringLiteral("a nyomtatókiszolgáló nem érhető el.");
+const QString interrupted = u"a kapcsolat a nyomtatókiszolgálóval megszakadt."_s;
+const QString no_server = u"a nyomtatókiszolgáló nem érhető el."_s;
 
 /// The answer of the last request to CUPS, in the words of the program where it is a usual one.
 QString reason(const Cups &cups) {
     switch (cups.last_error()) {
         case IPP_STATUS_ERROR_NOT_FOUND:
-            return QStringLiteral("a nyomtató nem található, vagy a nyomtatókiszolgáló nem fut.");
+            return u"a nyomtató nem található, vagy a nyomtatókiszolgáló nem fut."_s;
         case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
-            return QStringLiteral("a nyomtató jelenleg nem fogad feladatot.");
+            return u"a nyomtató jelenleg nem fogad feladatot."_s;
         case IPP_STATUS_ERROR_FORBIDDEN:
         case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
         case IPP_STATUS_ERROR_NOT_AUTHORIZED:
-            return QStringLiteral("nincs jogosultság a használatához.");
+            return u"nincs jogosultság a használatához."_s;
         case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
             return no_server;
         case IPP_STATUS_ERROR_DOCUMENT_FORMAT_NOT_SUPPORTED:
-            return QStringLiteral("a nyomtató nem ismeri a dokumentum formátumát.");
+            return u"a nyomtató nem ismeri a dokumentum formátumát."_s;
         default:
-            return QStringLiteral("a nyomtatókiszolgáló hibát jelzett (%1: %2).")
-                .arg(static_cast<int>(cups.last_error()))
+            return u"a nyomtatókiszolgáló hibát jelzett (%1: %2)."_s.arg(static_cast<int>(cups.last_error()))
                 .arg(QString::fromUtf8(cups.last_error_text()));
     }
 }

@@ -6,6 +6,8 @@
 
 #include "platform/drive_c.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Tries it: who may make files in the root of a drive depends on the machine, and an ordinary user mostly may not.
@@ -21,8 +23,8 @@ bool takes_files(const QString &folder) {
 }  // namespace
 
 QString DriveC::root_of_this_user() {
-    const QString drive = QStringLiteral("C:");
+    const QString drive = u"C:"_s;
     if (takes_files(drive))
         return drive;
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Zimbora/c");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Zimbora/c"_s;
 }

@@ -9,6 +9,8 @@
 #include "platform/files.h"
 #include "platform/windows/information_tool_path.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const wchar_t *tool_key = L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
@@ -23,7 +25,7 @@ std::optional<QString> machine_registry_text(const wchar_t *key, const wchar_t *
     DWORD number = 0;
     DWORD size = sizeof number;
     if (RegGetValueW(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_DWORD, nullptr, &number, &size) == ERROR_SUCCESS)
-        return QStringLiteral("&h") + QString::number(number, 16).toUpper();
+        return u"&h"_s + QString::number(number, 16).toUpper();
     // Both kinds of text; variables of the environment are put in.
     constexpr DWORD texts = RRF_RT_REG_SZ;
     if (RegGetValueW(HKEY_LOCAL_MACHINE, key, name, texts, nullptr, nullptr, &size) != ERROR_SUCCESS)
@@ -40,7 +42,7 @@ std::optional<QString> information_tool_path() {
     const auto folder = machine_registry_text(folders_key, L"MSINFO");
     if (!folder)
         return std::nullopt;
-    const QString path = *folder + QStringLiteral("\\MSINFO32.EXE");
+    const QString path = *folder + u"\\MSINFO32.EXE"_s;
     return files::exists(path) ? std::optional(path) : std::nullopt;
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 DrawnJob::DrawnJob(std::unique_ptr<QPrinter> printer) : device_(std::move(printer)), pages_(*device_) {}
 
 std::optional<Failure> DrawnJob::hand_over() {
@@ -11,5 +13,5 @@ std::optional<Failure> DrawnJob::hand_over() {
 }
 
 Failure DrawnJob::failure() const {
-    return not_printed(device_->printerName(), QStringLiteral("a nyomtató hibát jelzett."));
+    return not_printed(device_->printerName(), u"a nyomtató hibát jelzett."_s);
 }

@@ -6,6 +6,8 @@
 #include "ui/drawing/twips.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -21,18 +23,17 @@ constexpr double képernyőrész = 0.85;
 }  // namespace
 
 frm_nyomtatásikép::frm_nyomtatásikép(const Module_hasznos &hasznos, const ablak &főablak, const PageRecorder &lapok)
-    : ablak(QStringLiteral("frm_nyomtatásikép"), menü::nincs, keret::átméretezhető),
+    : ablak(u"frm_nyomtatásikép"_s, menü::nincs, keret::átméretezhető),
       lapok_(lapok),
       idáig_(margó),
-      cmd_első_(gomb(u"cmd_első", QStringLiteral("&Első"), 900, {Qt::Key_Home, Qt::CTRL | Qt::Key_Home},
+      cmd_első_(gomb(u"cmd_első", u"&Első"_s, 900, {Qt::Key_Home, Qt::CTRL | Qt::Key_Home},
                      &frm_nyomtatásikép::cmd_első_Click)),
-      cmd_előző_(
-          gomb(u"cmd_előző", QStringLiteral("E&lőző"), 900, {Qt::Key_PageUp}, &frm_nyomtatásikép::cmd_előző_Click)),
+      cmd_előző_(gomb(u"cmd_előző", u"E&lőző"_s, 900, {Qt::Key_PageUp}, &frm_nyomtatásikép::cmd_előző_Click)),
       UpDown_oldal_(named(new QSpinBox, u"UpDown_oldal", u"Oldal")),
       cmd_következő_(nullptr),
       cmd_utolsó_(nullptr),
       kép_(named(new PageView(lapok), u"kép", u"Az oldal képe")) {
-    setWindowTitle(QStringLiteral("Nyomtatási kép"));
+    setWindowTitle(u"Nyomtatási kép"_s);
     elhelyezés();
     global::színmásol(*this, főablak);
     Module_hasznos::betűméretez(*this, hasznos.ablakméretez(*this, képernyőrész));
@@ -55,25 +56,24 @@ QPushButton *frm_nyomtatásikép::gomb(const char16_t *név, const QString &feli
 
 void frm_nyomtatásikép::elhelyezés() {
     UpDown_oldal_->setRange(1, lapok_.page_count());
-    UpDown_oldal_->setSuffix(QStringLiteral(" / %1").arg(lapok_.page_count()));
+    UpDown_oldal_->setSuffix(u" / %1"_s.arg(lapok_.page_count()));
     UpDown_oldal_->setAlignment(Qt::AlignCenter);
     UpDown_oldal_->setKeyboardTracking(false);
     elhelyez(UpDown_oldal_, {idáig_, margó, 1700, sor});
     idáig_ += 1700 + köz;
-    cmd_következő_ = gomb(u"cmd_következő", QStringLiteral("&Következő"), 1150, {Qt::Key_PageDown},
-                          &frm_nyomtatásikép::cmd_következő_Click);
-    cmd_utolsó_ = gomb(u"cmd_utolsó", QStringLiteral("&Utolsó"), 900, {Qt::Key_End, Qt::CTRL | Qt::Key_End},
+    cmd_következő_ =
+        gomb(u"cmd_következő", u"&Következő"_s, 1150, {Qt::Key_PageDown}, &frm_nyomtatásikép::cmd_következő_Click);
+    cmd_utolsó_ = gomb(u"cmd_utolsó", u"&Utolsó"_s, 900, {Qt::Key_End, Qt::CTRL | Qt::Key_End},
                        &frm_nyomtatásikép::cmd_utolsó_Click);
     idáig_ += csoportköz;
-    gomb(u"cmd_kicsinyít", QStringLiteral("Kic&sinyít"), 1050, {Qt::Key_Minus, Qt::CTRL | Qt::Key_Minus},
+    gomb(u"cmd_kicsinyít", u"Kic&sinyít"_s, 1050, {Qt::Key_Minus, Qt::CTRL | Qt::Key_Minus},
          &frm_nyomtatásikép::cmd_kicsinyít_Click);
-    gomb(u"cmd_nagyít", QStringLiteral("Na&gyít"), 900, {Qt::Key_Plus, Qt::CTRL | Qt::Key_Plus},
+    gomb(u"cmd_nagyít", u"Na&gyít"_s, 900, {Qt::Key_Plus, Qt::CTRL | Qt::Key_Plus},
          &frm_nyomtatásikép::cmd_nagyít_Click);
-    gomb(u"cmd_egészoldal", QStringLiteral("Egész &oldal"), 1250, {}, &frm_nyomtatásikép::cmd_egészoldal_Click);
-    gomb(u"cmd_oldalszélesség", QStringLiteral("Ol&dalszélesség"), 1500, {},
-         &frm_nyomtatásikép::cmd_oldalszélesség_Click);
+    gomb(u"cmd_egészoldal", u"Egész &oldal"_s, 1250, {}, &frm_nyomtatásikép::cmd_egészoldal_Click);
+    gomb(u"cmd_oldalszélesség", u"Ol&dalszélesség"_s, 1500, {}, &frm_nyomtatásikép::cmd_oldalszélesség_Click);
     idáig_ += csoportköz;
-    QPushButton *bezár = gomb(u"cmd_bezár", QStringLiteral("&Bezár"), 900, {}, &frm_nyomtatásikép::cmd_bezár_Click);
+    QPushButton *bezár = gomb(u"cmd_bezár", u"&Bezár"_s, 900, {}, &frm_nyomtatásikép::cmd_bezár_Click);
     mégsegombbeállít(bezár);
     connect(kép_, &PageView::turned, this, [this](bool előre) { lapra(kép_->page() + (előre ? 1 : -1)); });
     elhelyez(kép_, {margó, kép_teteje, idáig_ - köz - margó, kép_magassága});

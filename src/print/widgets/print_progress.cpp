@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::chrono::milliseconds patience(500);
@@ -28,9 +30,9 @@ bool PrintProgress::step(int done, int all) {
 }
 
 void PrintProgress::open() {
-    dialog_ = std::make_unique<QProgressDialog>(caption_, QStringLiteral("Mégsem"), 0, 0, &window_);
-    dialog_->setObjectName(QStringLiteral("haladás"));
-    dialog_->setWindowTitle(QStringLiteral("Nyomtatás"));
+    dialog_ = std::make_unique<QProgressDialog>(caption_, u"Mégsem"_s, 0, 0, &window_);
+    dialog_->setObjectName(u"haladás"_s);
+    dialog_->setWindowTitle(u"Nyomtatás"_s);
     dialog_->setFont(letters_);
     dialog_->setPalette(window_.palette());
     dialog_->setMinimumWidth(window_.width() / 2);

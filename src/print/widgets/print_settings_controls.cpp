@@ -7,6 +7,8 @@
 #include "ui/controls/up_down.h"
 #include "ui/drawing/svg_picture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -38,7 +40,7 @@ constexpr double gomb = 1200;
 constexpr double gombmagasság = 340;
 
 QString tömbelem(const char16_t *név, size_t i) {
-    return QStringLiteral("%1(%2)").arg(QString::fromUtf16(név)).arg(i);
+    return u"%1(%2)"_s.arg(QString::fromUtf16(név)).arg(i);
 }
 
 template <class Vezérlő>
@@ -180,42 +182,40 @@ QRectF gombhely(double honnan, double szélesség) {
 }  // namespace
 
 nyomtatásvezérlők::nyomtatásvezérlők(ablak &mire)
-    : Label1(hely(mire, named(new QLabel(QStringLiteral("Nyomtató:")), u"Label1"), {margó, margó, 1300, sor})),
+    : Label1(hely(mire, named(new QLabel(u"Nyomtató:"_s), u"Label1"), {margó, margó, 1300, sor})),
       list_nyomtatók(hely(mire, lista(u"list_nyomtatók", u"Nyomtató"), {margó + 1300, margó, teljes - 1300, sor})),
       Frame_szószedetbeállítás(hely(mire,
-                                    named(new QGroupBox(QStringLiteral("A szószedet nyomtatásának beállításai")),
+                                    named(new QGroupBox(u"A szószedet nyomtatásának beállításai"_s),
                                           u"Frame_szószedetbeállítás", u"A szószedet nyomtatásának beállításai"),
                                     {margó, keretek_teteje, bal_szélesség, keretek_alja - keretek_teteje})),
-      Label2(hely(mire, named(new QLabel(QStringLiteral("Betűtípus:")), u"Label2"), része(szószedetsor(0), 0, 1300))),
+      Label2(hely(mire, named(new QLabel(u"Betűtípus:"_s), u"Label2"), része(szószedetsor(0), 0, 1300))),
       list_betűtípus(hely(mire, lista(u"list_betűtípus", u"Betűtípus"),
                           része(szószedetsor(0), 1300, szószedetsor(0).width() - 1300))),
-      Check_dőlt(hely(mire, named(new QCheckBox(QStringLiteral("Dőlt")), u"Check_dőlt", u"Dőlt"),
-                      része(szószedetsor(1), 0, 1900))),
-      Check_félkövér(hely(mire, named(new QCheckBox(QStringLiteral("Félkövér")), u"Check_félkövér", u"Félkövér"),
+      Check_dőlt(hely(mire, named(new QCheckBox(u"Dőlt"_s), u"Check_dőlt", u"Dőlt"), része(szószedetsor(1), 0, 1900))),
+      Check_félkövér(hely(mire, named(new QCheckBox(u"Félkövér"_s), u"Check_félkövér", u"Félkövér"),
                           része(szószedetsor(1), 2100, 2400))),
-      Label3(hely(mire, named(new QLabel(QStringLiteral("Betűméret:")), u"Label3"), része(szószedetsor(2), 0, 2000))),
+      Label3(hely(mire, named(new QLabel(u"Betűméret:"_s), u"Label3"), része(szószedetsor(2), 0, 2000))),
       Label_betűméret(értékcímke(mire, u"Label_betűméret", szószedetsor(2))),
       UpDown_betűméret(számláló(mire, u"UpDown_betűméret", u"Betűméret", szószedetsor(2))),
-      Label4(
-          hely(mire, named(new QLabel(QStringLiteral("Hasábok száma:")), u"Label4"), része(szószedetsor(3), 0, 2000))),
+      Label4(hely(mire, named(new QLabel(u"Hasábok száma:"_s), u"Label4"), része(szószedetsor(3), 0, 2000))),
       Label_hasábszám(értékcímke(mire, u"Label_hasábszám", szószedetsor(3))),
       UpDown_hasábszám(számláló(mire, u"UpDown_hasábszám", u"Hasábok száma", szószedetsor(3))),
-      Frame1(hely(mire, named(new QGroupBox(QStringLiteral("A nyomtatás típusa")), u"Frame1", u"A nyomtatás típusa"),
+      Frame1(hely(mire, named(new QGroupBox(u"A nyomtatás típusa"_s), u"Frame1", u"A nyomtatás típusa"),
                   {jobb, keretek_teteje, jobb_szélesség, típusok})),
       Option_nyomtatástípus(típusgombok(mire)),
-      Frame2(hely(mire, named(new QGroupBox(QStringLiteral("Tájolás")), u"Frame2", u"Tájolás"),
+      Frame2(hely(mire, named(new QGroupBox(u"Tájolás"_s), u"Frame2", u"Tájolás"),
                   {jobb, tájolások_teteje, jobb_szélesség, tájolások})),
       Option_tájolás(tájolásgombok(mire)),
       Picture1(tájolásképek(mire)),
       Picture_container(mintakeret(mire)),
       Label5(mintacímek(mire)),
       pic_minta(mintaképek(mire)),
-      cmd_nyomtatásikép(hely(
-          mire, named(new QPushButton(QStringLiteral("Nyomtatási &kép...")), u"cmd_nyomtatásikép", u"Nyomtatási kép"),
-          gombhely(margó, 2400))),
-      cmd_nyomtat(hely(mire, named(new QPushButton(QStringLiteral("&Nyomtat")), u"cmd_nyomtat", u"Nyomtat"),
+      cmd_nyomtatásikép(hely(mire,
+                             named(new QPushButton(u"Nyomtatási &kép..."_s), u"cmd_nyomtatásikép", u"Nyomtatási kép"),
+                             gombhely(margó, 2400))),
+      cmd_nyomtat(hely(mire, named(new QPushButton(u"&Nyomtat"_s), u"cmd_nyomtat", u"Nyomtat"),
                        gombhely(margó + teljes - 2 * gomb - köz, gomb))),
-      cmd_mégsem(hely(mire, named(new QPushButton(QStringLiteral("Mégsem")), u"cmd_mégsem", u"Mégsem"),
+      cmd_mégsem(hely(mire, named(new QPushButton(u"Mégsem"_s), u"cmd_mégsem", u"Mégsem"),
                       gombhely(margó + teljes - gomb, gomb))) {
     UpDown_betűméret->setRange(8, 50);
     UpDown_betűméret->setSingleStep(2);

@@ -5,6 +5,8 @@
 #include "print/pdf_job.h"
 #include "print/widgets/print_preview_window.h"
 
+using namespace Qt::StringLiterals;
+
 // What the print settings do when something is to be printed or looked at.
 
 nyomtatástípus frm_nyomtatás::típus() const {
@@ -36,10 +38,10 @@ std::optional<QString> frm_nyomtatás::pdf_neve() {
         if (!választott || választott->isEmpty())
             return std::nullopt;
         pdf_javaslat_ = pdfnév(*választott);
-        const QString kérdés = QStringLiteral("A(z) „%1” fájl már létezik. Felülírja?");
+        const QString kérdés = u"A(z) „%1” fájl már létezik. Felülírja?"_s;
         if (!files::exists(pdf_javaslat_) ||
-            k_.üzenetek.ask_yes_no(QStringLiteral("Fájl felülírása"),
-                                   kérdés.arg(QDir::toNativeSeparators(pdf_javaslat_))) == Answer::yes)
+            k_.üzenetek.ask_yes_no(u"Fájl felülírása"_s, kérdés.arg(QDir::toNativeSeparators(pdf_javaslat_))) ==
+                Answer::yes)
             return pdf_javaslat_;
     }
 }
@@ -61,7 +63,7 @@ std::unique_ptr<PrintJob> frm_nyomtatás::feladat() {
 }
 
 bool frm_nyomtatás::kinyomtat(PrintJob &feladat) {
-    switch (lerak(feladat.printer(), QStringLiteral("A nyomtatás készül…"))) {
+    switch (lerak(feladat.printer(), u"A nyomtatás készül…"_s)) {
         case nyomtatásvége::kész:
             break;
         case nyomtatásvége::megszakítva:
@@ -80,7 +82,7 @@ bool frm_nyomtatás::kinyomtat(PrintJob &feladat) {
 bool frm_nyomtatás::nincs_mit() {
     if (típus() != nyomtatástípus::szópárok || !k_.szószedet.párok().isEmpty())
         return false;
-    k_.üzenetek.tell(QStringLiteral("Nincs mit nyomtatni: a szószedet üres."));
+    k_.üzenetek.tell(u"Nincs mit nyomtatni: a szószedet üres."_s);
     return true;
 }
 
@@ -100,7 +102,7 @@ void frm_nyomtatás::cmd_nyomtatásikép_Click() {
     if (nincs_mit())
         return;
     const auto kép = k_.nyomtatók.preview(nyomtató_);
-    if (lerak(kép->pages(), QStringLiteral("A nyomtatási kép készül…")) != nyomtatásvége::kész)
+    if (lerak(kép->pages(), u"A nyomtatási kép készül…"_s) != nyomtatásvége::kész)
         return;
     frm_nyomtatásikép(k_.hasznos, k_.főablak, kép->pages()).mutatmodálisan();
 }

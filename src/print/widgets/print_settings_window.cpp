@@ -7,24 +7,26 @@
 #include "ui/drawing/fonts.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double képernyőrész = 0.85;
 /// How much smaller the letters of the buttons are than those that would fit.
 constexpr double gombkülönbség = 3;
 
-const QString pdf_bejegyzés = QStringLiteral("PDF-fájl");
-const QString ékezetek = QStringLiteral("áéíóöőúüű ÁÉÍÓÖŐÚÜŰ");
+const QString pdf_bejegyzés = u"PDF-fájl"_s;
+const QString ékezetek = u"áéíóöőúüű ÁÉÍÓÖŐÚÜŰ"_s;
 
 /// Stands in the store for a value that is absent.
-const QString semmi = QStringLiteral("semmi");
-const QString nyomtató_kulcs = QStringLiteral("nyomtato");
-const QString betűtípus_kulcs = QStringLiteral("betutip");
-const QString dőlt_kulcs = QStringLiteral("dolt");
-const QString félkövér_kulcs = QStringLiteral("felkover");
-const QString betűméret_kulcs = QStringLiteral("betumeret");
-const QString hasábszám_kulcs = QStringLiteral("hasabszam");
-const QString tájolás_kulcs = QStringLiteral("tajolas");
+const QString semmi = u"semmi"_s;
+const QString nyomtató_kulcs = u"nyomtato"_s;
+const QString betűtípus_kulcs = u"betutip"_s;
+const QString dőlt_kulcs = u"dolt"_s;
+const QString félkövér_kulcs = u"felkover"_s;
+const QString betűméret_kulcs = u"betumeret"_s;
+const QString hasábszám_kulcs = u"hasabszam"_s;
+const QString tájolás_kulcs = u"tajolas"_s;
 
 /// A stored number; `egyébként` when it is none.
 int szám(const QVariant &tárolt, int egyébként) {
@@ -36,11 +38,11 @@ int szám(const QVariant &tárolt, int egyébként) {
 }  // namespace
 
 frm_nyomtatás::frm_nyomtatás(const nyomtatáskörnyezet &környezet)
-    : ablak(QStringLiteral("frm_nyomtatás")),
+    : ablak(u"frm_nyomtatás"_s),
       k_(környezet),
       v_(*this),
       nevek_(dokumentum(k_.állapot.aktuálisfájl, k_.állapot.programkönyvtár)) {
-    setWindowTitle(QStringLiteral("Szószedet nyomtatása"));
+    setWindowTitle(u"Szószedet nyomtatása"_s);
     eseményeket_köt();
     Form_Load();
 }

@@ -8,6 +8,8 @@
 #include "print/pdf_document.h"
 #include "print/widgets/drawn_job.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Made as a PDF document with the pages of a printer, which its queue takes when it is whole.
@@ -24,7 +26,7 @@ class QueuedJob final : public PrintJob {
         return std::nullopt;
     }
 
-    Failure failure() const override { return not_printed(name_, QStringLiteral("a dokumentum nem készíthető el.")); }
+    Failure failure() const override { return not_printed(name_, u"a dokumentum nem készíthető el."_s); }
 
   private:
     PrintSpooler &spooler_;
@@ -64,7 +66,7 @@ QStringList QtPrinters::fonts(const QString &) const {
 PrintJobResult QtPrinters::print(const QString &printer, const QString &title) {
     const QPrinterInfo info = QPrinterInfo::printerInfo(printer);
     if (info.isNull())
-        return not_printed(printer, QStringLiteral("a nyomtató nem található, vagy a nyomtatókiszolgáló nem fut."));
+        return not_printed(printer, u"a nyomtató nem található, vagy a nyomtatókiszolgáló nem fut."_s);
     auto device = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
     if (spooler_)
         return std::make_unique<QueuedJob>(*spooler_, printer, title, device->pageLayout());

@@ -7,16 +7,18 @@
 
 #include "ui/drawing/twips.h"
 
+using namespace Qt::StringLiterals;
+
 namespace fonts {
+
+const QString times_new_roman = u"Times New Roman"_s;
+const QString times_new_roman_ce = u"Times New Roman CE"_s;
+
 namespace {
 
 /// Faces of the same metrics or, after them, of the same kind, in order of preference. All have ő and ű.
-const QStringList same_kind{times_new_roman,
-                            QStringLiteral("Liberation Serif"),
-                            QStringLiteral("Tinos"),
-                            QStringLiteral("Nimbus Roman"),
-                            QStringLiteral("FreeSerif"),
-                            QStringLiteral("DejaVu Serif")};
+const QStringList same_kind{times_new_roman,   u"Liberation Serif"_s, u"Tinos"_s,
+                            u"Nimbus Roman"_s, u"FreeSerif"_s,        u"DejaVu Serif"_s};
 
 double dots_per_inch() {
     const QScreen *screen = QGuiApplication::primaryScreen();

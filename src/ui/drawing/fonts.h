@@ -6,8 +6,8 @@
 /// The program's type face and the sizes of its letters.
 namespace fonts {
 
-inline const QString times_new_roman = QStringLiteral("Times New Roman");
-inline const QString times_new_roman_ce = QStringLiteral("Times New Roman CE");
+extern const QString times_new_roman;
+extern const QString times_new_roman_ce;
 
 /// Names an installed face for each of the two names above that the system lacks. Call once, before the first window.
 void substitute_missing_faces();

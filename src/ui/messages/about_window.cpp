@@ -7,6 +7,8 @@
 #include "ui/drawing/fonts.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -24,24 +26,24 @@ constexpr double képernyőrész = 0.5;
 constexpr double cím_aránya = 1.4;
 
 QStringList leírások() {
-    return {QStringLiteral("Szótárprogram szószedetkészítési lehetőséggel, szótanuló feladatokkal. "),
-            QStringLiteral("Készítették a Zimbora fejlesztői, angolul tanuló magyaroknak."),
-            QStringLiteral("Szabad szoftver: a GNU GPL 3.0 vagy későbbi változata szerint bárki használhatja, "
-                           "továbbadhatja és átalakíthatja."),
-            QStringLiteral("A két szótár a FreeDict angol–magyar és magyar–angol szótárából készült.")};
+    return {u"Szótárprogram szószedetkészítési lehetőséggel, szótanuló feladatokkal. "_s,
+            u"Készítették a Zimbora fejlesztői, angolul tanuló magyaroknak."_s,
+            u"Szabad szoftver: a GNU GPL 3.0 vagy későbbi változata szerint bárki használhatja, "
+            "továbbadhatja és átalakíthatja."_s,
+            u"A két szótár a FreeDict angol–magyar és magyar–angol szótárából készült."_s};
 }
 
 }  // namespace
 
 frmAbout::frmAbout(const Module_hasznos &hasznos, const ablak &főablak, const QString &program, const QString &verzió,
                    std::function<void()> rendszeradatok)
-    : ablak(QStringLiteral("frmAbout")),
+    : ablak(u"frmAbout"_s),
       picIcon_(named(new PictureBox, u"picIcon", u"A program ikonja")),
-      lblTitle_(named(new QLabel(QStringLiteral("Angol-Magyar, Magyar-Angol Szótár")), u"lblTitle")),
-      lblVersion_(named(new QLabel(QStringLiteral("Version: ") + verzió), u"lblVersion")),
-      cmdOK_(named(new QPushButton(QStringLiteral("Ok")), u"cmdOK", u"Ok")),
-      cmdSysInfo_(named(new QPushButton(QStringLiteral("&System Info...")), u"cmdSysInfo", u"Rendszeradatok")) {
-    setWindowTitle(QStringLiteral("Névjegy"));
+      lblTitle_(named(new QLabel(u"Angol-Magyar, Magyar-Angol Szótár"_s), u"lblTitle")),
+      lblVersion_(named(new QLabel(u"Version: "_s + verzió), u"lblVersion")),
+      cmdOK_(named(new QPushButton(u"Ok"_s), u"cmdOK", u"Ok")),
+      cmdSysInfo_(named(new QPushButton(u"&System Info..."_s), u"cmdSysInfo", u"Rendszeradatok")) {
+    setWindowTitle(u"Névjegy"_s);
     elhelyezés();
     connect(cmdOK_, &QPushButton::clicked, this, [this] { close(); });
     connect(cmdSysInfo_, &QPushButton::clicked, this, std::move(rendszeradatok));
@@ -55,7 +57,7 @@ frmAbout::frmAbout(const Module_hasznos &hasznos, const ablak &főablak, const Q
     fonts::set_points(nagy, fonts::points(nagy) * cím_aránya);
     lblTitle_->setFont(nagy);
     picIcon_->set_picture(windowIcon().pixmap(picIcon_->size(), devicePixelRatioF()));
-    setWindowTitle(QStringLiteral("About ") + program);
+    setWindowTitle(u"About "_s + program);
 }
 
 void frmAbout::elhelyezés() {
@@ -65,7 +67,7 @@ void frmAbout::elhelyezés() {
     double fent = leírások_teteje;
     for (const QString &leírás : leírások()) {
         auto *címke = new QLabel(leírás);
-        címke->setObjectName(QStringLiteral("lblDescription(%1)").arg(lblDescription_.size()));
+        címke->setObjectName(u"lblDescription(%1)"_s.arg(lblDescription_.size()));
         címke->setWordWrap(true);
         lblDescription_.append(címke);
         elhelyez(címke, {szél, fent, tervszélesség, leírásmagasság});

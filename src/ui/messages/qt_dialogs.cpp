@@ -10,13 +10,15 @@
 #include <QMessageBox>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString word_list_filter = QStringLiteral("Szószedet fájl (*.szs)");
+const QString word_list_filter = u"Szószedet fájl (*.szs)"_s;
 /// Shows the same files. Where the toolkit finds "*." for saving, it has Windows add the extension, but a name is taken
 /// as it was chosen.
-const QString saved_word_list_filter = QStringLiteral("Szószedet fájl (*?szs)");
-const QString pdf_filter = QStringLiteral("PDF-fájl (*.pdf)");
+const QString saved_word_list_filter = u"Szószedet fájl (*?szs)"_s;
+const QString pdf_filter = u"PDF-fájl (*.pdf)"_s;
 
 Answer answer_of(int button) {
     switch (button) {
@@ -94,9 +96,7 @@ class PlainKinds final : public QFileIconProvider {
 
     [[nodiscard]] QIcon icon(const QFileInfo &info) const override { return icon(info.isDir() ? Folder : File); }
 
-    [[nodiscard]] QString type(const QFileInfo &info) const override {
-        return info.isDir() ? QStringLiteral("Mappa") : QStringLiteral("Fájl");
-    }
+    [[nodiscard]] QString type(const QFileInfo &info) const override { return info.isDir() ? u"Mappa"_s : u"Fájl"_s; }
 };
 
 std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, const QString &proposal,
@@ -106,8 +106,7 @@ std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, con
     dialog.setIconProvider(&kinds);
     dialog.setAcceptMode(mode);
     // The system's own dialog has no title otherwise.
-    dialog.setWindowTitle(mode == QFileDialog::AcceptOpen ? QStringLiteral("Megnyitás")
-                                                          : QStringLiteral("Mentés másként"));
+    dialog.setWindowTitle(mode == QFileDialog::AcceptOpen ? u"Megnyitás"_s : u"Mentés másként"_s);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -121,7 +120,7 @@ std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, con
 }  // namespace
 
 void QtMessageBoxes::tell(const QString &text) {
-    Message(window_, QStringLiteral("Zimbora"), text, QMessageBox::Warning, QMessageBox::Ok).exec();
+    Message(window_, u"Zimbora"_s, text, QMessageBox::Warning, QMessageBox::Ok).exec();
 }
 
 Answer QtMessageBoxes::ask_yes_no(const QString &title, const QString &text) {

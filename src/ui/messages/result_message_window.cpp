@@ -2,6 +2,8 @@
 
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double margó = 120;
@@ -11,16 +13,16 @@ constexpr QSizeF gombméret(1500, 600);
 }  // namespace
 
 üzenet::üzenet(const Module_hasznos &hasznos, const ablak &főablak, const QString &szószedet)
-    : ablak(QStringLiteral("üzenet")),
+    : ablak(u"üzenet"_s),
       hasznos_(hasznos),
       főablak_(főablak),
-      cmd_ok_(new QPushButton(QStringLiteral("Ok"))),
+      cmd_ok_(new QPushButton(u"Ok"_s)),
       Timer1_(new QTimer(this)) {
-    setWindowTitle(szószedet + QStringLiteral(" szószedet"));
-    cmd_ok_->setObjectName(QStringLiteral("cmd_ok"));
-    cmd_ok_->setAccessibleName(QStringLiteral("Ok"));
+    setWindowTitle(szószedet + u" szószedet"_s);
+    cmd_ok_->setObjectName(u"cmd_ok"_s);
+    cmd_ok_->setAccessibleName(u"Ok"_s);
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
-    Timer1_->setObjectName(QStringLiteral("Timer1"));
+    Timer1_->setObjectName(u"Timer1"_s);
     Timer1_->setSingleShot(true);
     Timer1_->setTimerType(Qt::PreciseTimer);
     connect(Timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
@@ -32,7 +34,7 @@ void üzenet::sorokat_rak(int darab) {
     double fent = margó;
     for (int i = 0; i < darab; ++i) {
         auto *sor = new PictureBox;
-        sor->setObjectName(QStringLiteral("Pic_szöveg(%1)").arg(i));
+        sor->setObjectName(u"Pic_szöveg(%1)"_s.arg(i));
         Pic_szöveg_.append(sor);
         elhelyez(sor, QRectF(QPointF(margó, fent), sorméret));
         fent += sorméret.height();

@@ -6,6 +6,8 @@
 #include "ui/controls/named.h"
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -36,14 +38,14 @@ void egészben(QLabel &címke) {
 }  // namespace
 
 FrmFolyamat::FrmFolyamat(const Module_hasznos &hasznos, const QString &verzió, const QString &rendszer)
-    : ablak(QStringLiteral("FrmFolyamat"), menü::nincs, keret::nincs),
+    : ablak(u"FrmFolyamat"_s, menü::nincs, keret::nincs),
       Frame1_(named(new QFrame, u"Frame1", u"Indulás")),
-      lblCompany_(named(new QLabel(QStringLiteral("A Zimbora fejlesztői")), u"lblCompany")),
-      lblCompanyProduct_(named(new QLabel(QStringLiteral("Angol-Magyar, Magyar-Angol Szótár")), u"lblCompanyProduct")),
-      lblProductName_(named(new QLabel(QStringLiteral("Zimbora")), u"lblProductName")),
+      lblCompany_(named(new QLabel(u"A Zimbora fejlesztői"_s), u"lblCompany")),
+      lblCompanyProduct_(named(new QLabel(u"Angol-Magyar, Magyar-Angol Szótár"_s), u"lblCompanyProduct")),
+      lblProductName_(named(new QLabel(u"Zimbora"_s), u"lblProductName")),
       lblPlatform_(named(new QLabel(rendszer), u"lblPlatform")),
-      lblVersion_(named(new QLabel(verzió + QStringLiteral(" verzió")), u"lblVersion")),
-      lblMaker_(named(new QLabel(QStringLiteral("A programkönyvtár első indításkor készül el.")), u"lblMaker")),
+      lblVersion_(named(new QLabel(verzió + u" verzió"_s), u"lblVersion")),
+      lblMaker_(named(new QLabel(u"A programkönyvtár első indításkor készül el."_s), u"lblMaker")),
       imgLogo_(named(new PictureBox, u"imgLogo", u"A program ikonja")) {
     Frame1_->setFrameStyle(QFrame::Box | QFrame::Plain);
     elhelyez(Frame1_, kerethely);
@@ -65,7 +67,7 @@ FrmFolyamat::FrmFolyamat(const Module_hasznos &hasznos, const QString &verzió, 
     for (QLabel *címke : címkék)
         egészben(*címke);
     // The part of the title that other windows begin with is not known yet.
-    setWindowTitle(QStringLiteral("Zimbora"));
+    setWindowTitle(u"Zimbora"_s);
     imgLogo_->set_background(háttérszín());
     imgLogo_->set_picture(windowIcon().pixmap(imgLogo_->size(), devicePixelRatioF()));
 }

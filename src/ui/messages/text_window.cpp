@@ -3,6 +3,8 @@
 #include "ui/controls/named.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -14,11 +16,11 @@ constexpr double képernyőrész = 0.9;
 }  // namespace
 
 frm_üzenet::frm_üzenet(const Module_hasznos &hasznos, const ablak &főablak)
-    : ablak(QStringLiteral("frm_üzenet")),
+    : ablak(u"frm_üzenet"_s),
       hasznos_(hasznos),
       főablak_(főablak),
       txt_üzenet_(named(new QPlainTextEdit, u"txt_üzenet", u"Üzenet")),
-      cmd_ok_(named(new QPushButton(QStringLiteral("Ok")), u"cmd_ok", u"Ok")) {
+      cmd_ok_(named(new QPushButton(u"Ok"_s), u"cmd_ok", u"Ok")) {
     elhelyez(txt_üzenet_, szöveghely);
     elhelyez(cmd_ok_, gombhely);
     txt_üzenet_->setReadOnly(true);

@@ -3,6 +3,8 @@
 #include "ui/controls/named.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -14,12 +16,12 @@ constexpr double képernyőrész = 0.6;
 }  // namespace
 
 frm_szövegüzenet::frm_szövegüzenet(const Module_hasznos &hasznos, const ablak &főablak)
-    : ablak(QStringLiteral("frm_szövegüzenet")),
+    : ablak(u"frm_szövegüzenet"_s),
       pic_üzenet_(named(new PictureBox, u"pic_üzenet", u"Üzenet")),
       cmd_ok_(named(new QPushButton, u"cmd_ok", u"Ok")),
       timer_bezár_(new QTimer(this)) {
-    setWindowTitle(QStringLiteral("Üzenet"));
-    timer_bezár_->setObjectName(QStringLiteral("timer_bezár"));
+    setWindowTitle(u"Üzenet"_s);
+    timer_bezár_->setObjectName(u"timer_bezár"_s);
     timer_bezár_->setSingleShot(true);
     connect(timer_bezár_, &QTimer::timeout, this, [this] { timer_bezár_Timer(); });
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
@@ -31,7 +33,7 @@ frm_szövegüzenet::frm_szövegüzenet(const Module_hasznos &hasznos, const abla
     hasznos.ablakméretez(*this, képernyőrész);
     hasznos.ablakstílus(*this);
     pic_üzenet_->set_background(háttérszín());
-    Module_hasznos::szövegbeigazít(*cmd_ok_, QStringLiteral("Ok"));
+    Module_hasznos::szövegbeigazít(*cmd_ok_, u"Ok"_s);
 }
 
 void frm_szövegüzenet::mutat(const QString &szöveg, int ezredmásodperc) {

@@ -7,6 +7,8 @@
 #include <array>
 #include <string_view>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Text {
@@ -44,7 +46,6 @@ void make_toolkit_hungarian() {
     QLocale::setDefault(QLocale(QLocale::Hungarian, QLocale::Hungary));
     QCoreApplication::installTranslator(new MissingTexts(qApp));
     auto *translation = new QTranslator(qApp);
-    if (translation->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (translation->load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(translation);
 }

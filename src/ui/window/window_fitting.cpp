@@ -16,6 +16,8 @@
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double margó = 120;
@@ -83,9 +85,7 @@ void feliratbeállít(QWidget &vezérlő, const QString &szöveg) {
 /// What is seen of a caption: "&" only marks the key of the letter behind it.
 QString látható(const QString &felirat) {
     QString szöveg = felirat;
-    return szöveg.replace(QStringLiteral("&&"), QStringLiteral("\u0001"))
-        .remove(u'&')
-        .replace(QStringLiteral("\u0001"), QStringLiteral("&"));
+    return szöveg.replace(u"&&"_s, u"\u0001"_s).remove(u'&').replace(u"\u0001"_s, u"&"_s);
 }
 
 constexpr double legkisebb_pont = 8;
@@ -171,7 +171,7 @@ QString rövidített(const QString &szöveg) {
 
 void képbe(PictureBox &hova, const QString &szöveg) {
     hova.clear();
-    const QString kiírt = szöveg.isEmpty() ? QStringLiteral("Kéne írni ide valamit!") : szöveg;
+    const QString kiírt = szöveg.isEmpty() ? u"Kéne írni ide valamit!"_s : szöveg;
     const QString látszó = rövidített(kiírt);
     const QSizeF hely = hova.inner_size();
     Betűpróba próba(hova.font());
@@ -241,7 +241,7 @@ void Module_hasznos::ablakstílus(ablak &mit) const {
     mit.középre(képernyő_());
     mit.setWindowIcon(referencia_.windowIcon());
     mit.háttérszínbeállít(referencia_.háttérszín());
-    mit.setWindowTitle(referencia_.felirat() + QStringLiteral(" - ") + mit.windowTitle());
+    mit.setWindowTitle(referencia_.felirat() + u" - "_s + mit.windowTitle());
     for (QWidget *vezérlő : mit.vezérlők())
         vezérlőstílus(*vezérlő, mit);
 }

@@ -6,6 +6,8 @@
 #include "support/letters.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Texts with the letters they have, as they are split.
@@ -33,12 +35,12 @@ TEST(HungarianLetters, of_asszony_have_a_long_one_of_three_characters) {
 }
 
 TEST(HungarianLetters, of_ship_are_four_in_english) {
-    EXPECT_EQ(english_letters(QStringLiteral("ship")), QStringLiteral("s|h|i|p"));
+    EXPECT_EQ(english_letters(u"ship"_s), u"s|h|i|p"_s);
 }
 
 TEST(HungarianLetters, are_single_characters_in_english_whatever_they_look_like) {
-    EXPECT_EQ(english_letters(QStringLiteral("dzs Cs ny")), QStringLiteral("d|z|s| |C|s| |n|y"));
-    EXPECT_EQ(english_letters(QStringLiteral("rajzszög")), QStringLiteral("r|a|j|z|s|z|ö|g"));
+    EXPECT_EQ(english_letters(u"dzs Cs ny"_s), u"d|z|s| |C|s| |n|y"_s);
+    EXPECT_EQ(english_letters(u"rajzszög"_s), u"r|a|j|z|s|z|ö|g"_s);
 }
 
 TEST(HungarianLetters, of_more_than_one_character_are_these_seventeen) {
@@ -47,7 +49,7 @@ TEST(HungarianLetters, of_more_than_one_character_are_these_seventeen) {
         const QString text = QString::fromUtf16(letter);
         EXPECT_EQ(hungarian_letters(text), text);
         EXPECT_EQ(hungarian_letters(text.toUpper()), text.toUpper());
-        EXPECT_EQ(hungarian_letters(QStringLiteral("a%1a").arg(text)), QStringLiteral("a|%1|a").arg(text));
+        EXPECT_EQ(hungarian_letters(u"a%1a"_s.arg(text)), u"a|%1|a"_s.arg(text));
     }
 }
 
@@ -106,13 +108,13 @@ TEST(HungarianLetters, of_a_text_with_more_than_the_compound_word_follow_the_rul
 
 TEST(HungarianLetters, of_two_units_stay_one) {
     expect_letters({{u"a😀b", u"a|😀|b"}, {u"😀😀", u"😀|😀"}, {u"cs𝒜sz", u"cs|𝒜|sz"}});
-    EXPECT_EQ(english_letters(QStringLiteral("a😀b")), QStringLiteral("a|😀|b"));
-    EXPECT_EQ(hungarian(QStringLiteral("a😀b")).MAGYARBETŰKSZÁMA(), 3);
+    EXPECT_EQ(english_letters(u"a😀b"_s), u"a|😀|b"_s);
+    EXPECT_EQ(hungarian(u"a😀b"_s).MAGYARBETŰKSZÁMA(), 3);
 }
 
 TEST(HungarianLetters, keep_an_accent_that_is_written_separately) {
     expect_letters({{u"ne\u0301v", u"n|e\u0301|v"}});
-    EXPECT_EQ(english_letters(QStringLiteral("cafe\u0301")), QStringLiteral("c|a|f|e\u0301"));
+    EXPECT_EQ(english_letters(u"cafe\u0301"_s), u"c|a|f|e\u0301"_s);
 }
 
 /// Everyday words, split as a Hungarian would spell them.
@@ -164,7 +166,7 @@ TEST(HungarianLetters, of_everyday_words_are_those_they_are_spelled_with) {
 /// The letters of `text` by a pattern that knows nothing of compound words.
 QString split_by_pattern(const QString &text) {
     static const QRegularExpression letter(
-        QStringLiteral("dzs|ccs|ddz|ggy|lly|nny|ssz|tty|zzs|cs|dz|gy|ly|ny|sz|ty|zs|."),
+        u"dzs|ccs|ddz|ggy|lly|nny|ssz|tty|zzs|cs|dz|gy|ly|ny|sz|ty|zs|."_s,
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
     QStringList letters;
     auto matches = letter.globalMatch(text);
@@ -174,8 +176,7 @@ QString split_by_pattern(const QString &text) {
 }
 
 bool is_listed_compound(const QString &text) {
-    static const QStringList compounds{QStringLiteral("rajzszög"), QStringLiteral("rajzszeg"),
-                                       QStringLiteral("karosszék"), QStringLiteral("magánnyomozó")};
+    static const QStringList compounds{u"rajzszög"_s, u"rajzszeg"_s, u"karosszék"_s, u"magánnyomozó"_s};
     return compounds.contains(text.toLower());
 }
 

@@ -7,6 +7,8 @@
 #include "support/letters.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString text_of(const char16_t *text) {
@@ -24,29 +26,29 @@ TEST(HungarianText, is_empty_hungarian_and_filled_up_with_blanks_at_first) {
 
     EXPECT_EQ(text.value(), QString());
     EXPECT_EQ(text.szövegnyelv(), 2);
-    EXPECT_EQ(text.töltelékkarakter(), QStringLiteral(" "));
+    EXPECT_EQ(text.töltelékkarakter(), u" "_s);
     EXPECT_EQ(text.MAGYARBETŰKSZÁMA(), 0);
     EXPECT_EQ(text.lenght(), 0);
 }
 
 TEST(HungarianText, keeps_the_text_that_it_is_given) {
-    kszöveg text = hungarian(QStringLiteral("alma"));
-    EXPECT_EQ(text.value(), QStringLiteral("alma"));
-    EXPECT_EQ(letters_of(text), QStringLiteral("a|l|m|a"));
+    kszöveg text = hungarian(u"alma"_s);
+    EXPECT_EQ(text.value(), u"alma"_s);
+    EXPECT_EQ(letters_of(text), u"a|l|m|a"_s);
 
-    text.value(QStringLiteral(" Két szó, 3. "));
+    text.value(u" Két szó, 3. "_s);
 
-    EXPECT_EQ(text.value(), QStringLiteral(" Két szó, 3. "));
-    EXPECT_EQ(letters_of(text), QStringLiteral(" |K|é|t| |sz|ó|,| |3|.| "));
+    EXPECT_EQ(text.value(), u" Két szó, 3. "_s);
+    EXPECT_EQ(letters_of(text), u" |K|é|t| |sz|ó|,| |3|.| "_s);
 }
 
 TEST(HungarianText, has_no_letters_when_it_is_empty) {
-    kszöveg text = hungarian(QStringLiteral("alma"));
+    kszöveg text = hungarian(u"alma"_s);
 
     text.value(QString());
 
     EXPECT_EQ(text.MAGYARBETŰKSZÁMA(), 0);
-    EXPECT_EQ(text.VesszősSzöveg(), QStringLiteral(","));
+    EXPECT_EQ(text.VesszősSzöveg(), u","_s);
     EXPECT_EQ(text.magyarleft(3), QString());
     EXPECT_EQ(text.magyarright(3), QString());
 }
@@ -86,7 +88,7 @@ TEST(HungarianText, takes_its_language_by_name_in_any_case) {
 }
 
 TEST(HungarianText, gives_letters_by_their_places) {
-    const kszöveg text = hungarian(QStringLiteral("dzsungel"));
+    const kszöveg text = hungarian(u"dzsungel"_s);
     const Cut cases[] = {{1, u"dzs"}, {2, u"u"}, {3, u"n"}, {4, u"g"}, {5, u"e"},
                          {6, u"l"},   {0, u""},  {-1, u""}, {-6, u""}, {-1000, u""}};
 
@@ -96,16 +98,16 @@ TEST(HungarianText, gives_letters_by_their_places) {
 }
 
 TEST(HungarianText, gives_the_last_letter_for_every_place_past_the_end) {
-    const kszöveg text = hungarian(QStringLiteral("lándzsás"));
+    const kszöveg text = hungarian(u"lándzsás"_s);
 
     for (const int place : {7, 8, 1000})
-        EXPECT_EQ(text.szóbetűje(place), QStringLiteral("s")) << place;
-    EXPECT_EQ(hungarian(QStringLiteral("rizs")).szóbetűje(9), QStringLiteral("zs"));
+        EXPECT_EQ(text.szóbetűje(place), u"s"_s) << place;
+    EXPECT_EQ(hungarian(u"rizs"_s).szóbetűje(9), u"zs"_s);
     EXPECT_EQ(kszöveg().szóbetűje(1), QString());
 }
 
 TEST(HungarianText, knows_all_fourteen_vowels) {
-    const kszöveg vowels = hungarian(QStringLiteral("aáeéiíoóöőuúüű"));
+    const kszöveg vowels = hungarian(u"aáeéiíoóöőuúüű"_s);
 
     ASSERT_EQ(vowels.MAGYARBETŰKSZÁMA(), 14);
     for (int i = 1; i <= 14; ++i)
@@ -113,7 +115,7 @@ TEST(HungarianText, knows_all_fourteen_vowels) {
 }
 
 TEST(HungarianText, takes_no_capital_for_a_vowel) {
-    const kszöveg capitals = hungarian(QStringLiteral("AÁEÉIÍOÓÖŐUÚÜŰ"));
+    const kszöveg capitals = hungarian(u"AÁEÉIÍOÓÖŐUÚÜŰ"_s);
 
     ASSERT_EQ(capitals.MAGYARBETŰKSZÁMA(), 14);
     for (int i = 1; i <= 14; ++i)
@@ -126,7 +128,7 @@ TEST(HungarianText, takes_nothing_else_for_a_vowel) {
 }
 
 TEST(HungarianText, looks_for_the_vowel_where_the_letter_is_found) {
-    const kszöveg text = hungarian(QStringLiteral("csata"));
+    const kszöveg text = hungarian(u"csata"_s);
     const struct {
         int place;
         bool vowel;
@@ -137,7 +139,7 @@ TEST(HungarianText, looks_for_the_vowel_where_the_letter_is_found) {
 }
 
 TEST(HungarianText, begins_with_its_first_letters) {
-    const kszöveg text = hungarian(QStringLiteral("csésze"));
+    const kszöveg text = hungarian(u"csésze"_s);
     const Cut cases[] = {{-1, u""},     {0, u""},       {1, u"cs"},     {2, u"csé"},
                          {3, u"csész"}, {4, u"csésze"}, {5, u"csésze"}, {99, u"csésze"}};
 
@@ -146,7 +148,7 @@ TEST(HungarianText, begins_with_its_first_letters) {
 }
 
 TEST(HungarianText, ends_with_its_last_letters) {
-    const kszöveg text = hungarian(QStringLiteral("csésze"));
+    const kszöveg text = hungarian(u"csésze"_s);
     const Cut cases[] = {{-1, u""},    {0, u""},       {1, u"e"},      {2, u"sze"},
                          {3, u"észe"}, {4, u"csésze"}, {5, u"csésze"}, {99, u"csésze"}};
 
@@ -165,7 +167,7 @@ TEST(HungarianText, has_a_comma_before_its_first_letter_and_after_each) {
 }
 
 TEST(HungarianText, finds_whole_letters_only) {
-    const kszöveg text = hungarian(QStringLiteral("csodaszép"));
+    const kszöveg text = hungarian(u"csodaszép"_s);
     for (const char16_t *letter : {u"cs", u"o", u"d", u"a", u"sz", u"é", u"p"})
         EXPECT_TRUE(text.vanebenne(text_of(letter))) << text_of(letter).toStdString();
 
@@ -211,8 +213,8 @@ TEST(HungarianText, is_cut_at_its_end_or_filled_up_there_to_a_length) {
     const Cut cases[] = {{8, u"abc-----"}, {4, u"abc-"}, {3, u"abc"}, {2, u"ab"}, {1, u"a"}, {0, u""}, {-1, u""}};
 
     for (const auto &[length, result] : cases) {
-        kszöveg text = hungarian(QStringLiteral("abc"));
-        text.töltelékkarakter(QStringLiteral("-"));
+        kszöveg text = hungarian(u"abc"_s);
+        text.töltelékkarakter(u"-"_s);
 
         text.lenght(length);
 
@@ -221,39 +223,39 @@ TEST(HungarianText, is_cut_at_its_end_or_filled_up_there_to_a_length) {
 }
 
 TEST(HungarianText, is_filled_up_with_blanks_unless_told_otherwise) {
-    kszöveg text = hungarian(QStringLiteral("abc"));
+    kszöveg text = hungarian(u"abc"_s);
 
     text.lenght(5);
 
-    EXPECT_EQ(text.value(), QStringLiteral("abc  "));
+    EXPECT_EQ(text.value(), u"abc  "_s);
 }
 
 TEST(HungarianText, takes_only_the_first_character_to_fill_up_with) {
-    kszöveg text = hungarian(QStringLiteral("abc"));
+    kszöveg text = hungarian(u"abc"_s);
 
-    text.töltelékkarakter(QStringLiteral("*-+"));
+    text.töltelékkarakter(u"*-+"_s);
     text.lenght(5);
 
-    EXPECT_EQ(text.töltelékkarakter(), QStringLiteral("*"));
-    EXPECT_EQ(text.value(), QStringLiteral("abc**"));
+    EXPECT_EQ(text.töltelékkarakter(), u"*"_s);
+    EXPECT_EQ(text.value(), u"abc**"_s);
 }
 
 TEST(HungarianText, grows_by_nothing_without_a_character_to_fill_up_with) {
-    kszöveg text = hungarian(QStringLiteral("abc"));
+    kszöveg text = hungarian(u"abc"_s);
 
     text.töltelékkarakter(QString());
     text.lenght(5);
 
-    EXPECT_EQ(text.value(), QStringLiteral("abc"));
+    EXPECT_EQ(text.value(), u"abc"_s);
 }
 
 TEST(HungarianText, loses_characters_at_its_end) {
     const Cut cases[] = {{-1, u"csésze"}, {0, u"csésze"}, {1, u"csész"}, {2, u"csés"},
                          {5, u"c"},       {6, u""},       {7, u""},      {99, u""}};
     for (const auto &[n, rest] : cases) {
-        kszöveg text = hungarian(QStringLiteral("csésze"));
+        kszöveg text = hungarian(u"csésze"_s);
         EXPECT_EQ(text.jobbrólvágott(n), text_of(rest)) << n;
-        EXPECT_EQ(text.value(), QStringLiteral("csésze")) << n;
+        EXPECT_EQ(text.value(), u"csésze"_s) << n;
 
         text.levág_jobbról(n);
 
@@ -265,9 +267,9 @@ TEST(HungarianText, loses_characters_at_its_beginning) {
     const Cut cases[] = {{-1, u"csésze"}, {0, u"csésze"}, {1, u"sésze"}, {2, u"észe"},
                          {5, u"e"},       {6, u""},       {7, u""},      {99, u""}};
     for (const auto &[n, rest] : cases) {
-        kszöveg text = hungarian(QStringLiteral("csésze"));
+        kszöveg text = hungarian(u"csésze"_s);
         EXPECT_EQ(text.balrólvágott(n), text_of(rest)) << n;
-        EXPECT_EQ(text.value(), QStringLiteral("csésze")) << n;
+        EXPECT_EQ(text.value(), u"csésze"_s) << n;
 
         text.levág_balról(n);
 
@@ -279,11 +281,11 @@ TEST(HungarianText, takes_another_text_in_before_a_character) {
     const Cut cases[] = {{1, u"-+alma"}, {2, u"a-+lma"},  {4, u"alm-+a"}, {5, u"alma-+"},
                          {6, u"alma-+"}, {99, u"alma-+"}, {0, u"-+alma"}, {-7, u"-+alma"}};
     for (const auto &[place, result] : cases) {
-        kszöveg text = hungarian(QStringLiteral("alma"));
-        EXPECT_EQ(text.beszúr_nem_változik(place, QStringLiteral("-+")), text_of(result)) << place;
-        EXPECT_EQ(text.value(), QStringLiteral("alma")) << place;
+        kszöveg text = hungarian(u"alma"_s);
+        EXPECT_EQ(text.beszúr_nem_változik(place, u"-+"_s), text_of(result)) << place;
+        EXPECT_EQ(text.value(), u"alma"_s) << place;
 
-        text.beszúr(place, QStringLiteral("-+"));
+        text.beszúr(place, u"-+"_s);
 
         EXPECT_EQ(text.value(), text_of(result)) << place;
     }
@@ -294,10 +296,10 @@ TEST(HungarianText, takes_nothing_in_and_takes_in_while_it_is_empty) {
 
     text.beszúr(1, QString());
     EXPECT_EQ(text.value(), QString());
-    text.beszúr(3, QStringLiteral("alma"));
-    EXPECT_EQ(text.value(), QStringLiteral("alma"));
+    text.beszúr(3, u"alma"_s);
+    EXPECT_EQ(text.value(), u"alma"_s);
     text.beszúr(3, QString());
-    EXPECT_EQ(text.value(), QStringLiteral("alma"));
+    EXPECT_EQ(text.value(), u"alma"_s);
 }
 
 TEST(HungarianText, replaces_every_occurrence_from_left_to_right_and_never_in_what_was_put_in) {
@@ -319,21 +321,21 @@ TEST(HungarianText, replaces_every_occurrence_from_left_to_right_and_never_in_wh
 }
 
 TEST(HungarianText, has_other_letters_after_a_replacement) {
-    kszöveg text = hungarian(QStringLiteral("koca"));
+    kszöveg text = hungarian(u"koca"_s);
 
-    text.csere(QStringLiteral("c"), QStringLiteral("cs"));
+    text.csere(u"c"_s, u"cs"_s);
 
-    EXPECT_EQ(letters_of(text), QStringLiteral("k|o|cs|a"));
+    EXPECT_EQ(letters_of(text), u"k|o|cs|a"_s);
 }
 
 TEST(HungarianText, is_split_again_by_a_replacement_of_nothing) {
-    kszöveg text = hungarian(QStringLiteral("csésze"));
+    kszöveg text = hungarian(u"csésze"_s);
     text.szövegnyelv(kszöveg::angol);
 
-    text.csere(QString(), QStringLiteral("x"));
+    text.csere(QString(), u"x"_s);
 
-    EXPECT_EQ(text.value(), QStringLiteral("csésze"));
-    EXPECT_EQ(letters_of(text), QStringLiteral("c|s|é|s|z|e"));
+    EXPECT_EQ(text.value(), u"csésze"_s);
+    EXPECT_EQ(letters_of(text), u"c|s|é|s|z|e"_s);
 }
 
 TEST(HungarianText, keeps_its_letters_whatever_is_done_to_its_characters) {
@@ -342,38 +344,38 @@ TEST(HungarianText, keeps_its_letters_whatever_is_done_to_its_characters) {
         [](kszöveg &text) { text.lenght(1); },
         [](kszöveg &text) { text.levág_jobbról(2); },
         [](kszöveg &text) { text.levág_balról(1); },
-        [](kszöveg &text) { text.beszúr(2, QStringLiteral("zsz")); },
-        [](kszöveg &text) { static_cast<void>(text.beszúr_nem_változik(2, QStringLiteral("x"))); },
-        [](kszöveg &text) { text.töltelékkarakter(QStringLiteral("-")); },
+        [](kszöveg &text) { text.beszúr(2, u"zsz"_s); },
+        [](kszöveg &text) { static_cast<void>(text.beszúr_nem_változik(2, u"x"_s)); },
+        [](kszöveg &text) { text.töltelékkarakter(u"-"_s); },
     };
     for (const auto &operation : operations) {
-        kszöveg text = hungarian(QStringLiteral("csésze"));
+        kszöveg text = hungarian(u"csésze"_s);
 
         operation(text);
 
-        EXPECT_EQ(letters_of(text), QStringLiteral("cs|é|sz|e")) << text.value().toStdString();
+        EXPECT_EQ(letters_of(text), u"cs|é|sz|e"_s) << text.value().toStdString();
     }
 }
 
 TEST(HungarianText, keeps_its_letters_until_the_text_is_set_in_the_new_language) {
-    kszöveg text = hungarian(QStringLiteral("csésze"));
-    text.szövegnyelv(QStringLiteral("angol"));
-    EXPECT_EQ(letters_of(text), QStringLiteral("cs|é|sz|e"));
+    kszöveg text = hungarian(u"csésze"_s);
+    text.szövegnyelv(u"angol"_s);
+    EXPECT_EQ(letters_of(text), u"cs|é|sz|e"_s);
     text.value(text.value());
-    EXPECT_EQ(letters_of(text), QStringLiteral("c|s|é|s|z|e"));
+    EXPECT_EQ(letters_of(text), u"c|s|é|s|z|e"_s);
 
     text.szövegnyelv(kszöveg::magyar);
-    EXPECT_EQ(letters_of(text), QStringLiteral("c|s|é|s|z|e"));
+    EXPECT_EQ(letters_of(text), u"c|s|é|s|z|e"_s);
     text.value(text.value());
-    EXPECT_EQ(letters_of(text), QStringLiteral("cs|é|sz|e"));
+    EXPECT_EQ(letters_of(text), u"cs|é|sz|e"_s);
 }
 
 TEST(HungarianText, takes_its_article_by_the_letters_it_has_and_not_by_a_cut) {
-    kszöveg text = hungarian(QStringLiteral("alma"));
+    kszöveg text = hungarian(u"alma"_s);
 
     text.levág_balról(1);
 
-    EXPECT_EQ(text.Névelővel(false), QStringLiteral("az lma"));
+    EXPECT_EQ(text.Névelővel(false), u"az lma"_s);
 }
 
 }  // namespace

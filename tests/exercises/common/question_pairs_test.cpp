@@ -8,6 +8,8 @@
 #include "support/seeded_random.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class QuestionPairs : public testing::Test {
@@ -39,14 +41,14 @@ TEST_F(QuestionPairs, ask_in_random_order) {
 TEST_F(QuestionPairs, ask_a_pair_again_that_was_put_back_and_do_not_count_it_twice) {
     kérdéssor row(numbered_pairs(2), random_);
     const int first = row.kihúz();
-    EXPECT_EQ(row.számláló(), QStringLiteral(" 1/ 2"));
+    EXPECT_EQ(row.számláló(), u" 1/ 2"_s);
 
     row.visszatesz(first);
 
     QSet<int> asked{row.kihúz()};
-    EXPECT_EQ(row.számláló(), QStringLiteral(" 1/ 2"));
+    EXPECT_EQ(row.számláló(), u" 1/ 2"_s);
     asked.insert(row.kihúz());
-    EXPECT_EQ(row.számláló(), QStringLiteral(" 2/ 2"));
+    EXPECT_EQ(row.számláló(), u" 2/ 2"_s);
     EXPECT_EQ(asked.size(), 2);
 }
 
@@ -55,9 +57,9 @@ TEST_F(QuestionPairs, count_with_a_leading_blank_before_each_number) {
     for (int i = 0; i < 3; ++i)
         static_cast<void>(row.kihúz());
 
-    EXPECT_EQ(row.számláló(), QStringLiteral(" 3/ 20"));
-    EXPECT_EQ(számszöveg(0), QStringLiteral(" 0"));
-    EXPECT_EQ(számszöveg(-5), QStringLiteral("-5"));
+    EXPECT_EQ(row.számláló(), u" 3/ 20"_s);
+    EXPECT_EQ(számszöveg(0), u" 0"_s);
+    EXPECT_EQ(számszöveg(-5), u"-5"_s);
 }
 
 TEST_F(QuestionPairs, divide_the_failed_ones_by_the_highest_index) {

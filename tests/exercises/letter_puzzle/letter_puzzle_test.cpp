@@ -9,6 +9,8 @@
 #include "support/seeded_random.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class LetterPuzzle : public testing::Test {
@@ -48,7 +50,7 @@ TEST_F(LetterPuzzle, asks_in_random_order) {
         order.append(puzzle.kérdés());
     int in_list_order = 0;
     for (int i = 0; i < order.size(); ++i)
-        in_list_order += order[i] == QStringLiteral("word%1").arg(i) ? 1 : 0;
+        in_list_order += order[i] == u"word%1"_s.arg(i) ? 1 : 0;
 
     EXPECT_LT(in_list_order, 10);
 }
@@ -77,7 +79,7 @@ TEST_F(LetterPuzzle, draws_the_pair_until_it_hits_one_that_has_not_been_asked) {
     while (puzzle.következő(irány::angolról))
         order.append(puzzle.kérdés());
 
-    EXPECT_EQ(order, QStringList({QStringLiteral("word1"), QStringLiteral("word0"), QStringLiteral("word2")}));
+    EXPECT_EQ(order, QStringList({u"word1"_s, u"word0"_s, u"word2"_s}));
     EXPECT_EQ(random.left(), 0U);
 }
 
@@ -85,16 +87,16 @@ TEST_F(LetterPuzzle, asks_in_the_chosen_direction) {
     kirakójáték puzzle(pairs_of({{u"ship", u"hajó"}, {u"ship", u"hajó"}}), random_);
 
     ASSERT_TRUE(puzzle.következő(irány::angolról));
-    EXPECT_EQ(puzzle.kérdés(), QStringLiteral("ship"));
+    EXPECT_EQ(puzzle.kérdés(), u"ship"_s);
     EXPECT_EQ(puzzle.kérdésnyelve(), kérdésnyelv::angol);
-    EXPECT_EQ(puzzle.megoldás().value(), QStringLiteral("hajó"));
+    EXPECT_EQ(puzzle.megoldás().value(), u"hajó"_s);
 
     ASSERT_TRUE(puzzle.következő(irány::magyarról));
-    EXPECT_EQ(puzzle.kérdés(), QStringLiteral("hajó"));
+    EXPECT_EQ(puzzle.kérdés(), u"hajó"_s);
     EXPECT_EQ(puzzle.kérdésnyelve(), kérdésnyelv::magyar);
-    EXPECT_EQ(puzzle.megoldás().value(), QStringLiteral("ship"));
-    EXPECT_EQ(puzzle.pár().angol, QStringLiteral("ship"));
-    EXPECT_EQ(puzzle.pár().magyar, QStringLiteral("hajó"));
+    EXPECT_EQ(puzzle.megoldás().value(), u"ship"_s);
+    EXPECT_EQ(puzzle.pár().angol, u"ship"_s);
+    EXPECT_EQ(puzzle.pár().magyar, u"hajó"_s);
 }
 
 TEST_F(LetterPuzzle, draws_the_direction_of_every_word_after_the_word_when_it_changes) {
@@ -110,8 +112,7 @@ TEST_F(LetterPuzzle, draws_the_direction_of_every_word_after_the_word_when_it_ch
     while (puzzle.következő(irány::változó))
         order.append(puzzle.kérdés());
 
-    EXPECT_EQ(order, QStringList({QStringLiteral("word0"), QStringLiteral("szó1"), QStringLiteral("word2"),
-                                  QStringLiteral("szó3")}));
+    EXPECT_EQ(order, QStringList({u"word0"_s, u"szó1"_s, u"word2"_s, u"szó3"_s}));
     EXPECT_EQ(random.left(), 0U);
 }
 
@@ -126,36 +127,34 @@ TEST_F(LetterPuzzle, draws_no_direction_when_it_is_chosen) {
 }
 
 TEST_F(LetterPuzzle, is_put_together_from_hungarian_letters_when_the_answer_is_hungarian) {
-    EXPECT_EQ(letters_to_put_together(u"grape", u"szőlő", irány::angolról), QStringLiteral("sz|ő|l|ő"));
-    EXPECT_EQ(letters_to_put_together(u"jungle", u"dzsungel", irány::angolról), QStringLiteral("dzs|u|n|g|e|l"));
-    EXPECT_EQ(letters_to_put_together(u"drawing pin", u"rajzszög", irány::angolról), QStringLiteral("r|a|j|z|sz|ö|g"));
+    EXPECT_EQ(letters_to_put_together(u"grape", u"szőlő", irány::angolról), u"sz|ő|l|ő"_s);
+    EXPECT_EQ(letters_to_put_together(u"jungle", u"dzsungel", irány::angolról), u"dzs|u|n|g|e|l"_s);
+    EXPECT_EQ(letters_to_put_together(u"drawing pin", u"rajzszög", irány::angolról), u"r|a|j|z|sz|ö|g"_s);
 }
 
 TEST_F(LetterPuzzle, is_put_together_from_characters_when_the_answer_is_english) {
-    EXPECT_EQ(letters_to_put_together(u"ship", u"hajó", irány::magyarról), QStringLiteral("s|h|i|p"));
-    EXPECT_EQ(letters_to_put_together(u"pigsty", u"disznóól", irány::magyarról), QStringLiteral("p|i|g|s|t|y"));
+    EXPECT_EQ(letters_to_put_together(u"ship", u"hajó", irány::magyarról), u"s|h|i|p"_s);
+    EXPECT_EQ(letters_to_put_together(u"pigsty", u"disznóól", irány::magyarról), u"p|i|g|s|t|y"_s);
 }
 
 TEST_F(LetterPuzzle, changes_the_letters_with_the_language_of_each_answer) {
     kirakójáték puzzle(pairs_of({{u"sty", u"disznóól"}, {u"sty", u"disznóól"}, {u"sty", u"disznóól"}}), random_);
 
     ASSERT_TRUE(puzzle.következő(irány::angolról));
-    EXPECT_EQ(puzzle.betűk().join(u'|'), QStringLiteral("d|i|sz|n|ó|ó|l"));
+    EXPECT_EQ(puzzle.betűk().join(u'|'), u"d|i|sz|n|ó|ó|l"_s);
     ASSERT_TRUE(puzzle.következő(irány::magyarról));
-    EXPECT_EQ(puzzle.betűk().join(u'|'), QStringLiteral("s|t|y"));
+    EXPECT_EQ(puzzle.betűk().join(u'|'), u"s|t|y"_s);
     ASSERT_TRUE(puzzle.következő(irány::angolról));
-    EXPECT_EQ(puzzle.betűk().join(u'|'), QStringLiteral("d|i|sz|n|ó|ó|l"));
+    EXPECT_EQ(puzzle.betűk().join(u'|'), u"d|i|sz|n|ó|ó|l"_s);
 }
 
 TEST_F(LetterPuzzle, has_a_letter_for_each_blank) {
-    EXPECT_EQ(letters_to_put_together(u"ice cream", u"fagylalt", irány::magyarról),
-              QStringLiteral("i|c|e|_|c|r|e|a|m"));
-    EXPECT_EQ(letters_to_put_together(u"cheers", u"jó  napot ", irány::angolról),
-              QStringLiteral("j|ó|_|_|n|a|p|o|t|_"));
+    EXPECT_EQ(letters_to_put_together(u"ice cream", u"fagylalt", irány::magyarról), u"i|c|e|_|c|r|e|a|m"_s);
+    EXPECT_EQ(letters_to_put_together(u"cheers", u"jó  napot ", irány::angolról), u"j|ó|_|_|n|a|p|o|t|_"_s);
 }
 
 TEST_F(LetterPuzzle, asks_for_all_meanings_of_a_word) {
-    EXPECT_EQ(letters_to_put_together(u"horse", u"ló, paci", irány::angolról), QStringLiteral("l|ó|,|_|p|a|c|i"));
+    EXPECT_EQ(letters_to_put_together(u"horse", u"ló, paci", irány::angolról), u"l|ó|,|_|p|a|c|i"_s);
 }
 
 TEST_F(LetterPuzzle, shows_the_blanks_of_the_question_as_they_are) {
@@ -163,8 +162,8 @@ TEST_F(LetterPuzzle, shows_the_blanks_of_the_question_as_they_are) {
 
     ASSERT_TRUE(puzzle.következő(irány::angolról));
 
-    EXPECT_EQ(puzzle.kérdés(), QStringLiteral("ice cream"));
-    EXPECT_EQ(puzzle.pár().angol, QStringLiteral("ice cream"));
+    EXPECT_EQ(puzzle.kérdés(), u"ice cream"_s);
+    EXPECT_EQ(puzzle.pár().angol, u"ice cream"_s);
 }
 
 TEST_F(LetterPuzzle, must_be_answered_with_a_letter_for_each_blank) {
@@ -173,7 +172,7 @@ TEST_F(LetterPuzzle, must_be_answered_with_a_letter_for_each_blank) {
 
     for (const char16_t *wrong : {u"to give up", u"togiveup", u"to_give up", u"to_giveup_"})
         EXPECT_FALSE(puzzle.ellenőriz(QString::fromUtf16(wrong))) << QString::fromUtf16(wrong).toStdString();
-    EXPECT_TRUE(puzzle.ellenőriz(QStringLiteral("to_give_up")));
+    EXPECT_TRUE(puzzle.ellenőriz(u"to_give_up"_s));
 }
 
 TEST_F(LetterPuzzle, compares_the_answer_exactly) {
@@ -182,7 +181,7 @@ TEST_F(LetterPuzzle, compares_the_answer_exactly) {
 
     for (const char16_t *wrong : {u"duna", u"DUNA", u"Dunaa", u"Dun", u"Duna ", u"Dúna", u""})
         EXPECT_FALSE(puzzle.ellenőriz(QString::fromUtf16(wrong))) << QString::fromUtf16(wrong).toStdString();
-    EXPECT_TRUE(puzzle.ellenőriz(QStringLiteral("Duna")));
+    EXPECT_TRUE(puzzle.ellenőriz(u"Duna"_s));
 }
 
 TEST_F(LetterPuzzle, keeps_the_question_after_a_wrong_answer_and_marks_the_pair) {
@@ -192,12 +191,12 @@ TEST_F(LetterPuzzle, keeps_the_question_after_a_wrong_answer_and_marks_the_pair)
     const QStringList letters = puzzle.betűk();
     EXPECT_FALSE(puzzle.pár().hibás);
 
-    EXPECT_FALSE(puzzle.ellenőriz(QStringLiteral("rossz")));
+    EXPECT_FALSE(puzzle.ellenőriz(u"rossz"_s));
 
     EXPECT_TRUE(puzzle.pár().hibás);
     EXPECT_EQ(puzzle.kérdés(), question);
     EXPECT_EQ(puzzle.betűk(), letters);
-    EXPECT_EQ(puzzle.számláló(), QStringLiteral(" 1/ 5"));
+    EXPECT_EQ(puzzle.számláló(), u" 1/ 5"_s);
     EXPECT_TRUE(puzzle.ellenőriz(puzzle.megoldás().value()));
     EXPECT_TRUE(puzzle.pár().hibás);
 }
@@ -208,7 +207,7 @@ TEST_F(LetterPuzzle, does_not_ask_a_failed_pair_again) {
 
     while (puzzle.következő(irány::angolról)) {
         ++asked;
-        static_cast<void>(puzzle.ellenőriz(QStringLiteral("rossz")));
+        static_cast<void>(puzzle.ellenőriz(u"rossz"_s));
     }
 
     EXPECT_EQ(asked, 5);
@@ -218,7 +217,7 @@ TEST_F(LetterPuzzle, marks_no_pair_that_is_answered_rightly) {
     kirakójáték puzzle(numbered_pairs(1), random_);
     ASSERT_TRUE(puzzle.következő(irány::magyarról));
 
-    EXPECT_TRUE(puzzle.ellenőriz(QStringLiteral("word0")));
+    EXPECT_TRUE(puzzle.ellenőriz(u"word0"_s));
 
     EXPECT_FALSE(puzzle.pár().hibás);
 }
@@ -235,7 +234,7 @@ TEST_F(LetterPuzzle, passes_pairs_over_that_lack_a_side) {
                 asked.append(puzzle.pár().angol);
             asked.sort();
 
-            ASSERT_EQ(asked, QStringList({QStringLiteral("dog"), QStringLiteral("egg")})) << seed;
+            ASSERT_EQ(asked, QStringList({u"dog"_s, u"egg"_s})) << seed;
         }
     }
 }
@@ -247,8 +246,8 @@ TEST_F(LetterPuzzle, counts_a_pair_that_it_passes_over_as_asked) {
 
     ASSERT_TRUE(puzzle.következő(irány::változó));
 
-    EXPECT_EQ(puzzle.kérdés(), QStringLiteral("kutya"));
-    EXPECT_EQ(puzzle.számláló(), QStringLiteral(" 2/ 2"));
+    EXPECT_EQ(puzzle.kérdés(), u"kutya"_s);
+    EXPECT_EQ(puzzle.számláló(), u" 2/ 2"_s);
     EXPECT_EQ(random.reseeds, 2);
     EXPECT_FALSE(puzzle.következő(irány::változó));
 }
@@ -269,9 +268,9 @@ TEST_F(LetterPuzzle, counts_with_a_leading_blank_before_each_number) {
         counters.append(puzzle.számláló());
 
     ASSERT_EQ(counters.size(), 12);
-    EXPECT_EQ(counters[0], QStringLiteral(" 1/ 12"));
-    EXPECT_EQ(counters[1], QStringLiteral(" 2/ 12"));
-    EXPECT_EQ(counters[11], QStringLiteral(" 12/ 12"));
+    EXPECT_EQ(counters[0], u" 1/ 12"_s);
+    EXPECT_EQ(counters[1], u" 2/ 12"_s);
+    EXPECT_EQ(counters[11], u" 12/ 12"_s);
 }
 
 TEST_F(LetterPuzzle, begins_a_new_sequence_of_random_numbers_with_each_word) {
@@ -286,12 +285,12 @@ TEST_F(LetterPuzzle, begins_a_new_sequence_of_random_numbers_with_each_word) {
 TEST_F(LetterPuzzle, asks_every_pair_again_when_it_is_begun_anew) {
     kirakójáték puzzle(numbered_pairs(4), random_);
     while (puzzle.következő(irány::angolról))
-        static_cast<void>(puzzle.ellenőriz(QStringLiteral("rossz")));
+        static_cast<void>(puzzle.ellenőriz(u"rossz"_s));
 
     puzzle.újrakezd();
 
     ASSERT_TRUE(puzzle.következő(irány::angolról));
-    EXPECT_EQ(puzzle.számláló(), QStringLiteral(" 1/ 4"));
+    EXPECT_EQ(puzzle.számláló(), u" 1/ 4"_s);
     EXPECT_FALSE(puzzle.pár().hibás);
     puzzle.újrakezd();
     EXPECT_EQ(ask_all(puzzle, irány::angolról).size(), 4);

@@ -10,6 +10,8 @@
 #include "support/scripted_random.h"
 #include "support/seeded_random.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// About the size of a tile in the puzzle's window: wider for a letter of several characters.
@@ -60,7 +62,7 @@ TEST(LetterTilesOfManyLetters, of_real_words_never_overlap_nor_leave_the_frame) 
     SeededRandom seeded;
     for (const QString &word : words) {
         SCOPED_TRACE(word.toStdString());
-        kirakójáték puzzle({{QStringLiteral("word"), word}}, seeded);
+        kirakójáték puzzle({{u"word"_s, word}}, seeded);
         ASSERT_TRUE(puzzle.következő(irány::angolról));
         CountingRandom random(seeded);
         QSet<int> tried;
@@ -127,8 +129,7 @@ TEST(LetterTilesOfManyLetters, stand_in_rows_in_random_order) {
         orders.insert(order);
     }
 
-    EXPECT_EQ(orders, QSet<QString>({QStringLiteral("abc"), QStringLiteral("acb"), QStringLiteral("bac"),
-                                     QStringLiteral("bca"), QStringLiteral("cab"), QStringLiteral("cba")}));
+    EXPECT_EQ(orders, QSet<QString>({u"abc"_s, u"acb"_s, u"bac"_s, u"bca"_s, u"cab"_s, u"cba"_s}));
 }
 
 TEST(LetterTilesOfManyLetters, cover_part_of_the_row_before_when_the_frame_has_too_little_height) {
@@ -192,7 +193,7 @@ TEST(LetterTilesOfManyLetters, longer_than_the_frame_close_up_from_side_to_side_
     tiles.mozgat(1, {75, 200});
     tiles.mozgat(2, {20, 300});
 
-    EXPECT_EQ(tiles.kirakott_szó(), QStringLiteral("cba"));
+    EXPECT_EQ(tiles.kirakott_szó(), u"cba"_s);
 
     expect_all_inside(tiles, frame);
     const QRectF &first = tiles.lapok()[2].hely;

@@ -7,6 +7,8 @@
 #include "support/scripted_random.h"
 #include "support/seeded_random.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSizeF frame(1000, 500);
@@ -31,8 +33,8 @@ QSizeF by_points(const QString &, int points) {
 QString places(const betűlapok &tiles) {
     QStringList made;
     for (const betűlapok::lap &one : tiles.lapok())
-        made.append(one.betű + QStringLiteral(" %1,%2").arg(one.hely.left()).arg(one.hely.top()));
-    return made.join(QStringLiteral("; "));
+        made.append(one.betű + u" %1,%2"_s.arg(one.hely.left()).arg(one.hely.top()));
+    return made.join(u"; "_s);
 }
 
 /// Tiles with their top left corners at these places.
@@ -50,13 +52,13 @@ TEST(LetterTiles, have_one_tile_for_each_letter_in_the_measured_size) {
     betűlapok tiles(frame);
     SeededRandom random;
 
-    const int points = tiles.kirak({QStringLiteral("sz"), QStringLiteral("ő")}, by_characters, size, size, random);
+    const int points = tiles.kirak({u"sz"_s, u"ő"_s}, by_characters, size, size, random);
 
     EXPECT_EQ(points, size);
     ASSERT_EQ(tiles.lapok().size(), 2);
-    EXPECT_EQ(tiles.lapok()[0].betű, QStringLiteral("sz"));
+    EXPECT_EQ(tiles.lapok()[0].betű, u"sz"_s);
     EXPECT_EQ(tiles.lapok()[0].hely.size(), QSizeF(200, 100));
-    EXPECT_EQ(tiles.lapok()[1].betű, QStringLiteral("ő"));
+    EXPECT_EQ(tiles.lapok()[1].betű, u"ő"_s);
     EXPECT_EQ(tiles.lapok()[1].hely.size(), QSizeF(100, 100));
 }
 
@@ -86,9 +88,9 @@ TEST(LetterTiles, have_their_room_by_the_size_of_each) {
     // Room: 800 by 400 for "sz", 900 by 400 for "ő".
     ScriptedRandom random({0.5, 0.5, 0.9, 0.5});
 
-    tiles.kirak({QStringLiteral("sz"), QStringLiteral("ő")}, by_characters, size, size, random);
+    tiles.kirak({u"sz"_s, u"ő"_s}, by_characters, size, size, random);
 
-    EXPECT_EQ(places(tiles), QStringLiteral("sz 400,200; ő 810,200"));
+    EXPECT_EQ(places(tiles), u"sz 400,200; ő 810,200"_s);
 }
 
 TEST(LetterTiles, are_drawn_again_until_they_overlap_none_before) {
@@ -98,7 +100,7 @@ TEST(LetterTiles, are_drawn_again_until_they_overlap_none_before) {
 
     const int points = tiles.kirak(plain_letters(2), always_the_same, size, size, random);
 
-    EXPECT_EQ(places(tiles), QStringLiteral("a 400,200; b 0,0"));
+    EXPECT_EQ(places(tiles), u"a 400,200; b 0,0"_s);
     EXPECT_EQ(points, size);
     EXPECT_EQ(random.left(), 0U);
 }
@@ -110,7 +112,7 @@ TEST(LetterTiles, may_touch_each_other_on_every_side) {
 
     tiles.kirak(plain_letters(5), always_the_same, size, size, random);
 
-    EXPECT_EQ(places(tiles), QStringLiteral("a 400,200; b 200,200; c 600,200; d 400,100; e 400,300"));
+    EXPECT_EQ(places(tiles), u"a 400,200; b 200,200; c 600,200; d 400,100; e 400,300"_s);
     EXPECT_EQ(random.left(), 0U);
 }
 
@@ -119,10 +121,10 @@ TEST(LetterTiles, replace_those_of_the_word_before) {
     SeededRandom random;
     tiles.kirak(plain_letters(5), always_the_same, size, size, random);
 
-    tiles.kirak({QStringLiteral("x")}, always_the_same, size, size, random);
+    tiles.kirak({u"x"_s}, always_the_same, size, size, random);
 
     ASSERT_EQ(tiles.lapok().size(), 1);
-    EXPECT_EQ(tiles.lapok()[0].betű, QStringLiteral("x"));
+    EXPECT_EQ(tiles.lapok()[0].betű, u"x"_s);
 }
 
 TEST(LetterTiles, keep_the_large_letters_while_they_fit_into_one_row) {
@@ -182,7 +184,7 @@ TEST(LetterTiles, have_smaller_letters_when_no_place_is_found_for_one_in_the_dra
 
     EXPECT_EQ(points, 9);
     // 0.9 of 201 - 90.
-    EXPECT_EQ(places(tiles), QStringLiteral("a 0,0; b 99,0"));
+    EXPECT_EQ(places(tiles), u"a 0,0; b 99,0"_s);
     EXPECT_EQ(random.left(), 0U);
 }
 
@@ -194,7 +196,7 @@ TEST(LetterTiles, stand_in_rows_when_no_place_is_found_even_for_the_smallest) {
     const int points = tiles.kirak(plain_letters(2), by_points, 10, 8, random);
 
     EXPECT_EQ(points, 8);
-    EXPECT_EQ(places(tiles), QStringLiteral("a 80,0; b 0,0"));
+    EXPECT_EQ(places(tiles), u"a 80,0; b 0,0"_s);
     EXPECT_EQ(random.left(), 0U);
 }
 
@@ -213,7 +215,7 @@ TEST(LetterTiles, move_to_where_they_are_put) {
 
     tiles.mozgat(0, {310, 20.5});
 
-    EXPECT_EQ(places(tiles), QStringLiteral("a 310,20.5; b 500,300"));
+    EXPECT_EQ(places(tiles), u"a 310,20.5; b 500,300"_s);
     EXPECT_EQ(tiles.lapok()[0].hely.size(), tile);
 }
 
@@ -222,7 +224,7 @@ TEST(LetterTiles, may_be_put_on_each_other) {
 
     tiles.mozgat(0, {500, 300});
 
-    EXPECT_EQ(places(tiles), QStringLiteral("a 500,300; b 500,300"));
+    EXPECT_EQ(places(tiles), u"a 500,300; b 500,300"_s);
 }
 
 TEST(LetterTiles, never_leave_the_frame_on_any_side) {
@@ -246,33 +248,31 @@ TEST(LetterTiles, that_are_larger_than_the_frame_stay_in_its_corner) {
 
     for (const QPointF &to : {QPointF(10, 10), QPointF(-60, -30), QPointF(300, 300)}) {
         tiles.mozgat(0, to);
-        EXPECT_EQ(places(tiles), QStringLiteral("a 0,0"));
+        EXPECT_EQ(places(tiles), u"a 0,0"_s);
     }
 }
 
 TEST(LetterTiles, close_up_to_the_word_in_the_order_of_their_left_edges) {
-    betűlapok tiles =
-        laid_out(frame, {QStringLiteral("ő"), QStringLiteral("l"), QStringLiteral("ő"), QStringLiteral("sz")},
-                 by_characters, {{400, 300}, {650, 0}, {900, 400}, {30, 200}});
+    betűlapok tiles = laid_out(frame, {u"ő"_s, u"l"_s, u"ő"_s, u"sz"_s}, by_characters,
+                               {{400, 300}, {650, 0}, {900, 400}, {30, 200}});
 
-    EXPECT_EQ(tiles.kirakott_szó(), QStringLiteral("szőlő"));
+    EXPECT_EQ(tiles.kirakott_szó(), u"szőlő"_s);
 
-    EXPECT_EQ(places(tiles), QStringLiteral("ő 230,200; l 330,200; ő 430,200; sz 30,200"));
+    EXPECT_EQ(places(tiles), u"ő 230,200; l 330,200; ő 430,200; sz 30,200"_s);
 }
 
 TEST(LetterTiles, close_up_by_their_left_edges_and_not_by_their_middles) {
-    betűlapok tiles =
-        laid_out(frame, {QStringLiteral("e"), QStringLiteral("dzs")}, by_characters, {{101, 0}, {100, 0}});
+    betűlapok tiles = laid_out(frame, {u"e"_s, u"dzs"_s}, by_characters, {{101, 0}, {100, 0}});
 
-    EXPECT_EQ(tiles.kirakott_szó(), QStringLiteral("dzse"));
+    EXPECT_EQ(tiles.kirakott_szó(), u"dzse"_s);
 }
 
 TEST(LetterTiles, with_equal_left_edges_keep_their_order) {
     betűlapok tiles = laid_out(frame, plain_letters(3), by_characters, {{300, 0}, {300, 200}, {300, 100}});
 
-    EXPECT_EQ(tiles.kirakott_szó(), QStringLiteral("abc"));
+    EXPECT_EQ(tiles.kirakott_szó(), u"abc"_s);
 
-    EXPECT_EQ(places(tiles), QStringLiteral("a 300,0; b 400,0; c 500,0"));
+    EXPECT_EQ(places(tiles), u"a 300,0; b 400,0; c 500,0"_s);
 }
 
 TEST(LetterTiles, keep_their_order_among_many_with_equal_left_edges) {
@@ -286,17 +286,17 @@ TEST(LetterTiles, close_up_further_left_when_the_row_would_leave_the_frame) {
     // Three hundred wide together, so the row begins at 700 at most.
     betűlapok tiles = laid_out(frame, plain_letters(3), by_characters, {{900, 10}, {880, 20}, {750, 30}});
 
-    EXPECT_EQ(tiles.kirakott_szó(), QStringLiteral("cba"));
+    EXPECT_EQ(tiles.kirakott_szó(), u"cba"_s);
 
-    EXPECT_EQ(places(tiles), QStringLiteral("a 900,30; b 800,30; c 700,30"));
+    EXPECT_EQ(places(tiles), u"a 900,30; b 800,30; c 700,30"_s);
 }
 
 TEST(LetterTiles, close_up_where_they_lie_when_the_row_just_fits) {
     betűlapok tiles = laid_out(frame, plain_letters(3), by_characters, {{700, 10}, {750, 20}, {760, 30}});
 
-    EXPECT_EQ(tiles.kirakott_szó(), QStringLiteral("abc"));
+    EXPECT_EQ(tiles.kirakott_szó(), u"abc"_s);
 
-    EXPECT_EQ(places(tiles), QStringLiteral("a 700,10; b 800,10; c 900,10"));
+    EXPECT_EQ(places(tiles), u"a 700,10; b 800,10; c 900,10"_s);
 }
 
 TEST(LetterTiles, stay_where_they_are_when_they_are_closed_up_again) {

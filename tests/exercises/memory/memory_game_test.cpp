@@ -13,6 +13,8 @@
 #include "support/seeded_random.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using fordulat = memóriajáték::fordulat;
@@ -55,23 +57,22 @@ class MemoryGame : public testing::Test {
 };
 
 TEST_F(MemoryGame, draws_pairs_and_cards_until_it_hits_a_free_one) {
-    EXPECT_EQ(texts_on(game_), QStringList({QStringLiteral("szó1"), QStringLiteral("word2"), QStringLiteral("word1"),
-                                            QStringLiteral("szó2")}));
+    EXPECT_EQ(texts_on(game_), QStringList({u"szó1"_s, u"word2"_s, u"word1"_s, u"szó2"_s}));
     EXPECT_EQ(random_.left(), 0U);
     EXPECT_EQ(random_.reseeds, 1);
 }
 
 TEST_F(MemoryGame, begins_with_all_cards_covered) {
-    EXPECT_EQ(seen(game_), QStringLiteral("----"));
+    EXPECT_EQ(seen(game_), u"----"_s);
     EXPECT_EQ(game_.felfordított(), 0);
-    EXPECT_EQ(game_.állás(), QStringLiteral("0/2"));
+    EXPECT_EQ(game_.állás(), u"0/2"_s);
     EXPECT_FALSE(game_.vége());
 }
 
 TEST_F(MemoryGame, turns_the_first_card_up) {
     EXPECT_EQ(game_.felfordít(1), fordulat::első);
 
-    EXPECT_EQ(seen(game_), QStringLiteral("-x--"));
+    EXPECT_EQ(seen(game_), u"-x--"_s);
     EXPECT_EQ(game_.felfordított(), 1);
 }
 
@@ -80,7 +81,7 @@ TEST_F(MemoryGame, does_nothing_when_the_card_is_up_already) {
 
     EXPECT_EQ(game_.felfordít(1), fordulat::semmi);
 
-    EXPECT_EQ(seen(game_), QStringLiteral("-x--"));
+    EXPECT_EQ(seen(game_), u"-x--"_s);
     EXPECT_EQ(game_.felfordított(), 1);
 }
 
@@ -122,9 +123,9 @@ TEST_F(MemoryGame, covers_a_wrong_pair_and_begins_the_next_try) {
 
     game_.lefed();
 
-    EXPECT_EQ(seen(game_), QStringLiteral("----"));
+    EXPECT_EQ(seen(game_), u"----"_s);
     EXPECT_EQ(game_.felfordított(), 0);
-    EXPECT_EQ(game_.állás(), QStringLiteral("0/2"));
+    EXPECT_EQ(game_.állás(), u"0/2"_s);
 }
 
 TEST_F(MemoryGame, turns_a_third_card_up_as_the_first_of_the_next_try) {
@@ -134,7 +135,7 @@ TEST_F(MemoryGame, turns_a_third_card_up_as_the_first_of_the_next_try) {
 
     EXPECT_EQ(game_.felfordít(3), fordulat::első);
 
-    EXPECT_EQ(seen(game_), QStringLiteral("---x"));
+    EXPECT_EQ(seen(game_), u"---x"_s);
     EXPECT_EQ(game_.felfordított(), 1);
     EXPECT_EQ(game_.felfordít(1), fordulat::pár);
 }
@@ -144,7 +145,7 @@ TEST_F(MemoryGame, covers_a_single_card_too) {
 
     game_.lefed();
 
-    EXPECT_EQ(seen(game_), QStringLiteral("----"));
+    EXPECT_EQ(seen(game_), u"----"_s);
     EXPECT_EQ(game_.felfordít(2), fordulat::első);
 }
 
@@ -171,7 +172,7 @@ TEST_F(MemoryGame, neither_covers_nor_turns_a_card_that_was_found) {
         EXPECT_EQ(game_.felfordít(found), fordulat::semmi);
         EXPECT_EQ(game_.felfordított(), 0);
     }
-    EXPECT_EQ(seen(game_), QStringLiteral(".-.-"));
+    EXPECT_EQ(seen(game_), u".-.-"_s);
 }
 
 TEST_F(MemoryGame, does_not_turn_a_found_card_as_the_second_one) {
@@ -190,14 +191,14 @@ TEST_F(MemoryGame, does_not_turn_a_found_card_as_the_second_one) {
 TEST_F(MemoryGame, counts_a_found_pair_when_it_is_told_to) {
     game_.felfordít(0);
     game_.felfordít(2);
-    EXPECT_EQ(game_.állás(), QStringLiteral("0/2"));
+    EXPECT_EQ(game_.állás(), u"0/2"_s);
 
     game_.megtalál();
-    EXPECT_EQ(game_.állás(), QStringLiteral("1/2"));
+    EXPECT_EQ(game_.állás(), u"1/2"_s);
     EXPECT_FALSE(game_.vége());
 
     game_.megtalál();
-    EXPECT_EQ(game_.állás(), QStringLiteral("2/2"));
+    EXPECT_EQ(game_.állás(), u"2/2"_s);
     EXPECT_TRUE(game_.vége());
 }
 
@@ -226,10 +227,10 @@ TEST(MemoryGameOfMany, deals_different_pairs_with_each_word_on_one_card) {
             const QSet<QString> distinct(texts.cbegin(), texts.cend());
 
             ASSERT_EQ(distinct.size(), board.kártyák());
-            ASSERT_EQ(texts.filter(QStringLiteral("word")).size(), board.párok());
+            ASSERT_EQ(texts.filter(u"word"_s).size(), board.párok());
             for (QString text : texts) {
-                if (text.startsWith(QStringLiteral("word"))) {
-                    ASSERT_TRUE(distinct.contains(text.replace(QStringLiteral("word"), QStringLiteral("szó"))));
+                if (text.startsWith(u"word"_s)) {
+                    ASSERT_TRUE(distinct.contains(text.replace(u"word"_s, u"szó"_s)));
                 }
             }
         }
@@ -243,8 +244,8 @@ TEST(MemoryGameOfMany, deals_every_pair_when_there_are_just_enough) {
     game.kioszt(36);
 
     for (int i = 0; i < 18; ++i) {
-        EXPECT_EQ(texts_on(game).count(QStringLiteral("word%1").arg(i)), 1) << i;
-        EXPECT_EQ(texts_on(game).count(QStringLiteral("szó%1").arg(i)), 1) << i;
+        EXPECT_EQ(texts_on(game).count(u"word%1"_s.arg(i)), 1) << i;
+        EXPECT_EQ(texts_on(game).count(u"szó%1"_s.arg(i)), 1) << i;
     }
 }
 
@@ -257,7 +258,7 @@ TEST(MemoryGameOfMany, deals_every_pair_and_every_card_equally_often) {
         game.kioszt(12);
         for (int i = 0; i < 12; ++i) {
             ++dealt[game.szöveg(i)];
-            english_on_card[i] += game.szöveg(i).startsWith(QStringLiteral("word")) ? 1 : 0;
+            english_on_card[i] += game.szöveg(i).startsWith(u"word"_s) ? 1 : 0;
         }
     }
 
@@ -281,9 +282,8 @@ TEST(MemoryGameOfMany, has_the_translation_up_to_its_first_comma_and_the_whole_e
 
     QStringList texts = texts_on(game);
     texts.sort();
-    EXPECT_EQ(texts, QStringList({QString(), QString(), QStringLiteral("alma"), QStringLiteral("apple"),
-                                  QStringLiteral("dog"), QStringLiteral("go, went, gone"), QStringLiteral("kutya"),
-                                  QStringLiteral("megy"), QStringLiteral("semmi"), QStringLiteral("well")}));
+    EXPECT_EQ(texts, QStringList({QString(), QString(), u"alma"_s, u"apple"_s, u"dog"_s, u"go, went, gone"_s,
+                                  u"kutya"_s, u"megy"_s, u"semmi"_s, u"well"_s}));
 }
 
 TEST(MemoryGameOfMany, matches_cards_by_their_texts_alone) {
@@ -397,8 +397,7 @@ bool play_to_the_end(memóriajáték &game) {
 }
 
 TEST(MemoryGameOfMany, can_be_played_to_the_end_on_every_board) {
-    const QString ends[] = {QStringLiteral("6/6"),   QStringLiteral("8/8"),   QStringLiteral("10/10"),
-                            QStringLiteral("12/12"), QStringLiteral("15/15"), QStringLiteral("18/18")};
+    const QString ends[] = {u"6/6"_s, u"8/8"_s, u"10/10"_s, u"12/12"_s, u"15/15"_s, u"18/18"_s};
     for (size_t board = 0; board < játékterek.size(); ++board) {
         for (unsigned seed = 0; seed < 10; ++seed) {
             SeededRandom random(seed);
@@ -417,12 +416,12 @@ TEST(MemoryGameOfMany, says_how_many_of_the_dealt_pairs_are_found) {
     SeededRandom random;
     memóriajáték game(numbered_pairs(25), random);
     game.kioszt(20);
-    EXPECT_EQ(game.állás(), QStringLiteral("0/10"));
+    EXPECT_EQ(game.állás(), u"0/10"_s);
 
     for (int i = 0; i < 3; ++i)
         game.megtalál();
 
-    EXPECT_EQ(game.állás(), QStringLiteral("3/10"));
+    EXPECT_EQ(game.állás(), u"3/10"_s);
 }
 
 TEST(MemoryGameOfMany, begins_anew_with_every_deal) {
@@ -432,7 +431,7 @@ TEST(MemoryGameOfMany, begins_anew_with_every_deal) {
     ASSERT_TRUE(play_to_the_end(game));
     game.kioszt(12);
     EXPECT_EQ(seen(game), QString(12, u'-'));
-    EXPECT_EQ(game.állás(), QStringLiteral("0/6"));
+    EXPECT_EQ(game.állás(), u"0/6"_s);
     EXPECT_FALSE(game.vége());
     game.felfordít(5);
 
@@ -440,7 +439,7 @@ TEST(MemoryGameOfMany, begins_anew_with_every_deal) {
 
     EXPECT_EQ(seen(game), QString(14, u'-'));
     EXPECT_EQ(game.felfordított(), 0);
-    EXPECT_EQ(game.állás(), QStringLiteral("0/7"));
+    EXPECT_EQ(game.állás(), u"0/7"_s);
     EXPECT_EQ(random.reseeds, 3);
     EXPECT_TRUE(play_to_the_end(game));
 }

@@ -9,6 +9,8 @@
 #include "support/seeded_random.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using eredmény = választójáték::eredmény;
@@ -38,11 +40,11 @@ TEST_F(MultipleChoice, keeps_the_question_after_a_wrong_answer_and_counts_the_pa
     game.újrakezd(irány::angolról, 5);
     const QString question = game.kérdés();
 
-    EXPECT_EQ(game.ellenőriz(QStringLiteral("rossz")), eredmény::hibás);
-    EXPECT_EQ(game.ellenőriz(QStringLiteral("rossz")), eredmény::hibás);
+    EXPECT_EQ(game.ellenőriz(u"rossz"_s), eredmény::hibás);
+    EXPECT_EQ(game.ellenőriz(u"rossz"_s), eredmény::hibás);
 
     EXPECT_EQ(game.kérdés(), question);
-    EXPECT_EQ(game.számláló(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(game.számláló(), u" 1/ 10"_s);
     EXPECT_EQ(game.hibaarány(), 11);
 }
 
@@ -55,7 +57,7 @@ TEST_F(MultipleChoice, offers_distinct_pairs_with_the_right_one_among_them) {
         ASSERT_EQ(game.kínálat().size(), 5);
         ASSERT_EQ(distinct.size(), 5);
         ASSERT_EQ(game.kínálat().count(game.megoldás()), 1);
-        ASSERT_TRUE(game.kérdés().startsWith(QStringLiteral("szó")));
+        ASSERT_TRUE(game.kérdés().startsWith(u"szó"_s));
     }
 }
 
@@ -81,25 +83,23 @@ TEST_F(MultipleChoice, offers_every_other_pair_equally_often) {
     int rounds = 0;
     for (int round = 0; round < 3000; ++round) {
         game.újrakezd(irány::angolról, 2);
-        if (game.megoldás() == QStringLiteral("szó2"))
+        if (game.megoldás() == u"szó2"_s)
             continue;
         ++rounds;
-        first += game.kínálat().contains(QStringLiteral("szó2")) ? 1 : 0;
+        first += game.kínálat().contains(u"szó2"_s) ? 1 : 0;
     }
 
     EXPECT_NEAR(static_cast<double>(first) / rounds, 0.5, 0.05);
 }
 
 TEST_F(MultipleChoice, uses_only_the_first_of_several_hungarian_meanings_and_never_cuts_the_english) {
-    választójáték game({{QStringLiteral("to go, went, gone"), QStringLiteral("megy, jár")},
-                        {QStringLiteral("dog"), QStringLiteral("kutya")}},
-                       random_);
+    választójáték game({{u"to go, went, gone"_s, u"megy, jár"_s}, {u"dog"_s, u"kutya"_s}}, random_);
     game.újrakezd(irány::angolról, 2);
 
     const QSet<QString> offered(game.kínálat().cbegin(), game.kínálat().cend());
-    EXPECT_EQ(offered, QSet<QString>({QStringLiteral("megy"), QStringLiteral("kutya")}));
+    EXPECT_EQ(offered, QSet<QString>({u"megy"_s, u"kutya"_s}));
     game.újrakezd(irány::magyarról, 2);
-    EXPECT_TRUE(game.kínálat().contains(QStringLiteral("to go, went, gone")));
+    EXPECT_TRUE(game.kínálat().contains(u"to go, went, gone"_s));
 }
 
 TEST_F(MultipleChoice, offers_no_more_candidates_than_there_are_pairs) {
@@ -115,7 +115,7 @@ TEST_F(MultipleChoice, draws_the_direction_of_every_question_when_it_changes) {
     game.újrakezd(irány::változó, 2);
     int from_english = 0;
     do {
-        from_english += game.kérdés().startsWith(QStringLiteral("word")) ? 1 : 0;
+        from_english += game.kérdés().startsWith(u"word"_s) ? 1 : 0;
         if (game.ellenőriz(game.megoldás()) == eredmény::vége)
             break;
         game.következő();
@@ -125,8 +125,7 @@ TEST_F(MultipleChoice, draws_the_direction_of_every_question_when_it_changes) {
 }
 
 TEST_F(MultipleChoice, overwrites_a_first_pair_without_english_by_the_next) {
-    választójáték game({{QString(), QStringLiteral("semmi")}, {QStringLiteral("dog"), QStringLiteral("kutya")}},
-                       random_);
+    választójáték game({{QString(), u"semmi"_s}, {u"dog"_s, u"kutya"_s}}, random_);
 
     EXPECT_EQ(game.párok_száma(), 1);
 }
@@ -134,7 +133,7 @@ TEST_F(MultipleChoice, overwrites_a_first_pair_without_english_by_the_next) {
 TEST_F(MultipleChoice, begins_anew_after_its_end) {
     választójáték game(numbered_pairs(2), random_);
     game.újrakezd(irány::angolról, 2);
-    static_cast<void>(game.ellenőriz(QStringLiteral("rossz")));
+    static_cast<void>(game.ellenőriz(u"rossz"_s));
     static_cast<void>(game.ellenőriz(game.megoldás()));
     game.következő();
     ASSERT_EQ(game.ellenőriz(game.megoldás()), eredmény::vége);
@@ -143,7 +142,7 @@ TEST_F(MultipleChoice, begins_anew_after_its_end) {
 
     EXPECT_FALSE(game.vége());
     EXPECT_EQ(game.hibaarány(), 0);
-    EXPECT_EQ(game.számláló(), QStringLiteral(" 1/ 2"));
+    EXPECT_EQ(game.számláló(), u" 1/ 2"_s);
 }
 
 TEST_F(MultipleChoice, holds_five_thousand_pairs) {

@@ -8,6 +8,8 @@
 #include "support/seeded_random.h"
 #include "support/word_pairs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using eredmény = kikérdezés::eredmény;
@@ -42,7 +44,7 @@ TEST_F(TypedQuiz, counts_a_pair_that_failed_three_times_once) {
     eredmény outcome = eredmény::helyes;
     while (true) {
         const bool fail = quiz.kérdés() == failing && failures < 3;
-        outcome = quiz.ellenőriz(fail ? QStringLiteral("rossz") : quiz.megoldás());
+        outcome = quiz.ellenőriz(fail ? u"rossz"_s : quiz.megoldás());
         failures += fail ? 1 : 0;
         if (outcome == eredmény::vége)
             break;
@@ -56,12 +58,12 @@ TEST_F(TypedQuiz, counts_a_pair_that_failed_three_times_once) {
 TEST_F(TypedQuiz, shows_the_same_number_again_after_a_wrong_answer) {
     kikérdezés quiz(numbered_pairs(10), random_);
     quiz.kérdez();
-    EXPECT_EQ(quiz.számláló(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(quiz.számláló(), u" 1/ 10"_s);
 
     EXPECT_EQ(quiz.ellenőriz(QString()), eredmény::hibás);
     quiz.kérdez();
 
-    EXPECT_EQ(quiz.számláló(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(quiz.számláló(), u" 1/ 10"_s);
 }
 
 TEST_F(TypedQuiz, may_ask_the_failed_pair_at_once) {
@@ -71,7 +73,7 @@ TEST_F(TypedQuiz, may_ask_the_failed_pair_at_once) {
         kikérdezés quiz(numbered_pairs(3), random);
         quiz.kérdez();
         const QString failed = quiz.kérdés();
-        static_cast<void>(quiz.ellenőriz(QStringLiteral("rossz")));
+        static_cast<void>(quiz.ellenőriz(u"rossz"_s));
         quiz.kérdez();
         at_once += quiz.kérdés() == failed ? 1 : 0;
     }
@@ -81,7 +83,7 @@ TEST_F(TypedQuiz, may_ask_the_failed_pair_at_once) {
 }
 
 TEST_F(TypedQuiz, compares_answers_whole_and_exactly) {
-    kikérdezés quiz({{QStringLiteral("apple"), QStringLiteral("alma, almafa")}}, random_);
+    kikérdezés quiz({{u"apple"_s, u"alma, almafa"_s}}, random_);
     quiz.iránybeállít(irány::angolról);
     for (const char16_t *wrong : {u"alma", u"Alma, almafa", u"alma, almafa ", u"alma,almafa", u""}) {
         quiz.kérdez();
@@ -89,19 +91,19 @@ TEST_F(TypedQuiz, compares_answers_whole_and_exactly) {
     }
     quiz.kérdez();
 
-    EXPECT_EQ(quiz.ellenőriz(QStringLiteral("alma, almafa")), eredmény::vége);
+    EXPECT_EQ(quiz.ellenőriz(u"alma, almafa"_s), eredmény::vége);
 }
 
 TEST_F(TypedQuiz, asks_in_the_chosen_direction) {
     kikérdezés quiz(numbered_pairs(5), random_);
     quiz.iránybeállít(irány::angolról);
     quiz.kérdez();
-    EXPECT_TRUE(quiz.kérdés().startsWith(QStringLiteral("word")));
-    EXPECT_TRUE(quiz.megoldás().startsWith(QStringLiteral("szó")));
+    EXPECT_TRUE(quiz.kérdés().startsWith(u"word"_s));
+    EXPECT_TRUE(quiz.megoldás().startsWith(u"szó"_s));
 
     EXPECT_TRUE(quiz.irányváltás(irány::magyarról));
-    EXPECT_TRUE(quiz.kérdés().startsWith(QStringLiteral("szó")));
-    EXPECT_TRUE(quiz.megoldás().startsWith(QStringLiteral("word")));
+    EXPECT_TRUE(quiz.kérdés().startsWith(u"szó"_s));
+    EXPECT_TRUE(quiz.megoldás().startsWith(u"word"_s));
 }
 
 TEST_F(TypedQuiz, draws_the_direction_anew_for_every_question_when_it_changes) {
@@ -112,7 +114,7 @@ TEST_F(TypedQuiz, draws_the_direction_anew_for_every_question_when_it_changes) {
     bool previous = false;
     for (int i = 0; i < 1000; ++i) {
         quiz.kérdez();
-        const bool english = quiz.kérdés().startsWith(QStringLiteral("word"));
+        const bool english = quiz.kérdés().startsWith(u"word"_s);
         from_english += english ? 1 : 0;
         changes += i > 0 && english != previous ? 1 : 0;
         previous = english;
@@ -125,14 +127,14 @@ TEST_F(TypedQuiz, draws_the_direction_anew_for_every_question_when_it_changes) {
 TEST_F(TypedQuiz, begins_anew_when_the_direction_changes) {
     kikérdezés quiz(numbered_pairs(5), random_);
     quiz.kérdez();
-    static_cast<void>(quiz.ellenőriz(QStringLiteral("rossz")));
+    static_cast<void>(quiz.ellenőriz(u"rossz"_s));
     quiz.kérdez();
     static_cast<void>(quiz.ellenőriz(quiz.megoldás()));
     quiz.kérdez();
 
     quiz.irányváltás(irány::angolról);
 
-    EXPECT_EQ(quiz.számláló(), QStringLiteral(" 1/ 5"));
+    EXPECT_EQ(quiz.számláló(), u" 1/ 5"_s);
     EXPECT_EQ(quiz.hibaarány(), 0);
 }
 

@@ -2,6 +2,8 @@
 
 #include "support/help_address_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST_F(HelpAddress, of_a_link_opens_where_its_target_may) {
@@ -16,7 +18,7 @@ TEST_F(HelpAddress, of_a_link_opens_where_its_target_may) {
 
 TEST_F(HelpAddress, of_an_installed_document_opens_through_the_linked_folder) {
     QDir(path("programkavaro/help")).removeRecursively();
-    QDir(root_.path()).mkpath(QStringLiteral("share/help"));
+    QDir(root_.path()).mkpath(u"share/help"_s);
     write_file(path("share/help/Kavaro súgó.mht"), "x");
     QFile::link(path("share/help"), path("programkavaro/help"));
 

@@ -7,6 +7,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 WebBrowserRules no_rules() {
@@ -16,16 +18,16 @@ WebBrowserRules no_rules() {
 QString reason(const QStringList &folders) {
     const auto result = make_browser_of_plugin(folders, no_rules());
     const auto *failure = std::get_if<Failure>(&result);
-    return failure ? failure->sentence : QStringLiteral("(a browser)");
+    return failure ? failure->sentence : u"(a browser)"_s;
 }
 
 TEST(BrowserPlugin, that_is_missing_is_named) {
     const QTemporaryDir empty;
 
-    const QString sentence = reason({empty.path(), empty.filePath(QStringLiteral("nincs"))});
+    const QString sentence = reason({empty.path(), empty.filePath(u"nincs"_s)});
 
-    EXPECT_TRUE(sentence.startsWith(QStringLiteral("A súgó böngészője nem tölthető be")));
-    EXPECT_TRUE(sentence.endsWith(QStringLiteral("a(z) „zimbora_webengine.so” fájl nem található.")));
+    EXPECT_TRUE(sentence.startsWith(u"A súgó böngészője nem tölthető be"_s));
+    EXPECT_TRUE(sentence.endsWith(u"a(z) „zimbora_webengine.so” fájl nem található."_s));
 }
 
 TEST(BrowserPlugin, that_is_no_library_is_told_with_the_reason) {
@@ -34,22 +36,22 @@ TEST(BrowserPlugin, that_is_no_library_is_told_with_the_reason) {
                                     QByteArray("\x7f"
                                                "ELF",
                                                4)}) {
-        write_file(folder.filePath(QStringLiteral("zimbora_webengine.so")), bytes);
+        write_file(folder.filePath(u"zimbora_webengine.so"_s), bytes);
 
         const QString sentence = reason({folder.path()});
 
-        EXPECT_TRUE(sentence.startsWith(QStringLiteral("A súgó böngészője nem tölthető be")));
-        EXPECT_TRUE(sentence.contains(QStringLiteral("zimbora_webengine.so"))) << sentence.toStdString();
+        EXPECT_TRUE(sentence.startsWith(u"A súgó böngészője nem tölthető be"_s));
+        EXPECT_TRUE(sentence.contains(u"zimbora_webengine.so"_s)) << sentence.toStdString();
     }
 }
 
 TEST(BrowserPlugin, is_looked_for_beside_the_executable_and_among_the_installed_libraries) {
-    const QStringList folders = browser_plugin_folders(QStringLiteral("/usr/bin"));
+    const QStringList folders = browser_plugin_folders(u"/usr/bin"_s);
 
     ASSERT_EQ(folders.size(), 2);
-    EXPECT_EQ(folders[0], QStringLiteral("/usr/bin/plugins"));
-    EXPECT_TRUE(folders[1].startsWith(QStringLiteral("/usr/lib"))) << folders[1].toStdString();
-    EXPECT_TRUE(folders[1].endsWith(QStringLiteral("/zimbora")));
+    EXPECT_EQ(folders[0], u"/usr/bin/plugins"_s);
+    EXPECT_TRUE(folders[1].startsWith(u"/usr/lib"_s)) << folders[1].toStdString();
+    EXPECT_TRUE(folders[1].endsWith(u"/zimbora"_s));
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 #include "lookup/widgets/system_browser.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A browser whose surface is shown, with rules that open nothing but the web site x.hu, and what it told.
@@ -25,7 +27,7 @@ class ControlBrowserTest : public testing::Test {
                                  asked_.append(address.toString());
                                  if (address.host() == u"x.hu")
                                      return std::nullopt;
-                                 return Failure{QStringLiteral("Nem.")};
+                                 return Failure{u"Nem."_s};
                              }}};
 };
 
@@ -36,11 +38,11 @@ TEST_F(ControlBrowserTest, hosts_the_systems_control) {
 }
 
 TEST_F(ControlBrowserTest, asks_before_a_step_and_tells_why_it_is_not_made) {
-    browser_.navigate(QUrl(QStringLiteral("https://y.hu/")));
+    browser_.navigate(QUrl(u"https://y.hu/"_s));
 
     EXPECT_TRUE(QTest::qWaitFor([this] { return !refused_.isEmpty(); }, 10000));
-    EXPECT_EQ(asked_, QStringList{QStringLiteral("https://y.hu/")});
-    EXPECT_EQ(refused_, QStringList{QStringLiteral("Nem.")});
+    EXPECT_EQ(asked_, QStringList{u"https://y.hu/"_s});
+    EXPECT_EQ(refused_, QStringList{u"Nem."_s});
 }
 
 TEST_F(ControlBrowserTest, does_nothing_where_there_is_no_way_to_go) {

@@ -16,6 +16,8 @@
 #include "ui/drawing/font_sized_style.h"
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int patience = 60000;
@@ -43,7 +45,7 @@ class Server final : public QTcpServer {
             qFatal("no port");
     }
 
-    [[nodiscard]] QString address() const { return QStringLiteral("http://127.0.0.1:%1/").arg(serverPort()); }
+    [[nodiscard]] QString address() const { return u"http://127.0.0.1:%1/"_s.arg(serverPort()); }
 
     int requests = 0;
 };
@@ -53,7 +55,7 @@ QString piece_of(const QByteArray &text, const char *before) {
     const auto begin = text.indexOf(before);
     if (begin < 0)
         qFatal("no %s", before);
-    static const QRegularExpression end(QStringLiteral("[\"<]"));
+    static const QRegularExpression end(u"[\"<]"_s);
     return QString::fromUtf8(text.mid(begin + qsizetype(qstrlen(before)))).section(end, 0, 0);
 }
 
@@ -65,7 +67,7 @@ QByteArray html(const QByteArray &name, const QByteArray &body) {
 class HelpEngine : public HelpWindowTest {
   protected:
     HelpEngine() {
-        const QDir real(qEnvironmentVariable("ZIMBORA_PROGRAM") + QStringLiteral("kavaro/help"));
+        const QDir real(qEnvironmentVariable("ZIMBORA_PROGRAM") + u"kavaro/help"_s);
         for (const QString &file : real.entryList(QDir::Files))
             QFile::copy(real.filePath(file), QFileInfo(document()).dir().filePath(file));
         const QByteArray page = parts_of(read_file(document())).value(0).bytes;
@@ -154,7 +156,7 @@ class HelpEngine : public HelpWindowTest {
 };
 
 QByteArray mapped_files() {
-    QFile maps(QStringLiteral("/proc/self/maps"));
+    QFile maps(u"/proc/self/maps"_s);
     return maps.open(QIODevice::ReadOnly) ? maps.readAll() : QByteArray();
 }
 
@@ -173,7 +175,7 @@ TEST_F(HelpEngine, opens_the_real_document) {
     open_help();
 
     EXPECT_EQ(address(), document_address());
-    EXPECT_EQ(address_box()->itemText(1), program_ + QStringLiteral("kavaro\\help\\Kavaro súgó.mht"));
+    EXPECT_EQ(address_box()->itemText(1), program_ + u"kavaro\\help\\Kavaro súgó.mht"_s);
     EXPECT_TRUE(notes_.isEmpty());
     EXPECT_TRUE(boxes_.told.isEmpty());
 }
@@ -214,26 +216,26 @@ TEST_F(HelpEngine, follows_the_address_box) {
     open_help();
     const QImage top = scroll_bar();
 
-    enter_address(program_ + QStringLiteral("kavaro\\help\\Kavaro súgó.mht") + place_);
+    enter_address(program_ + u"kavaro\\help\\Kavaro súgó.mht"_s + place_);
     ASSERT_TRUE(wait_for([this] { return address() == document_address() + place_; })) << address().toStdString();
     EXPECT_TRUE(wait_for([&] { return scroll_bar() != top; }));
 
-    const QByteArray beside = read_file(program_ + QStringLiteral("kavaro/help/keszito.html"));
+    const QByteArray beside = read_file(program_ + u"kavaro/help/keszito.html"_s);
     open_page(súgócímek(program_).készítőcím(), piece_of(beside, "<title>"));
     press("Home");
     EXPECT_TRUE(wait_for([this] { return caption() == title_ && address() == document_address(); }));
 }
 
 TEST_F(HelpEngine, follows_a_link_to_the_page_beside_the_document_and_back) {
-    title_ = QStringLiteral("Dokumentum");
+    title_ = u"Dokumentum"_s;
     replace_document(html("Dokumentum", "<a href=\"keszito.html\">1</a>"));
-    write_file(program_ + QStringLiteral("kavaro/help/keszito.html"),
+    write_file(program_ + u"kavaro/help/keszito.html"_s,
                html("Mellette", "<a href=\"Kavaro%20s%C3%BAg%C3%B3.mht\">1</a>"));
     open_help();
 
     follow_link(1);
-    ASSERT_TRUE(wait_for([this] { return caption() == QStringLiteral("Mellette"); })) << address().toStdString();
-    EXPECT_TRUE(address().endsWith(QStringLiteral("kavaro/help/keszito.html")));
+    ASSERT_TRUE(wait_for([this] { return caption() == u"Mellette"_s; })) << address().toStdString();
+    EXPECT_TRUE(address().endsWith(u"kavaro/help/keszito.html"_s));
 
     follow_link(1);
     EXPECT_TRUE(wait_for([this] { return caption() == title_; })) << address().toStdString();
@@ -241,11 +243,11 @@ TEST_F(HelpEngine, follows_a_link_to_the_page_beside_the_document_and_back) {
 }
 
 TEST_F(HelpEngine, refuses_links_of_the_document) {
-    title_ = QStringLiteral("Dokumentum");
+    title_ = u"Dokumentum"_s;
     replace_document(html("Dokumentum",
                           "<a href=\"file:///etc/passwd\">1</a> <a href=\"../../secret.txt\">2</a> "
                           "<a href=\"mailto:a@x.hu\">3</a> <a href=\"nincs.html\">4</a>"));
-    write_file(root_.filePath(QStringLiteral("secret.txt")), "secret");
+    write_file(root_.filePath(u"secret.txt"_s), "secret");
     const std::pair<int, const char16_t *> links[] = {
         {1, u"itt nem nyitható meg"}, {2, u"Nem található"}, {3, u"itt nem nyitható meg"}, {4, u"Nem található"}};
     for (const auto &[link, reason] : links) {
@@ -258,9 +260,9 @@ TEST_F(HelpEngine, refuses_links_of_the_document) {
 }
 
 TEST_F(HelpEngine, opens_the_document_of_an_installed_program) {
-    const QString share = root_.filePath(QStringLiteral("share"));
-    ASSERT_TRUE(QDir().rename(program_ + QStringLiteral("kavaro/help"), share));
-    ASSERT_TRUE(QFile::link(share, program_ + QStringLiteral("kavaro/help")));
+    const QString share = root_.filePath(u"share"_s);
+    ASSERT_TRUE(QDir().rename(program_ + u"kavaro/help"_s, share));
+    ASSERT_TRUE(QFile::link(share, program_ + u"kavaro/help"_s));
 
     open_help();
 
@@ -270,24 +272,23 @@ TEST_F(HelpEngine, opens_the_document_of_an_installed_program) {
 TEST_F(HelpEngine, refuses_a_file_outside_the_program_folder) {
     open_help();
 
-    enter_address(QStringLiteral("file:///etc/passwd"));
+    enter_address(u"file:///etc/passwd"_s);
 
-    expect_note(QStringLiteral("nem a program mappájában van"));
+    expect_note(u"nem a program mappájában van"_s);
     EXPECT_EQ(caption(), title_);
 }
 
 TEST_F(HelpEngine, refuses_links_of_a_local_page) {
-    write_file(program_ + QStringLiteral("/lap.html"),
-               html("Lap",
-                    "<a href=\"file:///etc/passwd\">1</a> <a href=\"../secret.txt\">2</a> "
-                    "<a href=\"mailto:a@x.hu\">3</a> <a href=\"ftp://x.hu/\">4</a>"));
-    write_file(root_.filePath(QStringLiteral("secret.txt")), "secret");
+    write_file(program_ + u"/lap.html"_s, html("Lap",
+                                               "<a href=\"file:///etc/passwd\">1</a> <a href=\"../secret.txt\">2</a> "
+                                               "<a href=\"mailto:a@x.hu\">3</a> <a href=\"ftp://x.hu/\">4</a>"));
+    write_file(root_.filePath(u"secret.txt"_s), "secret");
     open_help();
     for (int link = 1; link <= 4; ++link) {
-        open_page(program_ + QStringLiteral("/lap.html"), QStringLiteral("Lap"));
+        open_page(program_ + u"/lap.html"_s, u"Lap"_s);
         follow_link(link);
-        expect_note(QStringLiteral("itt nem nyitható meg"));
-        EXPECT_EQ(caption(), QStringLiteral("Lap"));
+        expect_note(u"itt nem nyitható meg"_s);
+        EXPECT_EQ(caption(), u"Lap"_s);
         notes_.clear();
         press("Home");
         ASSERT_TRUE(wait_for([this] { return caption() == title_; }));
@@ -297,38 +298,38 @@ TEST_F(HelpEngine, refuses_links_of_a_local_page) {
 TEST_F(HelpEngine, opens_a_web_page_and_refuses_its_link_to_a_file) {
     const Server server(html("Web", "<a href=\"file:///etc/passwd\">1</a>"));
     open_help();
-    open_page(server.address(), QStringLiteral("Web"));
+    open_page(server.address(), u"Web"_s);
 
     follow_link(1);
 
-    expect_note(QStringLiteral("nem a program mappájában van"));
+    expect_note(u"nem a program mappájában van"_s);
     EXPECT_EQ(address(), server.address());
 }
 
 TEST_F(HelpEngine, opens_a_link_for_a_new_window_in_the_same_view) {
-    write_file(program_ + QStringLiteral("/masik.html"), html("Másik", "x"));
-    write_file(program_ + QStringLiteral("/lap.html"), html("Lap", "<a target=\"_blank\" href=\"masik.html\">1</a>"));
+    write_file(program_ + u"/masik.html"_s, html("Másik", "x"));
+    write_file(program_ + u"/lap.html"_s, html("Lap", "<a target=\"_blank\" href=\"masik.html\">1</a>"));
     open_help();
-    open_page(program_ + QStringLiteral("/lap.html"), QStringLiteral("Lap"));
+    open_page(program_ + u"/lap.html"_s, u"Lap"_s);
     const auto windows = QApplication::topLevelWidgets().size();
 
     follow_link(1);
 
-    ASSERT_TRUE(wait_for([this] { return caption() == QStringLiteral("Másik"); }));
+    ASSERT_TRUE(wait_for([this] { return caption() == u"Másik"_s; }));
     EXPECT_EQ(QApplication::topLevelWidgets().size(), windows);
     press("Back");
-    EXPECT_TRUE(wait_for([this] { return caption() == QStringLiteral("Lap"); }));
+    EXPECT_TRUE(wait_for([this] { return caption() == u"Lap"_s; }));
 }
 
 TEST_F(HelpEngine, downloads_nothing) {
     const Server server(html("Web", "<a href=\"/fajl\">1</a>"));
     open_help();
-    open_page(server.address(), QStringLiteral("Web"));
+    open_page(server.address(), u"Web"_s);
 
     follow_link(1);
 
-    expect_note(QStringLiteral("Innen nem tölthető le fájl: „fajl”."));
-    EXPECT_EQ(caption(), QStringLiteral("Web"));
+    expect_note(u"Innen nem tölthető le fájl: „fajl”."_s);
+    EXPECT_EQ(caption(), u"Web"_s);
 }
 
 TEST_F(HelpEngine, tells_that_a_page_of_the_web_cannot_be_had) {
@@ -341,7 +342,7 @@ TEST_F(HelpEngine, tells_that_a_page_of_the_web_cannot_be_had) {
 
     enter_address(address);
 
-    expect_note(QStringLiteral("nem lehet kapcsolódni"));
+    expect_note(u"nem lehet kapcsolódni"_s);
     EXPECT_TRUE(wait_for([this] { return !control<QTimer>("timTimer")->isActive(); }));
 }
 
@@ -352,7 +353,7 @@ TEST_F(HelpEngine, keeps_a_page_from_asking_and_opening_windows) {
     open_help();
     const auto windows = QApplication::topLevelWidgets().size();
 
-    open_page(server.address(), QStringLiteral("Vége"));
+    open_page(server.address(), u"Vége"_s);
 
     EXPECT_EQ(QApplication::topLevelWidgets().size(), windows);
 }
@@ -381,7 +382,7 @@ TEST_F(HelpEngine, leaves_nothing_on_the_disk) {
                              "<script>document.cookie = 'a=b'; localStorage.setItem('a', 'b');"
                              "document.title = document.cookie + localStorage.getItem('a');</script>"));
     open_help();
-    open_page(server.address(), QStringLiteral("a=bb"));
+    open_page(server.address(), u"a=bb"_s);
     window_.reset();
 
     for (const char *place : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "HOME"}) {
@@ -414,19 +415,19 @@ TEST_F(HelpEngine, can_be_closed_while_it_loads) {
 }
 
 QByteArray process_file(const QString &id, const char *name) {
-    QFile file(QStringLiteral("/proc/%1/%2").arg(id, QString::fromLatin1(name)));
+    QFile file(u"/proc/%1/%2"_s.arg(id, QString::fromLatin1(name)));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QString parent_of(const QString &id) {
-    return QString::fromLatin1(process_file(id, "status")).section(QStringLiteral("PPid:\t"), 1).section(u'\n', 0, 0);
+    return QString::fromLatin1(process_file(id, "status")).section(u"PPid:\t"_s, 1).section(u'\n', 0, 0);
 }
 
 /// The processes of the engine that this process has started, and those that they have.
 QStringList engine_processes() {
     const QString own = QString::number(QCoreApplication::applicationPid());
     QStringList found;
-    for (const QString &id : QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs)) {
+    for (const QString &id : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
         QString ancestor = parent_of(id);
         while (ancestor.toLongLong() > 1 && ancestor != own)
             ancestor = parent_of(ancestor);
@@ -438,7 +439,7 @@ QStringList engine_processes() {
 
 TEST_F(HelpEngine, locks_its_pages_in_for_everybody_but_the_administrator) {
     QProcess who;
-    who.start(QStringLiteral("id"), {QStringLiteral("-u")});
+    who.start(u"id"_s, {u"-u"_s});
     ASSERT_TRUE(who.waitForFinished());
     const bool administrator = who.readAllStandardOutput().trimmed() == "0";
 

@@ -6,9 +6,11 @@
 #include "support/fake_web_browser.h"
 #include "support/help_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString waiting = QStringLiteral("Working...");
+const QString waiting = u"Working..."_s;
 
 class HelpWindow : public HelpWindowTest {
   protected:
@@ -50,10 +52,10 @@ TEST_F(HelpWindow, loads_under_its_name_with_its_caption) {
     busy_at_start_ = true;
     open();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_súgó"));
-    EXPECT_EQ(caption(), QStringLiteral("Kavaro - Súgó"));
+    EXPECT_EQ(window_->objectName(), u"frm_súgó"_s);
+    EXPECT_EQ(caption(), u"Kavaro - Súgó"_s);
     EXPECT_TRUE(control<QToolBar>("tbToolBar")->isVisible());
-    EXPECT_EQ(control<QLabel>("lblAddress")->text(), QStringLiteral("&Address:"));
+    EXPECT_EQ(control<QLabel>("lblAddress")->text(), u"&Address:"_s);
     EXPECT_EQ(control<QLabel>("lblAddress")->buddy(), address_box());
     EXPECT_EQ(control<PictureBox>("picAddress")->palette().color(QPalette::Window), QColor(Qt::cyan));
 }
@@ -61,7 +63,7 @@ TEST_F(HelpWindow, loads_under_its_name_with_its_caption) {
 TEST_F(HelpWindow, starts_at_the_program_folder_text_followed_by_the_document_without_a_separator) {
     open();
 
-    const QString start = program_ + QStringLiteral("kavaro\\help\\Kavaro súgó.mht");
+    const QString start = program_ + u"kavaro\\help\\Kavaro súgó.mht"_s;
     EXPECT_EQ(address_box()->currentText(), start);
     EXPECT_EQ(listed(), QStringList{start});
     EXPECT_TRUE(timer()->isActive());
@@ -81,7 +83,7 @@ TEST_F(HelpWindow, has_a_toolbar_with_six_buttons_in_hungarian) {
         EXPECT_FALSE(button->accessibleName().isEmpty());
         EXPECT_TRUE(button->toolTip().startsWith(button->accessibleName()));
     }
-    EXPECT_EQ(keys.join(u' '), QStringLiteral("Back Forward Refresh Home Search Stop"));
+    EXPECT_EQ(keys.join(u' '), u"Back Forward Refresh Home Search Stop"_s);
 }
 
 TEST_F(HelpWindow, tells_the_browser_what_each_button_says_and_waits) {
@@ -102,13 +104,13 @@ TEST_F(HelpWindow, stops_with_the_name_of_the_location) {
     open();
     ASSERT_TRUE(QTest::qWaitFor([this] { return caption() == waiting; }));
     browser_->done.clear();
-    browser_->name = QStringLiteral("Félig kész lap");
+    browser_->name = u"Félig kész lap"_s;
 
     press("Stop");
 
-    EXPECT_EQ(browser_->done, QStringList{QStringLiteral("stop")});
+    EXPECT_EQ(browser_->done, QStringList{u"stop"_s});
     EXPECT_FALSE(timer()->isActive());
-    EXPECT_EQ(caption(), QStringLiteral("Félig kész lap"));
+    EXPECT_EQ(caption(), u"Félig kész lap"_s);
 }
 
 TEST_F(HelpWindow, says_that_it_works_while_the_browser_is_busy_and_then_where_it_is) {
@@ -119,18 +121,18 @@ TEST_F(HelpWindow, says_that_it_works_while_the_browser_is_busy_and_then_where_i
 
     browser_->is_busy = false;
 
-    EXPECT_TRUE(QTest::qWaitFor([this] { return caption() == QStringLiteral("Zimbora súgó"); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return caption() == u"Zimbora súgó"_s; }));
     EXPECT_FALSE(timer()->isActive());
 }
 
 TEST_F(HelpWindow, takes_the_name_of_the_location_when_a_download_has_finished) {
     busy_at_start_ = true;
     open();
-    browser_->name = QStringLiteral("Más lap");
+    browser_->name = u"Más lap"_s;
 
     browser_->notifications.download_finished();
 
-    EXPECT_EQ(caption(), QStringLiteral("Más lap"));
+    EXPECT_EQ(caption(), u"Más lap"_s);
 }
 
 TEST_F(HelpWindow, moves_the_address_to_the_top_of_the_list_when_a_navigation_has_finished) {
@@ -139,13 +141,13 @@ TEST_F(HelpWindow, moves_the_address_to_the_top_of_the_list_when_a_navigation_ha
 
     arrive(u"http://a.hu/");
     arrive(u"http://b.hu/");
-    EXPECT_EQ(listed(), QStringList({QStringLiteral("http://b.hu/"), QStringLiteral("http://a.hu/"), start}));
+    EXPECT_EQ(listed(), QStringList({u"http://b.hu/"_s, u"http://a.hu/"_s, start}));
     EXPECT_EQ(address_box()->currentIndex(), 0);
 
     arrive(u"http://a.hu/");
-    EXPECT_EQ(listed(), QStringList({QStringLiteral("http://a.hu/"), QStringLiteral("http://b.hu/"), start}));
+    EXPECT_EQ(listed(), QStringList({u"http://a.hu/"_s, u"http://b.hu/"_s, start}));
     EXPECT_EQ(address_box()->currentIndex(), 0);
-    EXPECT_EQ(address_box()->currentText(), QStringLiteral("http://a.hu/"));
+    EXPECT_EQ(address_box()->currentText(), u"http://a.hu/"_s);
 }
 
 TEST_F(HelpWindow, does_not_navigate_again_because_a_navigation_has_finished) {
@@ -169,16 +171,16 @@ TEST_F(HelpWindow, navigates_to_an_entry_that_is_chosen) {
     QTest::keyClick(list, Qt::Key_Down);
     QTest::keyClick(list, Qt::Key_Return);
 
-    EXPECT_EQ(browser_->done, QStringList{QStringLiteral("http://a.hu/")});
+    EXPECT_EQ(browser_->done, QStringList{u"http://a.hu/"_s});
     EXPECT_TRUE(timer()->isActive());
 }
 
 TEST_F(HelpWindow, navigates_to_the_text_of_the_box_when_enter_is_pressed) {
     open_at_rest();
 
-    enter_address(QStringLiteral("www.x.hu"));
+    enter_address(u"www.x.hu"_s);
 
-    EXPECT_EQ(browser_->done, QStringList{QStringLiteral("http://www.x.hu")});
+    EXPECT_EQ(browser_->done, QStringList{u"http://www.x.hu"_s});
     EXPECT_TRUE(timer()->isActive());
 }
 
@@ -188,9 +190,9 @@ TEST_F(HelpWindow, navigates_once_to_a_text_that_is_an_entry_too) {
     arrive(u"http://b.hu/");
     browser_->done.clear();
 
-    enter_address(QStringLiteral("http://a.hu/"));
+    enter_address(u"http://a.hu/"_s);
 
-    EXPECT_EQ(browser_->done, QStringList{QStringLiteral("http://a.hu/")});
+    EXPECT_EQ(browser_->done, QStringList{u"http://a.hu/"_s});
 }
 
 TEST_F(HelpWindow, does_not_navigate_because_the_focus_leaves_the_box) {
@@ -199,7 +201,7 @@ TEST_F(HelpWindow, does_not_navigate_because_the_focus_leaves_the_box) {
     arrive(u"http://b.hu/");
     browser_->done.clear();
     address_box()->setFocus();
-    address_box()->setEditText(QStringLiteral("http://a.hu/"));
+    address_box()->setEditText(u"http://a.hu/"_s);
 
     QTest::keyClick(address_box(), Qt::Key_Tab);
 
@@ -210,7 +212,7 @@ TEST_F(HelpWindow, does_not_navigate_because_the_focus_leaves_the_box) {
 TEST_F(HelpWindow, does_nothing_for_an_empty_box) {
     open_at_rest();
 
-    enter_address(QStringLiteral("  "));
+    enter_address(u"  "_s);
 
     EXPECT_TRUE(browser_->done.isEmpty());
     EXPECT_TRUE(notes_.isEmpty());
@@ -224,35 +226,35 @@ TEST_F(HelpWindow, refuses_what_it_may_not_open_with_a_note) {
         enter_address(QString::fromUtf16(address));
         EXPECT_TRUE(browser_->done.isEmpty());
         ASSERT_EQ(notes_.size(), 1);
-        EXPECT_TRUE(notes_[0].contains(QStringLiteral("itt nem nyitható meg"))) << notes_[0].toStdString();
+        EXPECT_TRUE(notes_[0].contains(u"itt nem nyitható meg"_s)) << notes_[0].toStdString();
     }
 }
 
 TEST_F(HelpWindow, notes_what_the_browser_did_not_open) {
     open();
 
-    browser_->notifications.refused(QStringLiteral("Nem."));
+    browser_->notifications.refused(u"Nem."_s);
 
-    EXPECT_EQ(notes_, QStringList{QStringLiteral("Nem.")});
+    EXPECT_EQ(notes_, QStringList{u"Nem."_s});
 }
 
 TEST_F(HelpWindow, gives_the_browser_its_home_page_and_the_rule_of_addresses) {
     open();
 
     EXPECT_EQ(rules_.home, QUrl::fromLocalFile(document()));
-    EXPECT_EQ(rules_.search.scheme(), QStringLiteral("https"));
+    EXPECT_EQ(rules_.search.scheme(), u"https"_s);
     EXPECT_FALSE(rules_.obstacle(rules_.home));
     EXPECT_FALSE(rules_.obstacle(rules_.search));
-    EXPECT_TRUE(rules_.obstacle(QUrl(QStringLiteral("file:///etc/passwd"))));
+    EXPECT_TRUE(rules_.obstacle(QUrl(u"file:///etc/passwd"_s)));
 }
 
 TEST_F(HelpWindow, opens_an_address_that_the_main_window_puts_into_the_box) {
     open_at_rest();
 
-    window_->megnyit(QStringLiteral("https://a.hu/x"));
+    window_->megnyit(u"https://a.hu/x"_s);
 
-    EXPECT_EQ(address_box()->currentText(), QStringLiteral("https://a.hu/x"));
-    EXPECT_EQ(browser_->done, QStringList{QStringLiteral("https://a.hu/x")});
+    EXPECT_EQ(address_box()->currentText(), u"https://a.hu/x"_s);
+    EXPECT_EQ(browser_->done, QStringList{u"https://a.hu/x"_s});
     EXPECT_TRUE(timer()->isActive());
 }
 
@@ -314,7 +316,7 @@ TEST_F(HelpWindow, is_reached_by_tab_from_control_to_control) {
         order.append(window_->focusWidget()->objectName());
     }
 
-    EXPECT_EQ(order.join(u' '), QStringLiteral("Back Forward Refresh Home Search Stop cboAddress brwWebBrowser"));
+    EXPECT_EQ(order.join(u' '), u"Back Forward Refresh Home Search Stop cboAddress brwWebBrowser"_s);
 }
 
 TEST_F(HelpWindow, reaches_the_address_box_by_its_mnemonic) {
@@ -326,18 +328,18 @@ TEST_F(HelpWindow, reaches_the_address_box_by_its_mnemonic) {
 }
 
 TEST_F(HelpWindow, tells_why_there_is_no_browser_and_goes_on) {
-    const QString reason = QStringLiteral("A súgó böngészője nem tölthető be.");
+    const QString reason = u"A súgó böngészője nem tölthető be."_s;
     load([&](const WebBrowserRules &) -> WebBrowserResult { return Failure{reason}; });
     show();
 
     for (const char *button : {"Back", "Forward", "Refresh", "Home", "Search", "Stop"})
         press(button);
-    enter_address(QStringLiteral("www.x.hu"));
+    enter_address(u"www.x.hu"_s);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !timer()->isActive(); }));
 
     EXPECT_EQ(boxes_.told, QStringList{reason});
     EXPECT_EQ(control<QLabel>("brwWebBrowser")->text(), reason);
-    EXPECT_EQ(caption(), QStringLiteral("Kavaro - Súgó"));
+    EXPECT_EQ(caption(), u"Kavaro - Súgó"_s);
 }
 
 TEST_F(HelpWindow, names_the_document_that_is_missing) {
@@ -346,7 +348,7 @@ TEST_F(HelpWindow, names_the_document_that_is_missing) {
     open();
 
     ASSERT_EQ(notes_.size(), 1);
-    EXPECT_TRUE(notes_[0].contains(QStringLiteral("Kavaro súgó.mht")));
+    EXPECT_TRUE(notes_[0].contains(u"Kavaro súgó.mht"_s));
     EXPECT_TRUE(browser_->done.isEmpty());
 }
 
@@ -355,7 +357,7 @@ TEST_F(HelpWindow, stops_when_it_is_closed_and_tells_so_afterwards) {
 
     window_->close();
 
-    EXPECT_EQ(browser_->done, QStringList{QStringLiteral("stop")});
+    EXPECT_EQ(browser_->done, QStringList{u"stop"_s});
     EXPECT_EQ(closed_, 0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return closed_ == 1; }));
 }

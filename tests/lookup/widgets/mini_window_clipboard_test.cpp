@@ -1,5 +1,7 @@
 #include "support/mini_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MiniWindowClipboard : public MiniWindowTest {
@@ -37,10 +39,10 @@ TEST_F(MiniWindowClipboard, is_watched_as_long_as_the_window_is_there) {
 TEST_F(MiniWindowClipboard, has_each_copied_word_looked_up_trimmed_and_in_lower_case) {
     copy("  ALMAFA ");
 
-    EXPECT_EQ(search_box()->text(), QStringLiteral("almafa"));
-    EXPECT_EQ(large_.searched(), QStringList{QStringLiteral("almafa")});
-    EXPECT_EQ(hits(), QStringList{QStringLiteral("almafa")});
-    EXPECT_EQ(meanings(), QStringList({QStringLiteral("apple tree"), QStringLiteral("apple wood")}));
+    EXPECT_EQ(search_box()->text(), u"almafa"_s);
+    EXPECT_EQ(large_.searched(), QStringList{u"almafa"_s});
+    EXPECT_EQ(hits(), QStringList{u"almafa"_s});
+    EXPECT_EQ(meanings(), QStringList({u"apple tree"_s, u"apple wood"_s}));
 }
 
 TEST_F(MiniWindowClipboard, has_the_same_text_looked_up_once) {
@@ -60,7 +62,7 @@ TEST_F(MiniWindowClipboard, has_a_text_looked_up_again_after_another_one) {
     copy("ház");
     copy("alma");
 
-    EXPECT_EQ(large_.searched(), QStringList({QStringLiteral("alma"), QStringLiteral("ház"), QStringLiteral("alma")}));
+    EXPECT_EQ(large_.searched(), QStringList({u"alma"_s, u"ház"_s, u"alma"_s}));
 }
 
 TEST_F(MiniWindowClipboard, has_a_copied_word_searched_that_was_typed_before) {
@@ -69,13 +71,13 @@ TEST_F(MiniWindowClipboard, has_a_copied_word_searched_that_was_typed_before) {
 
     copy("ház");
 
-    EXPECT_EQ(large_.searched(), QStringList{QStringLiteral("ház")});
-    EXPECT_EQ(hits(), QStringList{QStringLiteral("ház")});
-    EXPECT_EQ(meanings(), QStringList({QStringLiteral("house"), QStringLiteral("home")}));
+    EXPECT_EQ(large_.searched(), QStringList{u"ház"_s});
+    EXPECT_EQ(hits(), QStringList{u"ház"_s});
+    EXPECT_EQ(meanings(), QStringList({u"house"_s, u"home"_s}));
 }
 
 TEST_F(MiniWindowClipboard, has_no_text_looked_up_that_was_there_when_the_window_opened) {
-    clipboard_.put(QStringLiteral("alma"));
+    clipboard_.put(u"alma"_s);
     open();
 
     tick();
@@ -85,7 +87,7 @@ TEST_F(MiniWindowClipboard, has_no_text_looked_up_that_was_there_when_the_window
 }
 
 TEST_F(MiniWindowClipboard, has_no_text_looked_up_that_was_there_but_is_handed_over_late) {
-    clipboard_.seen = ClipboardText{QStringLiteral("alma"), true};
+    clipboard_.seen = ClipboardText{u"alma"_s, true};
     tick();
     EXPECT_TRUE(large_.searched().isEmpty());
 
@@ -93,7 +95,7 @@ TEST_F(MiniWindowClipboard, has_no_text_looked_up_that_was_there_but_is_handed_o
     EXPECT_TRUE(large_.searched().isEmpty());
 
     copy("ház");
-    EXPECT_EQ(large_.searched(), QStringList{QStringLiteral("ház")});
+    EXPECT_EQ(large_.searched(), QStringList{u"ház"_s});
 }
 
 TEST_F(MiniWindowClipboard, has_nothing_looked_up_while_no_text_is_seen) {
@@ -115,40 +117,38 @@ TEST_F(MiniWindowClipboard, has_no_texts_looked_up_that_are_no_words) {
 TEST_F(MiniWindowClipboard, has_a_word_shortened_until_something_is_found) {
     copy("Házaimban");
 
-    EXPECT_EQ(large_.searched(), QStringList({QStringLiteral("házaimban"), QStringLiteral("házaimba"),
-                                              QStringLiteral("házaimb"), QStringLiteral("házaim"),
-                                              QStringLiteral("házai"), QStringLiteral("háza"), QStringLiteral("ház")}));
-    EXPECT_EQ(search_box()->text(), QStringLiteral("ház"));
-    EXPECT_EQ(hits(), QStringList{QStringLiteral("ház")});
+    EXPECT_EQ(large_.searched(),
+              QStringList({u"házaimban"_s, u"házaimba"_s, u"házaimb"_s, u"házaim"_s, u"házai"_s, u"háza"_s, u"ház"_s}));
+    EXPECT_EQ(search_box()->text(), u"ház"_s);
+    EXPECT_EQ(hits(), QStringList{u"ház"_s});
 }
 
 TEST_F(MiniWindowClipboard, has_a_word_shortened_to_nothing_when_nothing_is_found) {
     copy("qqqq");
 
-    EXPECT_EQ(large_.searched(), QStringList({QStringLiteral("qqqq"), QStringLiteral("qqq"), QStringLiteral("qq"),
-                                              QStringLiteral("q"), QString()}));
+    EXPECT_EQ(large_.searched(), QStringList({u"qqqq"_s, u"qqq"_s, u"qq"_s, u"q"_s, QString()}));
     EXPECT_EQ(search_box()->text(), QString());
     EXPECT_TRUE(hits().isEmpty());
     EXPECT_TRUE(meanings().isEmpty());
 }
 
 TEST_F(MiniWindowClipboard, gives_way_to_what_the_user_types_meanwhile) {
-    while_searching("qqq", [this] { search_box()->setText(QStringLiteral("alma")); });
+    while_searching("qqq", [this] { search_box()->setText(u"alma"_s); });
 
     copy("qqqq");
 
-    EXPECT_EQ(search_box()->text(), QStringLiteral("alma"));
-    EXPECT_EQ(large_.searched(), QStringList({QStringLiteral("qqqq"), QStringLiteral("qqq"), QStringLiteral("alma")}));
-    EXPECT_EQ(hits(), QStringList({QStringLiteral("alma"), QStringLiteral("almafa")}));
+    EXPECT_EQ(search_box()->text(), u"alma"_s);
+    EXPECT_EQ(large_.searched(), QStringList({u"qqqq"_s, u"qqq"_s, u"alma"_s}));
+    EXPECT_EQ(hits(), QStringList({u"alma"_s, u"almafa"_s}));
 }
 
 TEST_F(MiniWindowClipboard, leaves_what_the_user_types_meanwhile_even_when_nothing_is_found) {
-    while_searching("qqq", [this] { search_box()->setText(QStringLiteral("xyz")); });
+    while_searching("qqq", [this] { search_box()->setText(u"xyz"_s); });
 
     copy("qqqq");
 
-    EXPECT_EQ(search_box()->text(), QStringLiteral("xyz"));
-    EXPECT_EQ(large_.searched(), QStringList({QStringLiteral("qqqq"), QStringLiteral("qqq"), QStringLiteral("xyz")}));
+    EXPECT_EQ(search_box()->text(), u"xyz"_s);
+    EXPECT_EQ(large_.searched(), QStringList({u"qqqq"_s, u"qqq"_s, u"xyz"_s}));
 }
 
 TEST_F(MiniWindowClipboard, gives_way_to_a_word_that_is_copied_meanwhile) {
@@ -156,9 +156,8 @@ TEST_F(MiniWindowClipboard, gives_way_to_a_word_that_is_copied_meanwhile) {
 
     copy("qqqq");
 
-    EXPECT_EQ(large_.searched(), QStringList({QStringLiteral("qqqq"), QStringLiteral("qqq"), QStringLiteral("házak"),
-                                              QStringLiteral("háza"), QStringLiteral("ház")}));
-    EXPECT_EQ(search_box()->text(), QStringLiteral("ház"));
+    EXPECT_EQ(large_.searched(), QStringList({u"qqqq"_s, u"qqq"_s, u"házak"_s, u"háza"_s, u"ház"_s}));
+    EXPECT_EQ(search_box()->text(), u"ház"_s);
 }
 
 TEST_F(MiniWindowClipboard, stops_shortening_when_the_window_is_left_meanwhile) {
@@ -167,7 +166,7 @@ TEST_F(MiniWindowClipboard, stops_shortening_when_the_window_is_left_meanwhile) 
 
     copy("qqqq");
 
-    EXPECT_EQ(large_.searched(), QStringList({QStringLiteral("qqqq"), QStringLiteral("qqq")}));
+    EXPECT_EQ(large_.searched(), QStringList({u"qqqq"_s, u"qqq"_s}));
     EXPECT_FALSE(window_->foglalt());
 }
 

@@ -1,5 +1,7 @@
 #include "support/mini_window_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MiniWindowMoving : public MiniWindowTest {
@@ -297,9 +299,9 @@ TEST_F(MiniWindowMoving, header_buttons_take_the_left_mouse_button_only) {
 
 TEST_F(MiniWindowMoving, still_takes_a_click_with_a_trembling_hand_for_a_click) {
     open();
-    for (const auto &[name, call] : {std::pair("cmd_keres", QStringLiteral("Ok_Click")),
-                                     std::pair("cmd_szószedethez_ad", QStringLiteral("hozzáad_Click")),
-                                     std::pair("cmd_kilép", QStringLiteral("visszatér"))}) {
+    for (const auto &[name, call] :
+         {std::pair("cmd_keres", u"Ok_Click"_s), std::pair("cmd_szószedethez_ad", u"hozzáad_Click"_s),
+          std::pair("cmd_kilép", u"visszatér"_s)}) {
         large_.calls.clear();
         const QPoint at = middle_of(button(name));
 
@@ -322,7 +324,7 @@ TEST_F(MiniWindowMoving, takes_a_click_for_a_click_after_a_drag_whose_end_it_was
     press(button("cmd_keres"), again);
     release(button("cmd_keres"), again);
 
-    EXPECT_EQ(large_.calls.value(0), QStringLiteral("Ok_Click"));
+    EXPECT_EQ(large_.calls.value(0), u"Ok_Click"_s);
 }
 
 TEST_F(MiniWindowMoving, keeps_its_grip_when_another_mouse_button_is_pressed_during_a_drag) {

@@ -3,6 +3,8 @@
 #include "support/mini_window_fixture.h"
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What the window looks like and how words are looked up with it; mini_window_moving_test.cpp moves it,
@@ -12,10 +14,10 @@ class MiniWindow : public MiniWindowTest {};
 TEST_F(MiniWindow, has_its_captions) {
     load();
 
-    EXPECT_EQ(label("Label1")->text(), QStringLiteral("Keresett szó:"));
-    EXPECT_EQ(button("cmd_keres")->text(), QStringLiteral("Keres"));
-    EXPECT_EQ(button("cmd_szószedethez_ad")->text(), QStringLiteral("Szószedet"));
-    EXPECT_EQ(button("cmd_kilép")->text(), QStringLiteral("Nagy"));
+    EXPECT_EQ(label("Label1")->text(), u"Keresett szó:"_s);
+    EXPECT_EQ(button("cmd_keres")->text(), u"Keres"_s);
+    EXPECT_EQ(button("cmd_szószedethez_ad")->text(), u"Szószedet"_s);
+    EXPECT_EQ(button("cmd_kilép")->text(), u"Nagy"_s);
     EXPECT_EQ(search_box()->text(), QString());
 }
 
@@ -24,19 +26,20 @@ TEST_F(MiniWindow, explains_each_control_in_a_tooltip) {
 
     const QList<std::pair<const char *, QString>> tooltips{
         {"label_fejléc",
-         QStringLiteral("Ha megfogja a fejlécet az egérrel, szabadon áthelyezheti az ablakot.  Az F2 megnyomására az "
-                        "ablak a képernyő sarkába ugrik.")},
-        {"cmd_lent", QStringLiteral("A szótár kisablakát a képernyő sarkába igazítja. (F2)")},
-        {"cmd_x", QStringLiteral("Szótár bezárása")},
-        {"txt_keres", QStringLiteral("Ide írja be a keresett szót. Ha valamely alkalmazásban a vágólapra helyez egy "
-                                     "szót, az rögtön megjelenik a keresőmezőben.")},
-        {"cmd_keres", QStringLiteral("Keres")},
-        {"lst_találatlista", QStringLiteral("A keresésnek megfelelő szavak listája")},
-        {"lst_translate", QStringLiteral("Itt jelennek meg a keresett szó megfelelői.")},
+         u"Ha megfogja a fejlécet az egérrel, szabadon áthelyezheti az ablakot.  Az F2 megnyomására az "
+         "ablak a képernyő sarkába ugrik."_s},
+        {"cmd_lent", u"A szótár kisablakát a képernyő sarkába igazítja. (F2)"_s},
+        {"cmd_x", u"Szótár bezárása"_s},
+        {"txt_keres",
+         u"Ide írja be a keresett szót. Ha valamely alkalmazásban a vágólapra helyez egy "
+         "szót, az rögtön megjelenik a keresőmezőben."_s},
+        {"cmd_keres", u"Keres"_s},
+        {"lst_találatlista", u"A keresésnek megfelelő szavak listája"_s},
+        {"lst_translate", u"Itt jelennek meg a keresett szó megfelelői."_s},
         {"cmd_szószedethez_ad",
-         QStringLiteral("A szószedethez adja a keresett szót és a kijelölt fordítását. A szószedet használata segíti a "
-                        "tanulást, és a gyakorlást. A szószedet szavai csak a nagyablakban jelennek meg.")},
-        {"cmd_kilép", QStringLiteral("A nagy ablakra vált, melyben több szolgáltatás áll rendelkezésére.")}};
+         u"A szószedethez adja a keresett szót és a kijelölt fordítását. A szószedet használata segíti a "
+         "tanulást, és a gyakorlást. A szószedet szavai csak a nagyablakban jelennek meg."_s},
+        {"cmd_kilép", u"A nagy ablakra vált, melyben több szolgáltatás áll rendelkezésére."_s}};
     for (const auto &[name, tooltip] : tooltips)
         EXPECT_EQ(control<QWidget>(name)->toolTip(), tooltip) << name;
 }
@@ -51,13 +54,13 @@ TEST_F(MiniWindow, has_a_readable_name_for_each_control_that_can_be_used) {
 
 TEST_F(MiniWindow, names_the_direction_of_the_dictionary_in_its_header) {
     load();
-    EXPECT_EQ(label("label_fejléc")->text(), QStringLiteral("Zimbora Angol-magyar szótár"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-magyar szótár"));
+    EXPECT_EQ(label("label_fejléc")->text(), u"Zimbora Angol-magyar szótár"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-magyar szótár"_s);
 
     large_.from_english = false;
     load();
 
-    EXPECT_EQ(label("label_fejléc")->text(), QStringLiteral("Zimbora Magyar-angol szótár"));
+    EXPECT_EQ(label("label_fejléc")->text(), u"Zimbora Magyar-angol szótár"_s);
 }
 
 TEST_F(MiniWindow, has_no_frame_and_asks_to_stay_above_other_windows) {
@@ -91,7 +94,7 @@ TEST_F(MiniWindow, has_its_header_buttons_at_the_right_end_of_the_header) {
 TEST_F(MiniWindow, marks_its_header_buttons_with_an_arrow_and_a_drawn_cross) {
     open();
 
-    EXPECT_EQ(label("cmd_lent")->text(), QStringLiteral(">"));
+    EXPECT_EQ(label("cmd_lent")->text(), u">"_s);
     EXPECT_EQ(label("cmd_x")->text(), QString());
     EXPECT_FALSE(label("cmd_x")->pixmap(Qt::ReturnByValue).isNull());
     EXPECT_EQ(label("cmd_x")->alignment(), Qt::AlignCenter);
@@ -127,8 +130,9 @@ TEST_F(MiniWindow, has_the_keyboard_in_the_search_box_and_goes_round_with_tab) {
         QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
     }
 
-    EXPECT_EQ(order.join(u' '), QStringLiteral("txt_keres cmd_keres lst_találatlista lst_translate cmd_szószedethez_ad "
-                                               "cmd_kilép txt_keres"));
+    EXPECT_EQ(order.join(u' '),
+              u"txt_keres cmd_keres lst_találatlista lst_translate cmd_szószedethez_ad "
+              "cmd_kilép txt_keres"_s);
 }
 
 TEST_F(MiniWindow, searches_while_the_word_is_typed) {
@@ -136,21 +140,21 @@ TEST_F(MiniWindow, searches_while_the_word_is_typed) {
 
     type("alm");
 
-    EXPECT_EQ(large_.searched(), QStringList({QStringLiteral("a"), QStringLiteral("al"), QStringLiteral("alm")}));
-    EXPECT_EQ(hits(), QStringList({QStringLiteral("alma"), QStringLiteral("almafa")}));
+    EXPECT_EQ(large_.searched(), QStringList({u"a"_s, u"al"_s, u"alm"_s}));
+    EXPECT_EQ(hits(), QStringList({u"alma"_s, u"almafa"_s}));
     EXPECT_EQ(list("lst_találatlista")->selected(), 0);
-    EXPECT_EQ(meanings(), QStringList{QStringLiteral("apple")});
+    EXPECT_EQ(meanings(), QStringList{u"apple"_s});
 }
 
 TEST_F(MiniWindow, selects_the_hit_that_the_main_window_has_selected) {
     open();
-    large_.dictionary.prepend({QStringLiteral("alma piros"), {QStringLiteral("red apple")}});
+    large_.dictionary.prepend({u"alma piros"_s, {u"red apple"_s}});
 
     type("alma");
 
     EXPECT_EQ(hits().size(), 3);
     EXPECT_EQ(list("lst_találatlista")->selected(), 1);
-    EXPECT_EQ(meanings(), QStringList{QStringLiteral("apple")});
+    EXPECT_EQ(meanings(), QStringList{u"apple"_s});
 }
 
 TEST_F(MiniWindow, has_empty_lists_when_nothing_is_found) {
@@ -171,10 +175,10 @@ TEST_F(MiniWindow, searches_again_by_its_button_and_returns_to_the_search_box) {
 
     click("cmd_keres");
 
-    EXPECT_EQ(large_.calls.value(0), QStringLiteral("Ok_Click"));
-    EXPECT_EQ(hits(), QStringList({QStringLiteral("alma"), QStringLiteral("almafa")}));
+    EXPECT_EQ(large_.calls.value(0), u"Ok_Click"_s);
+    EXPECT_EQ(hits(), QStringList({u"alma"_s, u"almafa"_s}));
     EXPECT_EQ(list("lst_találatlista")->selected(), 0);
-    EXPECT_EQ(focused(), QStringLiteral("txt_keres"));
+    EXPECT_EQ(focused(), u"txt_keres"_s);
 }
 
 TEST_F(MiniWindow, searches_again_on_enter_in_the_search_box) {
@@ -184,7 +188,7 @@ TEST_F(MiniWindow, searches_again_on_enter_in_the_search_box) {
 
     QTest::keyClick(search_box(), Qt::Key_Return);
 
-    EXPECT_EQ(large_.calls.value(0), QStringLiteral("Ok_Click"));
+    EXPECT_EQ(large_.calls.value(0), u"Ok_Click"_s);
 }
 
 TEST_F(MiniWindow, shows_the_meanings_of_the_hit_that_is_clicked) {
@@ -194,10 +198,10 @@ TEST_F(MiniWindow, shows_the_meanings_of_the_hit_that_is_clicked) {
 
     click_item("lst_találatlista", 1);
 
-    EXPECT_EQ(large_.calls.value(0), QStringLiteral("hit 1"));
-    EXPECT_EQ(meanings(), QStringList({QStringLiteral("apple tree"), QStringLiteral("apple wood")}));
+    EXPECT_EQ(large_.calls.value(0), u"hit 1"_s);
+    EXPECT_EQ(meanings(), QStringList({u"apple tree"_s, u"apple wood"_s}));
     EXPECT_EQ(list("lst_translate")->selected(), 0);
-    EXPECT_EQ(list("lst_találatlista")->toolTip(), QStringLiteral("almafa"));
+    EXPECT_EQ(list("lst_találatlista")->toolTip(), u"almafa"_s);
 }
 
 TEST_F(MiniWindow, shows_the_meanings_of_a_hit_that_the_arrow_keys_go_to) {
@@ -206,7 +210,7 @@ TEST_F(MiniWindow, shows_the_meanings_of_a_hit_that_the_arrow_keys_go_to) {
 
     QTest::keyClick(list("lst_találatlista"), Qt::Key_Down);
 
-    EXPECT_EQ(meanings(), QStringList({QStringLiteral("apple tree"), QStringLiteral("apple wood")}));
+    EXPECT_EQ(meanings(), QStringList({u"apple tree"_s, u"apple wood"_s}));
 }
 
 TEST_F(MiniWindow, tells_the_main_window_which_meaning_is_chosen) {
@@ -216,7 +220,7 @@ TEST_F(MiniWindow, tells_the_main_window_which_meaning_is_chosen) {
 
     click_item("lst_translate", 1);
 
-    EXPECT_EQ(large_.calls, QStringList{QStringLiteral("meaning 1")});
+    EXPECT_EQ(large_.calls, QStringList{u"meaning 1"_s});
 }
 
 TEST_F(MiniWindow, passes_a_double_click_on_a_meaning_to_the_main_window) {
@@ -227,8 +231,8 @@ TEST_F(MiniWindow, passes_a_double_click_on_a_meaning_to_the_main_window) {
 
     QTest::mouseDClick(list("lst_translate")->viewport(), Qt::LeftButton, {}, middle_of_item("lst_translate", 1));
 
-    EXPECT_EQ(large_.calls.count(QStringLiteral("magyarlist_DblClick")), 1);
-    EXPECT_FALSE(large_.calls.contains(QStringLiteral("hozzáad_Click")));
+    EXPECT_EQ(large_.calls.count(u"magyarlist_DblClick"_s), 1);
+    EXPECT_FALSE(large_.calls.contains(u"hozzáad_Click"_s));
 }
 
 TEST_F(MiniWindow, adds_to_the_word_list_and_returns_to_the_search_box) {
@@ -238,8 +242,8 @@ TEST_F(MiniWindow, adds_to_the_word_list_and_returns_to_the_search_box) {
 
     click("cmd_szószedethez_ad");
 
-    EXPECT_EQ(large_.calls, QStringList{QStringLiteral("hozzáad_Click")});
-    EXPECT_EQ(focused(), QStringLiteral("txt_keres"));
+    EXPECT_EQ(large_.calls, QStringList{u"hozzáad_Click"_s});
+    EXPECT_EQ(focused(), u"txt_keres"_s);
 }
 
 TEST_F(MiniWindow, adds_on_enter_among_the_meanings) {
@@ -250,7 +254,7 @@ TEST_F(MiniWindow, adds_on_enter_among_the_meanings) {
 
     QTest::keyClick(list("lst_translate"), Qt::Key_Return);
 
-    EXPECT_EQ(large_.calls, QStringList{QStringLiteral("hozzáad_Click")});
+    EXPECT_EQ(large_.calls, QStringList{u"hozzáad_Click"_s});
 }
 
 TEST_F(MiniWindow, gives_its_place_back_to_the_main_window_in_its_middle) {
@@ -258,7 +262,7 @@ TEST_F(MiniWindow, gives_its_place_back_to_the_main_window_in_its_middle) {
 
     click("cmd_kilép");
 
-    EXPECT_EQ(large_.calls, QStringList{QStringLiteral("visszatér")});
+    EXPECT_EQ(large_.calls, QStringList{u"visszatér"_s});
     EXPECT_EQ(kept_place(), QPoint(1234, 2345));
     EXPECT_DOUBLE_EQ(large_.came_back_at.x(), 1234 + window_->szélesség() / 2);
     EXPECT_DOUBLE_EQ(large_.came_back_at.y(), 2345 + window_->magasság() / 2);
@@ -280,7 +284,7 @@ TEST_F(MiniWindow, asks_for_the_end_of_the_program_by_its_x_and_stays_until_it_c
 
     click("cmd_x");
 
-    EXPECT_EQ(large_.calls, QStringList{QStringLiteral("kilép_Click")});
+    EXPECT_EQ(large_.calls, QStringList{u"kilép_Click"_s});
     EXPECT_TRUE(window_->isVisible());
 }
 
@@ -291,7 +295,7 @@ TEST_F(MiniWindow, asks_for_the_end_of_the_program_on_alt_f4_whatever_has_the_ke
 
         QTest::keyClick(control<QWidget>(name), Qt::Key_F4, Qt::AltModifier);
 
-        EXPECT_EQ(large_.calls, QStringList{QStringLiteral("kilép_Click")}) << name;
+        EXPECT_EQ(large_.calls, QStringList{u"kilép_Click"_s}) << name;
         EXPECT_TRUE(window_->isVisible());
     }
 }
@@ -310,7 +314,7 @@ TEST_F(MiniWindow, asks_for_the_end_of_the_program_when_the_window_manager_close
 
     EXPECT_FALSE(window_->close());
 
-    EXPECT_EQ(large_.calls, QStringList{QStringLiteral("kilép_Click")});
+    EXPECT_EQ(large_.calls, QStringList{u"kilép_Click"_s});
     EXPECT_TRUE(window_->isVisible());
 }
 
@@ -319,7 +323,7 @@ TEST_F(MiniWindow, says_that_it_is_lost_when_the_program_goes_on_without_it) {
 
     window_.reset();
 
-    EXPECT_EQ(boxes_.told, QStringList{QStringLiteral("Elveszett")});
+    EXPECT_EQ(boxes_.told, QStringList{u"Elveszett"_s});
 }
 
 TEST_F(MiniWindow, says_nothing_when_it_goes_with_the_program) {

@@ -1,5 +1,7 @@
 #include "support/music_settings_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Changes of the playlist.
@@ -174,7 +176,7 @@ class MusicTimerInTheWindow : public MusicSettingsTest {
         multimedia_.take_sent();
         tick();
         QStringList sent = multimedia_.take_sent();
-        sent.removeAll(QStringLiteral("Status midi mode|255"));
+        sent.removeAll(u"Status midi mode|255"_s);
         return sent;
     }
 
@@ -212,7 +214,7 @@ TEST_F(MusicTimerInTheWindow, lets_a_piece_that_plays_or_pauses_alone) {
         multimedia_.mode = QString::fromLatin1(mode);
         EXPECT_EQ(sent_at_tick(), QStringList()) << mode;
     }
-    multimedia_.mode = QStringLiteral("stopped");
+    multimedia_.mode = u"stopped"_s;
     EXPECT_EQ(sent_at_tick(), change_to(aria));
 }
 
@@ -242,10 +244,10 @@ TEST_F(MusicTimerInTheWindow, plays_a_single_entry_once) {
 }
 
 TEST_F(MusicTimerInTheWindow, passes_over_an_entry_whose_file_is_missing) {
-    start_with({march, QStringLiteral("nincs.mid"), aria});
+    start_with({march, u"nincs.mid"_s, aria});
     tick();
 
-    EXPECT_EQ(sent_at_tick(), change_to(QStringLiteral("nincs.mid")));
+    EXPECT_EQ(sent_at_tick(), change_to(u"nincs.mid"_s));
     EXPECT_EQ(sent_at_tick(), change_to(aria));
     EXPECT_EQ(boxes_.told, QStringList());
 }
@@ -266,7 +268,7 @@ TEST_F(MusicTimerInTheWindow, plays_edits_that_are_not_saved) {
 TEST_F(MusicTimerInTheWindow, goes_on_with_the_next_entry_after_ok) {
     start_with({march, aria});
     tick();
-    multimedia_.mode = QStringLiteral("playing");
+    multimedia_.mode = u"playing"_s;
     multimedia_.take_sent();
 
     click("cmd_ok");
@@ -289,7 +291,7 @@ TEST_F(MusicTimerInTheWindow, begins_with_the_list_that_mégsem_brought_back) {
 TEST_F(MusicTimerInTheWindow, goes_through_five_thousand_entries) {
     QStringList many;
     for (int i = 0; i < 5000; ++i)
-        many.append(QStringLiteral("%1.mid").arg(i));
+        many.append(u"%1.mid"_s.arg(i));
     start_with(many);
     EXPECT_EQ(playlist(), many);
 

@@ -1,5 +1,7 @@
 #include "support/music_settings_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What becomes of the settings when the window is left.
@@ -39,7 +41,7 @@ TEST_F(MusicSettingsSaving, shows_what_is_stored_even_of_files_that_are_missing)
     start();
 
     EXPECT_FALSE(box("chk_zene_enged")->isChecked());
-    EXPECT_EQ(playlist(), QStringList({QStringLiteral("nincs.mid"), march}));
+    EXPECT_EQ(playlist(), QStringList({u"nincs.mid"_s, march}));
 }
 
 TEST_F(MusicSettingsSaving, ok_and_enter_write_the_file_and_hide_the_window) {
@@ -164,8 +166,8 @@ TEST_F(MusicSettingsSaving, stays_open_with_a_message_while_the_file_cannot_be_w
 
         EXPECT_TRUE(window_->isVisible());
         ASSERT_EQ(boxes_.told.size(), 1);
-        EXPECT_TRUE(boxes_.told.first().startsWith(QStringLiteral("A(z) „%1” mappa nem hozható létre: ")
-                                                       .arg(QDir::toNativeSeparators(place("c/zbrmk/kavaro")))))
+        EXPECT_TRUE(boxes_.told.first().startsWith(
+            u"A(z) „%1” mappa nem hozható létre: "_s.arg(QDir::toNativeSeparators(place("c/zbrmk/kavaro")))))
             << boxes_.told.first().toStdString();
         EXPECT_EQ(multimedia_.take_sent(), QStringList());
         QFile::remove(place("c/zbrmk"));
@@ -220,10 +222,10 @@ TEST_F(MusicSettingsSaving, lists_files_that_came_and_went_while_it_was_hidden) 
     });
     multimedia_.take_sent();
     QFile::remove(piece(aria));
-    put_piece(QStringLiteral("dal.mid"));
+    put_piece(u"dal.mid"_s);
 
     open([this] {
-        EXPECT_EQ(list("filelist_zene")->items(), QStringList({dance, QStringLiteral("dal.mid"), march, waltz}));
+        EXPECT_EQ(list("filelist_zene")->items(), QStringList({dance, u"dal.mid"_s, march, waltz}));
         EXPECT_EQ(selected("filelist_zene"), march);
         EXPECT_TRUE(enabled("cmd_add"));
     });
@@ -251,7 +253,7 @@ TEST_F(MusicSettingsSaving, writes_five_thousand_entries) {
         lines += QByteArray::number(i) + ".mid\r\n";
     store(lines);
     start();
-    click_item("list_playlist", QStringLiteral("4999.mid"));
+    click_item("list_playlist", u"4999.mid"_s);
     click("cmd_törl");
 
     click("cmd_ok");

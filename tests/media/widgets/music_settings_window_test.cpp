@@ -5,6 +5,8 @@
 
 #include "support/music_settings_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MusicSettingsWindow : public MusicSettingsTest {
@@ -41,16 +43,16 @@ class MusicSettingsWindow : public MusicSettingsTest {
 TEST_F(MusicSettingsWindow, has_every_control_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_zenebeáll"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Zenei beállítások"));
-    EXPECT_EQ(label("Label2"), QStringLiteral("A rendelkezésre álló zenei fájlok:"));
-    EXPECT_EQ(label("Label1"), QStringLiteral("A lejátszásra kerülő zenei fájlok:"));
-    EXPECT_EQ(label("lab_türelem"), QStringLiteral("Fájl.mid lejátszása"));
-    EXPECT_EQ(button("cmd_add")->text(), QStringLiteral("Zene hozzáadása a listához"));
-    EXPECT_EQ(button("cmd_törl")->text(), QStringLiteral("Zene törlése a listából"));
-    EXPECT_EQ(button("cmd_ok")->text(), QStringLiteral("Ok"));
-    EXPECT_EQ(button("cmd_mégsem")->text(), QStringLiteral("Mégsem"));
-    EXPECT_EQ(box("chk_zene_enged")->text(), QStringLiteral("Zene engedélyezése"));
+    EXPECT_EQ(window_->objectName(), u"frm_zenebeáll"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Zenei beállítások"_s);
+    EXPECT_EQ(label("Label2"), u"A rendelkezésre álló zenei fájlok:"_s);
+    EXPECT_EQ(label("Label1"), u"A lejátszásra kerülő zenei fájlok:"_s);
+    EXPECT_EQ(label("lab_türelem"), u"Fájl.mid lejátszása"_s);
+    EXPECT_EQ(button("cmd_add")->text(), u"Zene hozzáadása a listához"_s);
+    EXPECT_EQ(button("cmd_törl")->text(), u"Zene törlése a listából"_s);
+    EXPECT_EQ(button("cmd_ok")->text(), u"Ok"_s);
+    EXPECT_EQ(button("cmd_mégsem")->text(), u"Mégsem"_s);
+    EXPECT_EQ(box("chk_zene_enged")->text(), u"Zene engedélyezése"_s);
 }
 
 TEST_F(MusicSettingsWindow, has_arrows_on_the_buttons_that_move_one_above_the_other) {
@@ -74,9 +76,9 @@ TEST_F(MusicSettingsWindow, takes_colour_and_icon_of_the_program) {
 }
 
 TEST_F(MusicSettingsWindow, lists_the_pieces_of_the_folder) {
-    put_piece(QStringLiteral("leírás.txt"));
-    put_piece(QStringLiteral("hang.wav"));
-    QDir().mkdir(piece(QStringLiteral("mappa.mid")));
+    put_piece(u"leírás.txt"_s);
+    put_piece(u"hang.wav"_s);
+    QDir().mkdir(piece(u"mappa.mid"_s));
 
     start();
 
@@ -113,7 +115,7 @@ TEST_F(MusicSettingsWindow, begins_in_the_list_of_files) {
 TEST_F(MusicSettingsWindow, stays_silent_while_tab_goes_through_its_lists) {
     start_with({march, aria});
 
-    EXPECT_EQ(tab_order(*window_), QStringLiteral("filelist_zene list_playlist chk_zene_enged cmd_ok cmd_mégsem"));
+    EXPECT_EQ(tab_order(*window_), u"filelist_zene list_playlist chk_zene_enged cmd_ok cmd_mégsem"_s);
 
     EXPECT_EQ(multimedia_.sent, QStringList());
     EXPECT_EQ(list("list_playlist")->selected(), -1);
@@ -124,8 +126,9 @@ TEST_F(MusicSettingsWindow, is_reached_by_tab_from_control_to_control) {
     click_item("list_playlist", dance);
     click_item("filelist_zene", aria);
 
-    EXPECT_EQ(tab_order(*window_), QStringLiteral("filelist_zene list_playlist cmd_áthelyez(0) cmd_áthelyez(2) cmd_add "
-                                                  "cmd_törl chk_zene_enged cmd_ok cmd_mégsem"));
+    EXPECT_EQ(tab_order(*window_),
+              u"filelist_zene list_playlist cmd_áthelyez(0) cmd_áthelyez(2) cmd_add "
+              "cmd_törl chk_zene_enged cmd_ok cmd_mégsem"_s);
 }
 
 TEST_F(MusicSettingsWindow, gives_every_control_an_accessible_name) {
@@ -202,11 +205,11 @@ TEST_F(MusicSettingsWindow, starts_the_same_file_not_twice_in_a_row) {
 }
 
 TEST_F(MusicSettingsWindow, tries_to_start_an_entry_whose_file_is_missing) {
-    start_with({march, QStringLiteral("nincs.mid")});
+    start_with({march, u"nincs.mid"_s});
 
-    click_item("list_playlist", QStringLiteral("nincs.mid"));
+    click_item("list_playlist", u"nincs.mid"_s);
 
-    EXPECT_EQ(multimedia_.take_sent(), start_of(QStringLiteral("nincs.mid")));
+    EXPECT_EQ(multimedia_.take_sent(), start_of(u"nincs.mid"_s));
     EXPECT_EQ(boxes_.told, QStringList());
 }
 
@@ -245,7 +248,7 @@ class MusicNotice : public MusicSettingsTest {
 
     MusicNotice() {
         multimedia_.meanwhile = [this] {
-            if (!multimedia_.sent.last().startsWith(QStringLiteral("open ")))
+            if (!multimedia_.sent.last().startsWith(u"open "_s))
                 return;
             const QFontMetrics letters(notice()->font());
             const auto on_top = notice()->parentWidget()->childAt(notice()->geometry().center());
@@ -271,7 +274,7 @@ TEST_F(MusicNotice, stands_in_front_while_the_file_is_opened_and_goes_then) {
 
     EXPECT_TRUE(look_.visible);
     EXPECT_TRUE(look_.in_front);
-    EXPECT_EQ(look_.text, QStringLiteral("csárdás két lassúval.mid fájl lejátszása"));
+    EXPECT_EQ(look_.text, u"csárdás két lassúval.mid fájl lejátszása"_s);
     EXPECT_FALSE(notice()->isVisible());
 }
 
@@ -281,12 +284,12 @@ TEST_F(MusicNotice, names_a_file_of_the_folder_too) {
     click_item("filelist_zene", waltz);
 
     EXPECT_TRUE(look_.visible);
-    EXPECT_EQ(look_.text, QStringLiteral("keringő.mid fájl lejátszása"));
+    EXPECT_EQ(look_.text, u"keringő.mid fájl lejátszása"_s);
     EXPECT_FALSE(notice()->isVisible());
 }
 
 TEST_F(MusicNotice, is_written_smaller_for_a_longer_name_and_large_again_for_a_short_one) {
-    const QString long_name = QString(70, u'w') + QStringLiteral(".mid");
+    const QString long_name = QString(70, u'w') + u".mid"_s;
     for (const QSize &pixels : screens) {
         use_screen(pixels);
         start_with({march, long_name, aria});
@@ -308,7 +311,7 @@ TEST_F(MusicNotice, is_written_smaller_for_a_longer_name_and_large_again_for_a_s
 }
 
 TEST_F(MusicNotice, of_a_name_that_fits_in_no_size_stays_within_the_window) {
-    const QString name = QString(240, u'W') + QStringLiteral(".mid");
+    const QString name = QString(240, u'W') + u".mid"_s;
     start_with({name});
 
     click_item("list_playlist", name);

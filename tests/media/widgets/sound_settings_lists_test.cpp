@@ -1,5 +1,7 @@
 #include "support/sound_settings_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Adding to the lists, and removing from them.
@@ -25,7 +27,7 @@ TEST_F(SoundSettingsLists, take_the_selected_file_and_select_it) {
         for (const Row &any : rows)
             EXPECT_EQ(list(any.list)->items(), any.list == row.list ? QStringList(horn) : QStringList()) << any.list;
         EXPECT_EQ(selected(row.list), horn);
-        EXPECT_EQ(label(row.count), QStringLiteral(" 1 hang"));
+        EXPECT_EQ(label(row.count), u" 1 hang"_s);
         EXPECT_TRUE(enabled(row.remove));
     }
 }
@@ -37,15 +39,15 @@ TEST_F(SoundSettingsLists, move_the_files_on_so_that_repeated_clicks_take_them_o
 
         click(row.add);
         EXPECT_EQ(selected("Filelist"), horn);
-        EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 2\\ 4"));
+        EXPECT_EQ(label("Label_hangszám"), u" 2\\ 4"_s);
         click(row.add);
         click(row.add);
 
         EXPECT_EQ(list(row.list)->items(), QStringList({bell, horn, chime}));
         EXPECT_EQ(selected(row.list), chime);
         EXPECT_EQ(selected("Filelist"), gong);
-        EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 4\\ 4"));
-        EXPECT_EQ(label(row.count), QStringLiteral(" 3 hang"));
+        EXPECT_EQ(label("Label_hangszám"), u" 4\\ 4"_s);
+        EXPECT_EQ(label(row.count), u" 3 hang"_s);
     }
 }
 
@@ -58,7 +60,7 @@ TEST_F(SoundSettingsLists, stay_on_the_last_file) {
 
     EXPECT_EQ(selected("Filelist"), gong);
     EXPECT_EQ(list("Lst_hibahang")->items(), QStringList(gong));
-    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 4\\ 4"));
+    EXPECT_EQ(label("Label_hangszám"), u" 4\\ 4"_s);
 }
 
 TEST_F(SoundSettingsLists, select_a_file_that_they_have_already) {
@@ -71,7 +73,7 @@ TEST_F(SoundSettingsLists, select_a_file_that_they_have_already) {
 
         EXPECT_EQ(list(row.list)->items(), QStringList({bell, horn, chime}));
         EXPECT_EQ(selected(row.list), bell);
-        EXPECT_EQ(label(row.count), QStringLiteral(" 3 hang"));
+        EXPECT_EQ(label(row.count), u" 3 hang"_s);
         EXPECT_EQ(selected("Filelist"), horn);
     }
 }
@@ -98,7 +100,7 @@ TEST_F(SoundSettingsLists, select_what_comes_into_the_place_of_a_removed_entry) 
 
         EXPECT_EQ(list(row.list)->items(), QStringList({bell, chime}));
         EXPECT_EQ(selected(row.list), chime);
-        EXPECT_EQ(label(row.count), QStringLiteral(" 2 hang"));
+        EXPECT_EQ(label(row.count), u" 2 hang"_s);
         EXPECT_TRUE(enabled(row.remove));
         EXPECT_EQ(multimedia_.take_sent(), QStringList());
     }
@@ -125,7 +127,7 @@ TEST_F(SoundSettingsLists, can_be_emptied) {
         click(row.remove);
 
         EXPECT_EQ(list(row.list)->items(), QStringList());
-        EXPECT_EQ(label(row.count), QStringLiteral(" 0 hang"));
+        EXPECT_EQ(label(row.count), u" 0 hang"_s);
         EXPECT_FALSE(enabled(row.remove));
         EXPECT_TRUE(enabled(row.add));
     }
@@ -160,7 +162,7 @@ TEST_F(SoundSettingsDeleting, takes_the_file_from_the_disk_without_asking_and_se
         EXPECT_FALSE(is_there(horn));
         EXPECT_EQ(list("Filelist")->items(), QStringList({bell, chime, gong}));
         EXPECT_EQ(selected("Filelist"), chime);
-        EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 2\\ 3"));
+        EXPECT_EQ(label("Label_hangszám"), u" 2\\ 3"_s);
         EXPECT_EQ(boxes_.asked, QStringList());
         EXPECT_EQ(boxes_.told, QStringList());
     }
@@ -203,13 +205,13 @@ TEST_F(SoundSettingsDeleting, takes_the_sound_off_every_list_that_has_it) {
     EXPECT_EQ(list("lst_gratulahang")->items(), QStringList(bell));
     EXPECT_EQ(selected("lst_gratulahang"), bell);
     EXPECT_TRUE(enabled("cmd_hangtörl_gratulahangból"));
-    EXPECT_EQ(label("Label_gartula"), QStringLiteral(" 1 hang"));
+    EXPECT_EQ(label("Label_gartula"), u" 1 hang"_s);
     EXPECT_EQ(list("lst_helyeshang")->items(), QStringList());
     EXPECT_FALSE(enabled("cmd_hangtörl_helyeshangból"));
-    EXPECT_EQ(label("Label_helyeshang"), QStringLiteral(" 0 hang"));
+    EXPECT_EQ(label("Label_helyeshang"), u" 0 hang"_s);
     EXPECT_EQ(list("Lst_hibahang")->items(), QStringList(bell));
     EXPECT_EQ(selected("Lst_hibahang"), bell);
-    EXPECT_EQ(label("Label_hibahang"), QStringLiteral(" 1 hang"));
+    EXPECT_EQ(label("Label_hibahang"), u" 1 hang"_s);
 }
 
 TEST_F(SoundSettingsDeleting, selects_the_new_last_file_when_the_last_one_goes) {
@@ -219,7 +221,7 @@ TEST_F(SoundSettingsDeleting, selects_the_new_last_file_when_the_last_one_goes) 
     press("Filelist", Qt::Key_Delete);
 
     EXPECT_EQ(selected("Filelist"), chime);
-    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 3\\ 3"));
+    EXPECT_EQ(label("Label_hangszám"), u" 3\\ 3"_s);
 }
 
 TEST_F(SoundSettingsDeleting, can_empty_the_folder) {
@@ -230,7 +232,7 @@ TEST_F(SoundSettingsDeleting, can_empty_the_folder) {
         press("Filelist", Qt::Key_Delete);
 
     EXPECT_EQ(QDir(place("program/hangok")).entryList(QDir::Files), QStringList());
-    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 0 hang áll rendelkezésemre"));
+    EXPECT_EQ(label("Label_hangszám"), u" 0 hang áll rendelkezésemre"_s);
     for (const char *name : {"cmd_play", "cmd_hangtörlése", "cmd_gartula", "cmd_helyeshang_add", "cmd_hibahang_add"})
         EXPECT_FALSE(enabled(name)) << name;
     press("Filelist", Qt::Key_Delete);
@@ -281,8 +283,8 @@ TEST_F(SoundSettingsDeleting, tells_of_a_file_that_cannot_be_deleted_and_keeps_i
     press("Filelist", Qt::Key_Delete);
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told.first().startsWith(
-        QStringLiteral("A(z) „%1” fájl nem törölhető: ").arg(QDir::toNativeSeparators(sound(horn)))));
+    EXPECT_TRUE(
+        boxes_.told.first().startsWith(u"A(z) „%1” fájl nem törölhető: "_s.arg(QDir::toNativeSeparators(sound(horn)))));
     EXPECT_EQ(selected("Filelist"), horn);
     EXPECT_EQ(list("lst_helyeshang")->items(), QStringList(horn));
     EXPECT_TRUE(QFileInfo::exists(sound(horn)));

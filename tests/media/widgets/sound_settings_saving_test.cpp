@@ -1,5 +1,7 @@
 #include "support/sound_settings_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What becomes of the settings when the window is left.
@@ -15,7 +17,7 @@ class SoundSettingsSaving : public SoundSettingsTest {
         EXPECT_EQ(list("lst_gratulahang")->items(), QStringList({horn, bell}));
         EXPECT_EQ(list("lst_helyeshang")->items(), QStringList({gong, chime}));
         EXPECT_EQ(list("Lst_hibahang")->items(), QStringList(bell));
-        EXPECT_EQ(switches(), QStringLiteral("10110"));
+        EXPECT_EQ(switches(), u"10110"_s);
     }
 
     /// Changes each list and two switches.
@@ -33,7 +35,7 @@ class SoundSettingsSaving : public SoundSettingsTest {
         EXPECT_EQ(list("lst_gratulahang")->items(), QStringList({horn, bell, chime}));
         EXPECT_EQ(list("lst_helyeshang")->items(), QStringList(chime));
         EXPECT_EQ(list("Lst_hibahang")->items(), QStringList());
-        EXPECT_EQ(switches(), QStringLiteral("00111"));
+        EXPECT_EQ(switches(), u"00111"_s);
     }
     void expect_changes_written() const {
         EXPECT_EQ(written("program/kavaro/grathang.ini"),
@@ -60,7 +62,7 @@ class SoundSettingsSaving : public SoundSettingsTest {
 TEST_F(SoundSettingsSaving, starts_with_every_switch_on_and_empty_lists_without_files) {
     start();
 
-    EXPECT_EQ(switches(), QStringLiteral("11111"));
+    EXPECT_EQ(switches(), u"11111"_s);
     for (const Row &row : rows)
         EXPECT_EQ(list(row.list)->items(), QStringList());
     EXPECT_EQ(boxes_.told, QStringList());
@@ -72,9 +74,9 @@ TEST_F(SoundSettingsSaving, shows_what_is_stored) {
     start();
 
     expect_stored_settings_shown();
-    EXPECT_EQ(label("Label_gartula"), QStringLiteral(" 2 hang"));
-    EXPECT_EQ(label("Label_helyeshang"), QStringLiteral(" 2 hang"));
-    EXPECT_EQ(label("Label_hibahang"), QStringLiteral(" 1 hang"));
+    EXPECT_EQ(label("Label_gartula"), u" 2 hang"_s);
+    EXPECT_EQ(label("Label_helyeshang"), u" 2 hang"_s);
+    EXPECT_EQ(label("Label_hibahang"), u" 1 hang"_s);
 }
 
 TEST_F(SoundSettingsSaving, gives_each_line_of_the_file_to_its_switch) {
@@ -181,7 +183,7 @@ TEST_F(SoundSettingsSaving, mégsem_and_escape_bring_back_what_is_stored) {
 
         EXPECT_FALSE(window_->isVisible());
         expect_stored_settings_shown();
-        EXPECT_EQ(label("Label_gartula"), QStringLiteral(" 2 hang"));
+        EXPECT_EQ(label("Label_gartula"), u" 2 hang"_s);
         EXPECT_FALSE(enabled("cmd_hangtörl_gratulahangból"));
         expect_nothing_written();
     }
@@ -210,12 +212,12 @@ TEST_F(SoundSettingsSaving, without_files_mégsem_brings_back_how_it_started) {
     click_item("Filelist", bell);
     click("cmd_gartula");
     toggle("chk_hangjelzés_segítségkérés");
-    EXPECT_EQ(switches(), QStringLiteral("11101"));
+    EXPECT_EQ(switches(), u"11101"_s);
 
     click("cmd_mégsem");
 
     EXPECT_EQ(list("lst_gratulahang")->items(), QStringList());
-    EXPECT_EQ(switches(), QStringLiteral("11111"));
+    EXPECT_EQ(switches(), u"11111"_s);
     EXPECT_FALSE(QFile::exists(place("program/kavaro/grathang.ini")));
 }
 
@@ -243,8 +245,8 @@ TEST_F(SoundSettingsSaving, stays_open_with_a_message_while_the_files_cannot_be_
 
         EXPECT_TRUE(window_->isVisible());
         ASSERT_EQ(boxes_.told.size(), 1);
-        EXPECT_TRUE(boxes_.told.first().startsWith(QStringLiteral("A(z) „%1” mappa nem hozható létre: ")
-                                                       .arg(QDir::toNativeSeparators(place("program/kavaro")))))
+        EXPECT_TRUE(boxes_.told.first().startsWith(
+            u"A(z) „%1” mappa nem hozható létre: "_s.arg(QDir::toNativeSeparators(place("program/kavaro")))))
             << boxes_.told.first().toStdString();
         EXPECT_EQ(list("lst_gratulahang")->items(), QStringList(bell));
         QFile::remove(place("program/kavaro"));
@@ -285,7 +287,7 @@ TEST_F(SoundSettingsSaving, tells_of_a_damaged_file_when_the_window_is_shown_and
     open([] {});
     ASSERT_EQ(boxes_.told.size(), 1);
     EXPECT_TRUE(boxes_.told.first().contains(QDir::toNativeSeparators(place("program/kavaro/grathang.ini"))));
-    EXPECT_EQ(switches(), QStringLiteral("10111"));
+    EXPECT_EQ(switches(), u"10111"_s);
     EXPECT_EQ(list("lst_gratulahang")->items(), QStringList({bell, chime}));
     open([] {});
     EXPECT_EQ(boxes_.told.size(), 1);
@@ -312,14 +314,13 @@ TEST_F(SoundSettingsSaving, lists_files_that_came_and_went_while_it_was_hidden) 
     });
     multimedia_.take_sent();
     QFile::remove(sound(horn));
-    put_sound(QStringLiteral("alarm.wav"));
-    put_sound(QStringLiteral("béka.wav"));
+    put_sound(u"alarm.wav"_s);
+    put_sound(u"béka.wav"_s);
 
     open([this] {
-        EXPECT_EQ(list("Filelist")->items(),
-                  QStringList({QStringLiteral("alarm.wav"), QStringLiteral("béka.wav"), bell, chime, gong}));
+        EXPECT_EQ(list("Filelist")->items(), QStringList({u"alarm.wav"_s, u"béka.wav"_s, bell, chime, gong}));
         EXPECT_EQ(selected("Filelist"), chime);
-        EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 4\\ 5"));
+        EXPECT_EQ(label("Label_hangszám"), u" 4\\ 5"_s);
     });
 
     EXPECT_EQ(multimedia_.sent, QStringList());
@@ -335,7 +336,7 @@ TEST_F(SoundSettingsSaving, selects_no_file_when_the_selected_one_went_while_it_
 
     open([this] {
         EXPECT_EQ(list("Filelist")->selected(), -1);
-        EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 3 hang áll rendelkezésemre"));
+        EXPECT_EQ(label("Label_hangszám"), u" 3 hang áll rendelkezésemre"_s);
         EXPECT_FALSE(enabled("cmd_play"));
         EXPECT_FALSE(enabled("cmd_hibahang_add"));
     });

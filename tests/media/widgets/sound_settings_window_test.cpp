@@ -5,6 +5,8 @@
 
 #include "support/sound_settings_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SoundSettingsWindow : public SoundSettingsTest {
@@ -29,35 +31,33 @@ class SoundSettingsWindow : public SoundSettingsTest {
 TEST_F(SoundSettingsWindow, has_every_control_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_hangbeáll"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Kavaro Hangbeállítások"));
+    EXPECT_EQ(window_->objectName(), u"frm_hangbeáll"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Kavaro Hangbeállítások"_s);
     const std::pair<const char *, QString> buttons[] = {
-        {"cmd_play", QStringLiteral("Hang lejátszása")},
-        {"cmd_hangtörlése", QStringLiteral("Hang törlése")},
-        {"cmd_gartula", QStringLiteral("Hozzáadás a gratuláló  hangok listájához")},
-        {"cmd_hangtörl_gratulahangból", QStringLiteral("Törlés a gratuláló hangok listájából")},
-        {"cmd_helyeshang_add", QStringLiteral("Hozzáadás a sikerhangok listájához")},
-        {"cmd_hangtörl_helyeshangból", QStringLiteral("Törlés a sikerhangok listájából")},
-        {"cmd_hibahang_add", QStringLiteral("Hozzáadás a hibahangok listájához")},
-        {"cmd_hangtörl_hibahangból", QStringLiteral("Törlés a hibahangok listájából")},
-        {"cmd_ok", QStringLiteral("Ok")},
-        {"cmd_mégsem", QStringLiteral("Mégsem")}};
+        {"cmd_play", u"Hang lejátszása"_s},
+        {"cmd_hangtörlése", u"Hang törlése"_s},
+        {"cmd_gartula", u"Hozzáadás a gratuláló  hangok listájához"_s},
+        {"cmd_hangtörl_gratulahangból", u"Törlés a gratuláló hangok listájából"_s},
+        {"cmd_helyeshang_add", u"Hozzáadás a sikerhangok listájához"_s},
+        {"cmd_hangtörl_helyeshangból", u"Törlés a sikerhangok listájából"_s},
+        {"cmd_hibahang_add", u"Hozzáadás a hibahangok listájához"_s},
+        {"cmd_hangtörl_hibahangból", u"Törlés a hibahangok listájából"_s},
+        {"cmd_ok", u"Ok"_s},
+        {"cmd_mégsem", u"Mégsem"_s}};
     for (const auto &[name, caption] : buttons)
         EXPECT_EQ(button(name)->text(), caption);
     const std::pair<const char *, QString> boxes[] = {
-        {"chk_hang_a_gratulálópanelen", QStringLiteral("Hangjelzések használata a gratuláló panelen")},
-        {"chk_hang_a_feladatokban_helyes",
-         QStringLiteral("Hangjelzések használata a feladatokban helyes megoldás esetén")},
-        {"chk_hang_a_feladatokban_hiba",
-         QStringLiteral("Hangjelzések használata a feladatokban hibás megoldás esetén")},
-        {"chk_hangjelzés_segítségkérés", QStringLiteral("Hangjelzés segítségkérés esetén")},
-        {"chk_hang_a_főablakban", QStringLiteral("Hangok a grafikus főablakban")}};
+        {"chk_hang_a_gratulálópanelen", u"Hangjelzések használata a gratuláló panelen"_s},
+        {"chk_hang_a_feladatokban_helyes", u"Hangjelzések használata a feladatokban helyes megoldás esetén"_s},
+        {"chk_hang_a_feladatokban_hiba", u"Hangjelzések használata a feladatokban hibás megoldás esetén"_s},
+        {"chk_hangjelzés_segítségkérés", u"Hangjelzés segítségkérés esetén"_s},
+        {"chk_hang_a_főablakban", u"Hangok a grafikus főablakban"_s}};
     for (const auto &[name, caption] : boxes)
         EXPECT_EQ(box(name)->text(), caption);
-    EXPECT_EQ(label("Label1"), QStringLiteral("A gratuláló panelen megszólaló hangok:"));
-    EXPECT_EQ(label("Label2"), QStringLiteral("Helyes megoldás esetén megszólaló hangok:"));
-    EXPECT_EQ(label("Label3"), QStringLiteral("Hibás megoldás esetén megszólaló hangok:"));
-    EXPECT_EQ(control<QGroupBox>(*window_, "frame_hangjelzések")->title(), QStringLiteral("Hangjelzések"));
+    EXPECT_EQ(label("Label1"), u"A gratuláló panelen megszólaló hangok:"_s);
+    EXPECT_EQ(label("Label2"), u"Helyes megoldás esetén megszólaló hangok:"_s);
+    EXPECT_EQ(label("Label3"), u"Hibás megoldás esetén megszólaló hangok:"_s);
+    EXPECT_EQ(control<QGroupBox>(*window_, "frame_hangjelzések")->title(), u"Hangjelzések"_s);
 }
 
 TEST_F(SoundSettingsWindow, takes_colour_and_icon_of_the_program) {
@@ -68,16 +68,16 @@ TEST_F(SoundSettingsWindow, takes_colour_and_icon_of_the_program) {
 }
 
 TEST_F(SoundSettingsWindow, lists_the_waves_of_the_folder_and_counts_them) {
-    put_sound(QStringLiteral("leírás.txt"));
-    put_sound(QStringLiteral("dal.mid"));
-    QDir().mkdir(sound(QStringLiteral("mappa.wav")));
+    put_sound(u"leírás.txt"_s);
+    put_sound(u"dal.mid"_s);
+    QDir().mkdir(sound(u"mappa.wav"_s));
 
     start();
 
     EXPECT_EQ(list("Filelist")->items(), QStringList({bell, horn, chime, gong}));
-    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 4 hang áll rendelkezésemre"));
+    EXPECT_EQ(label("Label_hangszám"), u" 4 hang áll rendelkezésemre"_s);
     for (const Row &row : rows)
-        EXPECT_EQ(label(row.count), QStringLiteral(" 0 hang"));
+        EXPECT_EQ(label(row.count), u" 0 hang"_s);
 }
 
 TEST_F(SoundSettingsWindow, stands_without_a_folder_of_sounds) {
@@ -86,20 +86,20 @@ TEST_F(SoundSettingsWindow, stands_without_a_folder_of_sounds) {
     start();
     press("Filelist", Qt::Key_Delete);
 
-    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 0 hang áll rendelkezésemre"));
+    EXPECT_EQ(label("Label_hangszám"), u" 0 hang áll rendelkezésemre"_s);
     EXPECT_EQ(usable(), QStringList());
     EXPECT_EQ(boxes_.told, QStringList());
 }
 
 TEST_F(SoundSettingsWindow, says_which_of_how_many_files_is_selected) {
     for (int i = 10; i < 18; ++i)
-        put_sound(QStringLiteral("a%1.wav").arg(i));
+        put_sound(u"a%1.wav"_s.arg(i));
     start();
 
-    click_item("Filelist", QStringLiteral("a12.wav"));
-    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 3\\ 12"));
+    click_item("Filelist", u"a12.wav"_s);
+    EXPECT_EQ(label("Label_hangszám"), u" 3\\ 12"_s);
     click_item("Filelist", gong);
-    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 12\\ 12"));
+    EXPECT_EQ(label("Label_hangszám"), u" 12\\ 12"_s);
 }
 
 TEST_F(SoundSettingsWindow, opens_silently_with_nothing_selected) {
@@ -130,9 +130,9 @@ TEST_F(SoundSettingsWindow, stays_silent_while_tab_goes_through_its_lists) {
     start();
 
     EXPECT_EQ(tab_order(*window_),
-              QStringLiteral("Filelist lst_gratulahang lst_helyeshang Lst_hibahang chk_hang_a_gratulálópanelen "
-                             "chk_hang_a_feladatokban_helyes chk_hang_a_feladatokban_hiba "
-                             "chk_hangjelzés_segítségkérés chk_hang_a_főablakban cmd_ok cmd_mégsem"));
+              u"Filelist lst_gratulahang lst_helyeshang Lst_hibahang chk_hang_a_gratulálópanelen "
+              "chk_hang_a_feladatokban_helyes chk_hang_a_feladatokban_hiba "
+              "chk_hangjelzés_segítségkérés chk_hang_a_főablakban cmd_ok cmd_mégsem"_s);
 
     EXPECT_EQ(multimedia_.sent, QStringList());
     EXPECT_EQ(list("lst_helyeshang")->selected(), -1);
@@ -147,13 +147,13 @@ TEST_F(SoundSettingsWindow, is_reached_by_tab_from_control_to_control) {
     list("Filelist")->setFocus();
 
     EXPECT_EQ(tab_order(*window_),
-              QStringLiteral("Filelist cmd_play cmd_hangtörlése "
-                             "lst_gratulahang cmd_gartula cmd_hangtörl_gratulahangból "
-                             "lst_helyeshang cmd_helyeshang_add cmd_hangtörl_helyeshangból "
-                             "Lst_hibahang cmd_hibahang_add cmd_hangtörl_hibahangból "
-                             "chk_hang_a_gratulálópanelen chk_hang_a_feladatokban_helyes "
-                             "chk_hang_a_feladatokban_hiba chk_hangjelzés_segítségkérés chk_hang_a_főablakban "
-                             "cmd_ok cmd_mégsem"));
+              u"Filelist cmd_play cmd_hangtörlése "
+              "lst_gratulahang cmd_gartula cmd_hangtörl_gratulahangból "
+              "lst_helyeshang cmd_helyeshang_add cmd_hangtörl_helyeshangból "
+              "Lst_hibahang cmd_hibahang_add cmd_hangtörl_hibahangból "
+              "chk_hang_a_gratulálópanelen chk_hang_a_feladatokban_helyes "
+              "chk_hang_a_feladatokban_hiba chk_hangjelzés_segítségkérés chk_hang_a_főablakban "
+              "cmd_ok cmd_mégsem"_s);
 }
 
 TEST_F(SoundSettingsWindow, gives_every_control_an_accessible_name) {
@@ -170,9 +170,8 @@ TEST_F(SoundSettingsWindow, enables_playing_deleting_and_adding_while_a_file_is_
 
     click_item("Filelist", bell);
 
-    EXPECT_EQ(usable(),
-              QStringList({QStringLiteral("cmd_play"), QStringLiteral("cmd_hangtörlése"), QStringLiteral("cmd_gartula"),
-                           QStringLiteral("cmd_helyeshang_add"), QStringLiteral("cmd_hibahang_add")}));
+    EXPECT_EQ(usable(), QStringList({u"cmd_play"_s, u"cmd_hangtörlése"_s, u"cmd_gartula"_s, u"cmd_helyeshang_add"_s,
+                                     u"cmd_hibahang_add"_s}));
 }
 
 TEST_F(SoundSettingsWindow, enables_removing_from_a_list_while_one_of_its_entries_is_selected) {
@@ -208,7 +207,7 @@ TEST_F(SoundSettingsWindow, plays_a_file_that_is_reached_by_key) {
     EXPECT_EQ(multimedia_.take_sent(), change_to(horn));
     press("Filelist", Qt::Key_End);
     EXPECT_EQ(multimedia_.take_sent(), change_to(gong));
-    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 4\\ 4"));
+    EXPECT_EQ(label("Label_hangszám"), u" 4\\ 4"_s);
 }
 
 TEST_F(SoundSettingsWindow, plays_the_selected_file_again_by_its_button) {
@@ -236,7 +235,7 @@ TEST_F(SoundSettingsWindow, plays_an_entry_of_a_list_by_click_and_by_key) {
         EXPECT_EQ(multimedia_.take_sent(), change_to(chime)) << row.list;
         EXPECT_EQ(selected(row.list), chime);
     }
-    EXPECT_EQ(label("Label_hangszám"), QStringLiteral(" 2\\ 4"));
+    EXPECT_EQ(label("Label_hangszám"), u" 2\\ 4"_s);
 }
 
 TEST_F(SoundSettingsWindow, has_one_picture_on_all_buttons_that_add_and_another_on_all_that_remove) {

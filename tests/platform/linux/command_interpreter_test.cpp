@@ -10,6 +10,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr quint32 done = 0;
@@ -26,14 +28,14 @@ class CommandInterpreterTest : public testing::Test {
     quint32 code_of(const char *command) { return code_of(QString::fromLatin1(command)); }
 
     quint32 open(const QString &path, const char *rest) {
-        return code_of(QStringLiteral("open ") + quoted_for_command(path) + u' ' + QString::fromLatin1(rest));
+        return code_of(u"open "_s + quoted_for_command(path) + u' ' + QString::fromLatin1(rest));
     }
     quint32 open_wave() { return open(wave_, "type waveaudio alias hang"); }
     quint32 open_piece() { return open(piece_, "type sequencer alias midi"); }
 
     QTemporaryDir folder_;
-    QString wave_ = folder_.filePath(QStringLiteral("a.wav"));
-    QString piece_ = folder_.filePath(QStringLiteral("b.mid"));
+    QString wave_ = folder_.filePath(u"a.wav"_s);
+    QString piece_ = folder_.filePath(u"b.mid"_s);
     SoundNotes notes_;
     std::chrono::steady_clock::time_point now_{std::chrono::hours(1)};
     CommandInterpreter interpreter_{FakeSoundPlayer::factory(notes_), [this] { return now_; }};
@@ -44,8 +46,8 @@ TEST_F(CommandInterpreterTest, opens_plays_and_closes_a_wave) {
     EXPECT_EQ(code_of("play hang "), done);
     EXPECT_EQ(code_of("close hang"), done);
 
-    EXPECT_EQ(notes_.events, (QStringList{QStringLiteral("wave ") + wave_ + QStringLiteral(" opened"),
-                                          wave_ + QStringLiteral(" played"), wave_ + QStringLiteral(" silenced")}));
+    EXPECT_EQ(notes_.events,
+              (QStringList{u"wave "_s + wave_ + u" opened"_s, wave_ + u" played"_s, wave_ + u" silenced"_s}));
 }
 
 TEST_F(CommandInterpreterTest, opens_plays_and_closes_a_midi_piece) {
@@ -53,8 +55,8 @@ TEST_F(CommandInterpreterTest, opens_plays_and_closes_a_midi_piece) {
     EXPECT_EQ(code_of("play midi "), done);
     EXPECT_EQ(code_of("close midi"), done);
 
-    EXPECT_EQ(notes_.events, (QStringList{QStringLiteral("midi ") + piece_ + QStringLiteral(" opened"),
-                                          piece_ + QStringLiteral(" played"), piece_ + QStringLiteral(" silenced")}));
+    EXPECT_EQ(notes_.events,
+              (QStringList{u"midi "_s + piece_ + u" opened"_s, piece_ + u" played"_s, piece_ + u" silenced"_s}));
 }
 
 TEST_F(CommandInterpreterTest, closes_one_sound_and_leaves_the_other) {
@@ -64,26 +66,26 @@ TEST_F(CommandInterpreterTest, closes_one_sound_and_leaves_the_other) {
 
     code_of("close hang");
 
-    EXPECT_EQ(notes_.events, QStringList(wave_ + QStringLiteral(" silenced")));
+    EXPECT_EQ(notes_.events, QStringList(wave_ + u" silenced"_s));
 }
 
 TEST_F(CommandInterpreterTest, silences_what_is_open_at_its_end) {
     {
         CommandInterpreter other(FakeSoundPlayer::factory(notes_), [this] { return now_; });
-        other.send(QStringLiteral("open ") + quoted_for_command(wave_) + QStringLiteral(" type waveaudio alias x"), 0);
+        other.send(u"open "_s + quoted_for_command(wave_) + u" type waveaudio alias x"_s, 0);
         notes_.take_events();
     }
 
-    EXPECT_EQ(notes_.events, QStringList(wave_ + QStringLiteral(" silenced")));
+    EXPECT_EQ(notes_.events, QStringList(wave_ + u" silenced"_s));
 }
 
 TEST_F(CommandInterpreterTest, takes_small_letters_and_capitals_for_the_same_but_not_in_a_path) {
     EXPECT_EQ(open(wave_, "TYPE WaveAudio Alias Hang"), done);
     EXPECT_EQ(code_of("PLAY HANG"), done);
-    EXPECT_EQ(interpreter_.send(QStringLiteral("sTATUS hANG mODE"), room).text, QStringLiteral("playing"));
+    EXPECT_EQ(interpreter_.send(u"sTATUS hANG mODE"_s, room).text, u"playing"_s);
     EXPECT_EQ(code_of("Close hANG"), done);
 
-    EXPECT_EQ(open(folder_.filePath(QStringLiteral("A.WAV")), "type waveaudio alias x"), mci_error::file_not_found);
+    EXPECT_EQ(open(folder_.filePath(u"A.WAV"_s), "type waveaudio alias x"), mci_error::file_not_found);
 }
 
 TEST_F(CommandInterpreterTest, takes_the_alias_before_the_type_too) {
@@ -94,7 +96,7 @@ TEST_F(CommandInterpreterTest, takes_the_alias_before_the_type_too) {
 TEST_F(CommandInterpreterTest, names_a_file_without_an_alias_by_its_path) {
     EXPECT_EQ(open(wave_, "type waveaudio"), done);
 
-    EXPECT_EQ(code_of(QStringLiteral("play ") + quoted_for_command(wave_)), done);
+    EXPECT_EQ(code_of(u"play "_s + quoted_for_command(wave_)), done);
 }
 
 TEST_F(CommandInterpreterTest, opens_names_with_blanks_quotation_marks_and_hungarian_letters) {
@@ -104,33 +106,33 @@ TEST_F(CommandInterpreterTest, opens_names_with_blanks_quotation_marks_and_hunga
 
         EXPECT_EQ(open(path, "type waveaudio alias x"), done);
 
-        EXPECT_EQ(notes_.take_events(), QStringList(QStringLiteral("wave ") + path + QStringLiteral(" opened")));
+        EXPECT_EQ(notes_.take_events(), QStringList(u"wave "_s + path + u" opened"_s));
         code_of("close x");
         notes_.take_events();
     }
 }
 
 TEST_F(CommandInterpreterTest, lets_no_path_break_out_of_its_command) {
-    const QString path = folder_.filePath(QStringLiteral("nincs\" type waveaudio alias y"));
+    const QString path = folder_.filePath(u"nincs\" type waveaudio alias y"_s);
 
     EXPECT_EQ(open(path, "type waveaudio alias x"), mci_error::file_not_found);
     EXPECT_EQ(code_of("play y"), mci_error::invalid_device_name);
 }
 
 TEST_F(CommandInterpreterTest, answers_playing_while_a_piece_is_heard_and_stopped_before_and_after) {
-    const QString question = QStringLiteral("Status midi mode");
+    const QString question = u"Status midi mode"_s;
     open_piece();
-    EXPECT_EQ(interpreter_.send(question, room).text, QStringLiteral("stopped"));
+    EXPECT_EQ(interpreter_.send(question, room).text, u"stopped"_s);
 
     code_of("play midi");
-    EXPECT_EQ(interpreter_.send(question, room).text, QStringLiteral("playing"));
+    EXPECT_EQ(interpreter_.send(question, room).text, u"playing"_s);
 
     notes_.heard = false;
-    EXPECT_EQ(interpreter_.send(question, room).text, QStringLiteral("stopped"));
+    EXPECT_EQ(interpreter_.send(question, room).text, u"stopped"_s);
 }
 
 TEST_F(CommandInterpreterTest, has_no_answer_when_nothing_is_open) {
-    const MultimediaAnswer answer = interpreter_.send(QStringLiteral("Status midi mode"), room);
+    const MultimediaAnswer answer = interpreter_.send(u"Status midi mode"_s, room);
 
     EXPECT_EQ(answer.code, mci_error::invalid_device_name);
     EXPECT_EQ(answer.text, QString());
@@ -140,11 +142,11 @@ TEST_F(CommandInterpreterTest, has_no_answer_when_there_is_no_room_for_it) {
     open_piece();
 
     for (const int length : {0, 7}) {
-        const MultimediaAnswer answer = interpreter_.send(QStringLiteral("status midi mode"), length);
+        const MultimediaAnswer answer = interpreter_.send(u"status midi mode"_s, length);
         EXPECT_EQ(answer.code, mci_error::answer_too_long) << length;
         EXPECT_EQ(answer.text, QString()) << length;
     }
-    EXPECT_EQ(interpreter_.send(QStringLiteral("status midi mode"), 8).text, QStringLiteral("stopped"));
+    EXPECT_EQ(interpreter_.send(u"status midi mode"_s, 8).text, u"stopped"_s);
 }
 
 TEST_F(CommandInterpreterTest, tells_what_is_wrong_with_a_command) {
@@ -187,13 +189,13 @@ TEST_F(CommandInterpreterTest, refuses_an_alias_that_is_taken_and_leaves_its_sou
 }
 
 TEST_F(CommandInterpreterTest, finds_no_file_where_there_is_none_or_a_folder) {
-    EXPECT_EQ(open(folder_.filePath(QStringLiteral("nincs.wav")), "type waveaudio alias x"), mci_error::file_not_found);
+    EXPECT_EQ(open(folder_.filePath(u"nincs.wav"_s), "type waveaudio alias x"), mci_error::file_not_found);
     EXPECT_EQ(open(folder_.path(), "type waveaudio alias x"), mci_error::file_not_found);
     EXPECT_EQ(open(QString(), "type waveaudio alias x"), mci_error::file_not_found);
 }
 
 TEST_F(CommandInterpreterTest, does_not_wait_for_the_other_end_of_a_pipe) {
-    const QString pipe = folder_.filePath(QStringLiteral("pipe.wav"));
+    const QString pipe = folder_.filePath(u"pipe.wav"_s);
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
 
     EXPECT_EQ(open(pipe, "type waveaudio alias x"), mci_error::file_not_found);
@@ -237,7 +239,7 @@ TEST_F(CommandInterpreterTest, plays_on_a_machine_without_a_device_as_if_there_w
     open_piece();
     code_of("play midi");
 
-    EXPECT_EQ(interpreter_.send(QStringLiteral("status midi mode"), room).text, QStringLiteral("playing"));
+    EXPECT_EQ(interpreter_.send(u"status midi mode"_s, room).text, u"playing"_s);
 }
 
 TEST_F(CommandInterpreterTest, does_not_look_for_a_missing_device_again_before_the_pause_is_over) {
@@ -271,7 +273,7 @@ TEST_F(CommandInterpreterTest, cuts_off_no_sound_to_look_for_a_device) {
     open_wave();
 
     EXPECT_EQ(notes_.players, 1);
-    EXPECT_FALSE(notes_.events.contains(piece_ + QStringLiteral(" silenced")));
+    EXPECT_FALSE(notes_.events.contains(piece_ + u" silenced"_s));
 }
 
 TEST_F(CommandInterpreterTest, keeps_a_device_that_it_has) {

@@ -10,6 +10,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr rlim_t small_file = 4096;
@@ -27,8 +29,7 @@ void limit_file_size() {
     if (getuid() == 0 && setuid(nobody) != 0)
         std::_Exit(2);
     const auto failure = files::replace_whole(path, "new:\xfaj\r\n");
-    const bool told =
-        failure && failure->sentence.endsWith(QStringLiteral("fájl nem írható: nincs jogosultság az írásához."));
+    const bool told = failure && failure->sentence.endsWith(u"fájl nem írható: nincs jogosultság az írásához."_s);
     std::_Exit(told ? 0 : 1);
 }
 
@@ -38,8 +39,7 @@ void limit_file_size() {
     if (getuid() == 0 && setuid(nobody) != 0)
         std::_Exit(2);
     const auto failure = files::remove(path);
-    const bool told =
-        failure && failure->sentence.endsWith(QStringLiteral("fájl nem törölhető: nincs jogosultság a törléséhez."));
+    const bool told = failure && failure->sentence.endsWith(u"fájl nem törölhető: nincs jogosultság a törléséhez."_s);
     std::_Exit(told ? 0 : 1);
 }
 
@@ -52,35 +52,35 @@ class FailingFiles : public testing::Test {
 
 TEST_F(FailingFiles, says_so_when_reading_fails_half_way) {
     // The memory of a process opens, but its first page cannot be read.
-    const FileContent content = files::read_whole(QStringLiteral("/proc/self/mem"));
+    const FileContent content = files::read_whole(u"/proc/self/mem"_s);
 
-    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(QStringLiteral("olvasási hiba történt.")));
+    EXPECT_TRUE(std::get<Failure>(content).sentence.endsWith(u"olvasási hiba történt."_s));
 }
 
 TEST_F(FailingFiles, says_so_when_a_folder_takes_no_files) {
     // Nobody, not even root, can make a file there.
-    const auto failure = files::replace_whole(QStringLiteral("/proc/lista.szs"), "a:b\r\n");
+    const auto failure = files::replace_whole(u"/proc/lista.szs"_s, "a:b\r\n");
 
     ASSERT_TRUE(failure);
-    EXPECT_TRUE(failure->sentence.startsWith(QStringLiteral("A(z) „/proc/lista.szs” fájl nem írható: ")));
+    EXPECT_TRUE(failure->sentence.startsWith(u"A(z) „/proc/lista.szs” fájl nem írható: "_s));
 }
 
 TEST_F(FailingFiles, says_that_the_right_to_write_is_missing_for_a_read_only_file_and_in_a_read_only_folder) {
-    const QString path = in_folder(QStringLiteral("lista.szs"));
+    const QString path = in_folder(u"lista.szs"_s);
     write_file(path, "old:r\xe9gi\r\n");
     QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther);
     QFile::setPermissions(folder_.path(), QFile::Permissions(0x7777));
     EXPECT_EXIT(replace_without_the_right(path), testing::ExitedWithCode(0), "");
 
     QFile::setPermissions(folder_.path(), QFile::Permissions(0x5555));
-    EXPECT_EXIT(replace_without_the_right(in_folder(QStringLiteral("uj.szs"))), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(replace_without_the_right(in_folder(u"uj.szs"_s)), testing::ExitedWithCode(0), "");
 
     QFile::setPermissions(folder_.path(), QFile::Permissions(0x7777));
     EXPECT_EQ(read_file(path), "old:r\xe9gi\r\n");
 }
 
 TEST_F(FailingFiles, leaves_the_old_file_whole_when_the_disk_is_full) {
-    const QString path = in_folder(QStringLiteral("lista.szs"));
+    const QString path = in_folder(u"lista.szs"_s);
     write_file(path, "old:régi\r\n");
     // A small file fails only when its one buffer is written out, a large one earlier.
     for (const qsizetype size : {10000, 1 << 20}) {
@@ -94,12 +94,12 @@ TEST_F(FailingFiles, leaves_the_old_file_whole_when_the_disk_is_full) {
             testing::ExitedWithCode(0), "");
 
         EXPECT_EQ(read_file(path), "old:régi\r\n");
-        EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{QStringLiteral("lista.szs")});
+        EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{u"lista.szs"_s});
     }
 }
 
 TEST_F(FailingFiles, leaves_the_old_file_whole_when_the_process_is_killed_in_the_middle) {
-    const QString path = in_folder(QStringLiteral("lista.szs"));
+    const QString path = in_folder(u"lista.szs"_s);
     write_file(path, "old:régi\r\n");
     EXPECT_EXIT(
         {
@@ -113,7 +113,7 @@ TEST_F(FailingFiles, leaves_the_old_file_whole_when_the_process_is_killed_in_the
 }
 
 TEST_F(FailingFiles, deletes_a_read_only_file) {
-    const QString path = in_folder(QStringLiteral("hang.wav"));
+    const QString path = in_folder(u"hang.wav"_s);
     write_file(path, "RIFF");
     QFile::setPermissions(path, QFile::ReadOwner);
 
@@ -123,20 +123,20 @@ TEST_F(FailingFiles, deletes_a_read_only_file) {
 }
 
 TEST_F(FailingFiles, deletes_a_link_and_not_what_it_leads_to) {
-    write_file(in_folder(QStringLiteral("hang.wav")), "RIFF");
+    write_file(in_folder(u"hang.wav"_s), "RIFF");
     for (const char *target : {"hang.wav", "nincs.wav"}) {
-        const QString link = in_folder(QStringLiteral("hanghoz.wav"));
+        const QString link = in_folder(u"hanghoz.wav"_s);
         ASSERT_TRUE(QFile::link(in_folder(QString::fromLatin1(target)), link));
 
         EXPECT_FALSE(files::remove(link));
 
         EXPECT_FALSE(QFileInfo(link).isSymLink()) << target;
     }
-    EXPECT_TRUE(QFile::exists(in_folder(QStringLiteral("hang.wav"))));
+    EXPECT_TRUE(QFile::exists(in_folder(u"hang.wav"_s)));
 }
 
 TEST_F(FailingFiles, says_that_the_right_to_delete_is_missing_in_a_read_only_folder) {
-    const QString path = in_folder(QStringLiteral("hang.wav"));
+    const QString path = in_folder(u"hang.wav"_s);
     write_file(path, "RIFF");
     QFile::setPermissions(folder_.path(), QFile::Permissions(0x5555));
 

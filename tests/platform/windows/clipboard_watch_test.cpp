@@ -10,6 +10,8 @@
 
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void put(UINT format, const void *bytes, size_t size) {
@@ -56,40 +58,40 @@ bool sees(ClipboardWatch &watch, const QString &text) {
 }
 
 TEST(SystemClipboard, is_seen_with_what_was_there_marked) {
-    copy(QStringLiteral("régi"));
+    copy(u"régi"_s);
 
     const auto watch = watch_clipboard();
 
-    ASSERT_TRUE(sees(*watch, QStringLiteral("régi")));
+    ASSERT_TRUE(sees(*watch, u"régi"_s));
     EXPECT_TRUE(watch->text()->was_there);
 }
 
 TEST(SystemClipboard, is_seen_when_it_changes) {
     const auto watch = watch_clipboard();
-    copy(QStringLiteral("szőlő"));
-    ASSERT_TRUE(sees(*watch, QStringLiteral("szőlő")));
+    copy(u"szőlő"_s);
+    ASSERT_TRUE(sees(*watch, u"szőlő"_s));
     EXPECT_FALSE(watch->text()->was_there);
 
-    copy(QStringLiteral("alma"));
+    copy(u"alma"_s);
 
-    EXPECT_TRUE(sees(*watch, QStringLiteral("alma")));
+    EXPECT_TRUE(sees(*watch, u"alma"_s));
 }
 
 TEST(SystemClipboard, is_not_seen_when_it_is_secret_or_longer_than_a_page) {
     const auto watch = watch_clipboard();
-    copy(QStringLiteral("titok"), true);
+    copy(u"titok"_s, true);
     copy(QString(5000, u'x'));
     // Both have been passed over when what comes after them is there, and neither was seen before it.
     QStringList seen;
-    copy(QStringLiteral("utána"));
+    copy(u"utána"_s);
 
     EXPECT_TRUE(within_ten_seconds([&] {
         if (const auto text = watch->text(); text && !seen.contains(text->text))
             seen.append(text->text);
-        return seen.contains(QStringLiteral("utána"));
+        return seen.contains(u"utána"_s);
     }));
-    EXPECT_FALSE(seen.contains(QStringLiteral("titok")));
-    EXPECT_EQ(seen.filter(QStringLiteral("xxxx")), QStringList());
+    EXPECT_FALSE(seen.contains(u"titok"_s));
+    EXPECT_EQ(seen.filter(u"xxxx"_s), QStringList());
 }
 
 }  // namespace

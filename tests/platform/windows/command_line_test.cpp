@@ -4,26 +4,27 @@
 #include "platform/windows/command_line_text.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(CommandLine, is_empty_behind_the_name_of_the_program_alone) {
-    EXPECT_EQ(behind_program_name(QStringLiteral("zimbora.exe")), QString());
-    EXPECT_EQ(behind_program_name(QStringLiteral("\"C:\\Program Files\\Zimbora\\zimbora.exe\" ")), QString());
+    EXPECT_EQ(behind_program_name(u"zimbora.exe"_s), QString());
+    EXPECT_EQ(behind_program_name(u"\"C:\\Program Files\\Zimbora\\zimbora.exe\" "_s), QString());
 }
 
 TEST(CommandLine, keeps_the_quotation_marks_of_the_path) {
-    EXPECT_EQ(behind_program_name(QStringLiteral("\"C:\\A b\\zimbora.exe\" \"D:\\az én szavaim.szs\"")),
-              QStringLiteral("\"D:\\az én szavaim.szs\""));
-    EXPECT_EQ(behind_program_name(QStringLiteral("C:\\zimbora.exe   \"D:\\a  b.szs\"  ")),
-              QStringLiteral("\"D:\\a  b.szs\""));
+    EXPECT_EQ(behind_program_name(u"\"C:\\A b\\zimbora.exe\" \"D:\\az én szavaim.szs\""_s),
+              u"\"D:\\az én szavaim.szs\""_s);
+    EXPECT_EQ(behind_program_name(u"C:\\zimbora.exe   \"D:\\a  b.szs\"  "_s), u"\"D:\\a  b.szs\""_s);
 }
 
 TEST(CommandLine, takes_a_path_without_quotation_marks_as_it_is) {
-    EXPECT_EQ(behind_program_name(QStringLiteral("zimbora D:\\a b.szs")), QStringLiteral("D:\\a b.szs"));
+    EXPECT_EQ(behind_program_name(u"zimbora D:\\a b.szs"_s), u"D:\\a b.szs"_s);
 }
 
 TEST(CommandLine, of_a_name_whose_quotation_does_not_end_is_empty) {
-    EXPECT_EQ(behind_program_name(QStringLiteral("\"C:\\zimbora.exe D:\\a.szs")), QString());
+    EXPECT_EQ(behind_program_name(u"\"C:\\zimbora.exe D:\\a.szs"_s), QString());
 }
 
 TEST(CommandLine, of_this_process_ends_with_its_last_argument) {

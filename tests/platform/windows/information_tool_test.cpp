@@ -9,6 +9,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const wchar_t *stand_in = L"Software\\Zimbora tests\\machine";
@@ -45,17 +47,17 @@ class InformationToolPath : public testing::Test {
 };
 
 TEST_F(InformationToolPath, is_what_the_registry_says_of_the_tool) {
-    set(tool, L"PATH", QStringLiteral("C:\\Eszközök\\msinfo32.exe"));
-    set(folders, L"MSINFO", QStringLiteral("C:\\másik"));
+    set(tool, L"PATH", u"C:\\Eszközök\\msinfo32.exe"_s);
+    set(folders, L"MSINFO", u"C:\\másik"_s);
 
-    EXPECT_EQ(information_tool_path(), QStringLiteral("C:\\Eszközök\\msinfo32.exe"));
+    EXPECT_EQ(information_tool_path(), u"C:\\Eszközök\\msinfo32.exe"_s);
 }
 
 TEST_F(InformationToolPath, has_variables_of_the_environment_put_in) {
     SetEnvironmentVariableW(L"ZIMBORA_TEST_FOLDER", L"C:\\mappa");
-    set(tool, L"PATH", QStringLiteral("%ZIMBORA_TEST_FOLDER%\\msinfo32.exe"), REG_EXPAND_SZ);
+    set(tool, L"PATH", u"%ZIMBORA_TEST_FOLDER%\\msinfo32.exe"_s, REG_EXPAND_SZ);
 
-    EXPECT_EQ(information_tool_path(), QStringLiteral("C:\\mappa\\msinfo32.exe"));
+    EXPECT_EQ(information_tool_path(), u"C:\\mappa\\msinfo32.exe"_s);
 }
 
 TEST_F(InformationToolPath, is_otherwise_in_the_folder_of_shared_tools_if_it_is_there) {
@@ -64,9 +66,9 @@ TEST_F(InformationToolPath, is_otherwise_in_the_folder_of_shared_tools_if_it_is_
     set(folders, L"MSINFO", native);
     EXPECT_EQ(information_tool_path(), std::nullopt);
 
-    write_file(folder.filePath(QStringLiteral("MSINFO32.EXE")), "a program");
+    write_file(folder.filePath(u"MSINFO32.EXE"_s), "a program");
 
-    EXPECT_EQ(information_tool_path(), native + QStringLiteral("\\MSINFO32.EXE"));
+    EXPECT_EQ(information_tool_path(), native + u"\\MSINFO32.EXE"_s);
 }
 
 TEST_F(InformationToolPath, is_missing_in_an_empty_registry) {
@@ -75,13 +77,13 @@ TEST_F(InformationToolPath, is_missing_in_an_empty_registry) {
 }
 
 TEST_F(InformationToolPath, that_leads_nowhere_starts_nothing) {
-    set(tool, L"PATH", QStringLiteral("C:\\nincs\\ilyen.exe"));
+    set(tool, L"PATH", u"C:\\nincs\\ilyen.exe"_s);
 
     EXPECT_EQ(start_information_tool(), InformationTool::unavailable);
 }
 
 TEST_F(InformationToolPath, of_a_program_starts_it) {
-    set(tool, L"PATH", QStringLiteral("C:\\windows\\system32\\hostname.exe"));
+    set(tool, L"PATH", u"C:\\windows\\system32\\hostname.exe"_s);
 
     EXPECT_EQ(start_information_tool(), InformationTool::started);
 }
@@ -90,7 +92,7 @@ TEST_F(InformationToolPath, of_number_type_is_turned_into_hexadecimal_text) {
     const DWORD number = 0xbeef;
     RegSetKeyValueW(HKEY_LOCAL_MACHINE, tool, L"PATH", REG_DWORD, &number, sizeof number);
 
-    EXPECT_EQ(machine_registry_text(tool, L"PATH"), QStringLiteral("&hBEEF"));
+    EXPECT_EQ(machine_registry_text(tool, L"PATH"), u"&hBEEF"_s);
 }
 
 }  // namespace

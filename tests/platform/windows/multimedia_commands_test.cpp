@@ -14,6 +14,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The smallest MIDI file that lasts: one track with a rest of half a minute.
@@ -33,7 +35,7 @@ QByteArray rest_of_half_a_minute() {
 
 class SystemMultimedia : public testing::Test {
   protected:
-    ~SystemMultimedia() override { static_cast<void>(commands_->send(QStringLiteral("close midi"), 0)); }
+    ~SystemMultimedia() override { static_cast<void>(commands_->send(u"close midi"_s, 0)); }
 
     [[nodiscard]] QString piece(const char16_t *name) const {
         const QString path = folder_.filePath(QString::fromUtf16(name));
@@ -42,11 +44,10 @@ class SystemMultimedia : public testing::Test {
     }
 
     quint32 open(const QString &path) {
-        return commands_->send(QStringLiteral("open %1 type sequencer alias midi").arg(quoted_for_command(path)), 0)
-            .code;
+        return commands_->send(u"open %1 type sequencer alias midi"_s.arg(quoted_for_command(path)), 0).code;
     }
 
-    QString mode() { return commands_->send(QStringLiteral("Status midi mode"), 255).text; }
+    QString mode() { return commands_->send(u"Status midi mode"_s, 255).text; }
 
     QTemporaryDir folder_;
     std::unique_ptr<MultimediaCommands> commands_ = make_multimedia_commands();
@@ -54,18 +55,18 @@ class SystemMultimedia : public testing::Test {
 
 TEST_F(SystemMultimedia, plays_a_midi_file_and_tells_so) {
     ASSERT_EQ(open(piece(u"Érik a szőlő.mid")), 0U);
-    EXPECT_EQ(mode(), QStringLiteral("stopped"));
+    EXPECT_EQ(mode(), u"stopped"_s);
 
-    EXPECT_EQ(commands_->send(QStringLiteral("play midi "), 0).code, 0U);
+    EXPECT_EQ(commands_->send(u"play midi "_s, 0).code, 0U);
 
-    EXPECT_EQ(mode(), QStringLiteral("playing"));
+    EXPECT_EQ(mode(), u"playing"_s);
 }
 
 TEST_F(SystemMultimedia, is_silent_after_the_device_is_closed) {
     ASSERT_EQ(open(piece(u"a.mid")), 0U);
-    static_cast<void>(commands_->send(QStringLiteral("play midi "), 0));
+    static_cast<void>(commands_->send(u"play midi "_s, 0));
 
-    EXPECT_EQ(commands_->send(QStringLiteral("close midi"), 0).code, 0U);
+    EXPECT_EQ(commands_->send(u"close midi"_s, 0).code, 0U);
 
     EXPECT_EQ(mode(), QString());
 }
@@ -78,14 +79,14 @@ TEST_F(SystemMultimedia, takes_slashes_for_backslashes_in_the_path) {
 }
 
 TEST_F(SystemMultimedia, fails_for_a_missing_file_with_a_code) {
-    EXPECT_NE(open(folder_.filePath(QStringLiteral("nincs.mid"))), 0U);
+    EXPECT_NE(open(folder_.filePath(u"nincs.mid"_s)), 0U);
     EXPECT_EQ(mode(), QString());
 }
 
 TEST_F(SystemMultimedia, opens_a_path_that_is_longer_than_drivers_take) {
     const QString folder = folder_.filePath(QString(100, u'a') + u'/' + QString(100, u'b'));
     ASSERT_TRUE(QDir().mkpath(folder));
-    const QString path = folder + QStringLiteral("/a.mid");
+    const QString path = folder + u"/a.mid"_s;
     write_file(path, rest_of_half_a_minute());
 
     EXPECT_EQ(open(path), 0U);
@@ -95,9 +96,8 @@ TEST_F(SystemMultimedia, opens_a_path_that_is_longer_than_drivers_take) {
 TEST_F(SystemMultimedia, sends_no_command_whose_path_holds_a_quotation_mark) {
     const QString there = piece(u"a.mid");
     const QString mark(u'"');
-    for (const QString &path :
-         {mark, mark + there, there + mark, mark + there + mark, folder_.filePath(QStringLiteral("\"b\" c.mid")),
-          there + QStringLiteral("\" type sequencer alias midi")}) {
+    for (const QString &path : {mark, mark + there, there + mark, mark + there + mark,
+                                folder_.filePath(u"\"b\" c.mid"_s), there + u"\" type sequencer alias midi"_s}) {
         EXPECT_EQ(open(path), static_cast<quint32>(MCIERR_FILE_NOT_FOUND)) << path.toStdString();
         EXPECT_EQ(mode(), QString()) << path.toStdString();
     }
@@ -108,7 +108,7 @@ TEST_F(SystemMultimedia, sends_no_command_whose_path_holds_a_quotation_mark) {
 TEST_F(SystemMultimedia, leaves_a_quotation_without_its_end_to_the_system) {
     const QString path = piece(u"a.mid");
 
-    EXPECT_NE(commands_->send(QStringLiteral("open \"%1 type sequencer alias midi").arg(path), 0).code, 0U);
+    EXPECT_NE(commands_->send(u"open \"%1 type sequencer alias midi"_s.arg(path), 0).code, 0U);
 
     EXPECT_EQ(mode(), QString());
 }
@@ -116,7 +116,7 @@ TEST_F(SystemMultimedia, leaves_a_quotation_without_its_end_to_the_system) {
 TEST_F(SystemMultimedia, fails_when_the_answer_does_not_fit) {
     ASSERT_EQ(open(piece(u"a.mid")), 0U);
 
-    const MultimediaAnswer answer = commands_->send(QStringLiteral("status midi mode"), 3);
+    const MultimediaAnswer answer = commands_->send(u"status midi mode"_s, 3);
 
     EXPECT_NE(answer.code, 0U);
     EXPECT_EQ(answer.text, QString());

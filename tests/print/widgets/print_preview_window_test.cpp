@@ -7,6 +7,8 @@
 
 #include "support/print_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 
 namespace {
@@ -58,8 +60,8 @@ TEST_F(PrintPreview, has_every_control_with_its_hungarian_caption) {
     start();
 
     in_preview([&](frm_nyomtatásikép &preview) {
-        EXPECT_EQ(preview.objectName(), QStringLiteral("frm_nyomtatásikép"));
-        EXPECT_EQ(preview.windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Nyomtatási kép"));
+        EXPECT_EQ(preview.objectName(), u"frm_nyomtatásikép"_s);
+        EXPECT_EQ(preview.windowTitle(), u"Zimbora Angol-Magyar Szótár - Nyomtatási kép"_s);
         EXPECT_EQ(preview.windowModality(), Qt::ApplicationModal);
         const std::pair<const char *, const char *> captions[] = {{"cmd_első", "&Első"},
                                                                   {"cmd_előző", "E&lőző"},
@@ -79,7 +81,7 @@ TEST_F(PrintPreview, has_every_control_with_its_hungarian_caption) {
             EXPECT_EQ(control<QPushButton>(preview, name)->text(), QString::fromUtf8(caption));
             EXPECT_FALSE(control<QPushButton>(preview, name)->accessibleName().isEmpty());
         }
-        EXPECT_EQ(page_of(preview), QStringLiteral("1 / 1"));
+        EXPECT_EQ(page_of(preview), u"1 / 1"_s);
     });
 }
 
@@ -96,8 +98,7 @@ TEST_F(PrintPreview, shows_the_pages_of_the_chosen_layout_of_the_current_printer
     choose(printers(), "PDF-fájl");
     in_preview([](frm_nyomtatásikép &) {});
 
-    EXPECT_THAT(printers_.previewed,
-                ElementsAre(QStringLiteral("First"), QStringLiteral("First"), QStringLiteral("First"), QString()));
+    EXPECT_THAT(printers_.previewed, ElementsAre(u"First"_s, u"First"_s, u"First"_s, QString()));
     EXPECT_TRUE(printers_.jobs.begun.isEmpty());
     EXPECT_TRUE(nothing_is_stored());
     EXPECT_TRUE(window_->isVisible());
@@ -139,7 +140,7 @@ TEST_F(PrintPreview, draws_a_card_in_the_middle_of_its_page_and_nothing_on_the_l
 
 TEST_F(PrintPreview, draws_bold_wider_than_plain) {
     list_.pairs = {};
-    state_.aktuálisfájl = QStringLiteral("/a list with a rather long name.szs");
+    state_.aktuálisfájl = u"/a list with a rather long name.szs"_s;
     start();
     double plain = 0;
     in_preview([&](frm_nyomtatásikép &preview) { plain = ink(preview).width(); });
@@ -156,25 +157,25 @@ TEST_F(PrintPreview, goes_from_page_to_page_with_buttons_and_keys) {
         EXPECT_FALSE(control<QPushButton>(preview, "cmd_első")->isEnabled());
         EXPECT_FALSE(control<QPushButton>(preview, "cmd_előző")->isEnabled());
         press(preview, "cmd_következő");
-        EXPECT_EQ(page_of(preview), QStringLiteral("2 / 7"));
+        EXPECT_EQ(page_of(preview), u"2 / 7"_s);
         press(preview, "cmd_utolsó");
-        EXPECT_EQ(page_of(preview), QStringLiteral("7 / 7"));
+        EXPECT_EQ(page_of(preview), u"7 / 7"_s);
         EXPECT_FALSE(control<QPushButton>(preview, "cmd_utolsó")->isEnabled());
         EXPECT_FALSE(control<QPushButton>(preview, "cmd_következő")->isEnabled());
         press(preview, "cmd_előző");
-        EXPECT_EQ(page_of(preview), QStringLiteral("6 / 7"));
+        EXPECT_EQ(page_of(preview), u"6 / 7"_s);
         press(preview, "cmd_első");
-        EXPECT_EQ(page_of(preview), QStringLiteral("1 / 7"));
+        EXPECT_EQ(page_of(preview), u"1 / 7"_s);
         view(preview)->setFocus();
         press_key(preview, Qt::Key_PageDown);
         press_key(preview, Qt::Key_PageDown);
-        EXPECT_EQ(page_of(preview), QStringLiteral("3 / 7"));
+        EXPECT_EQ(page_of(preview), u"3 / 7"_s);
         press_key(preview, Qt::Key_PageUp);
-        EXPECT_EQ(page_of(preview), QStringLiteral("2 / 7"));
+        EXPECT_EQ(page_of(preview), u"2 / 7"_s);
         press_key(preview, Qt::Key_End);
-        EXPECT_EQ(page_of(preview), QStringLiteral("7 / 7"));
+        EXPECT_EQ(page_of(preview), u"7 / 7"_s);
         press_key(preview, Qt::Key_PageDown);
-        EXPECT_EQ(page_of(preview), QStringLiteral("7 / 7"));
+        EXPECT_EQ(page_of(preview), u"7 / 7"_s);
         press_key(preview, Qt::Key_Home);
         EXPECT_EQ(view(preview)->page(), 0);
     });
@@ -188,7 +189,7 @@ TEST_F(PrintPreview, goes_to_the_page_whose_number_is_typed) {
         auto *number = control<QSpinBox>(preview, "UpDown_oldal");
         number->setFocus();
         number->selectAll();
-        QTest::keyClicks(number, QStringLiteral("5"));
+        QTest::keyClicks(number, u"5"_s);
         QTest::keyClick(number, Qt::Key_Return);
         EXPECT_EQ(view(preview)->page(), 4);
     });
@@ -253,9 +254,9 @@ TEST_F(PrintPreview, is_turned_and_zoomed_by_the_wheel) {
         };
         wheel(-120, Qt::NoModifier);
         wheel(-120, Qt::NoModifier);
-        EXPECT_EQ(page_of(preview), QStringLiteral("3 / 7"));
+        EXPECT_EQ(page_of(preview), u"3 / 7"_s);
         wheel(120, Qt::NoModifier);
-        EXPECT_EQ(page_of(preview), QStringLiteral("2 / 7"));
+        EXPECT_EQ(page_of(preview), u"2 / 7"_s);
         const double whole = page->scale();
         wheel(120, Qt::ControlModifier);
         EXPECT_DOUBLE_EQ(page->scale(), 1.25 * whole);
@@ -311,7 +312,7 @@ TEST_F(PrintPreview, of_nothing_is_refused_with_a_message) {
 
     click("cmd_nyomtatásikép");
 
-    EXPECT_THAT(boxes_.told, ElementsAre(QStringLiteral("Nincs mit nyomtatni: a szószedet üres.")));
+    EXPECT_THAT(boxes_.told, ElementsAre(u"Nincs mit nyomtatni: a szószedet üres."_s));
     EXPECT_TRUE(window_->isVisible());
 }
 
@@ -320,9 +321,9 @@ TEST_F(PrintPreview, that_takes_long_can_be_cancelled) {
     time_step_ = std::chrono::milliseconds(50);
     start();
     QTimer::singleShot(0, window_.get(), [this] {
-        auto *progress = window_->findChild<QProgressDialog *>(QStringLiteral("haladás"));
+        auto *progress = window_->findChild<QProgressDialog *>(u"haladás"_s);
         ASSERT_NE(progress, nullptr);
-        EXPECT_EQ(progress->labelText(), QStringLiteral("A nyomtatási kép készül…"));
+        EXPECT_EQ(progress->labelText(), u"A nyomtatási kép készül…"_s);
         progress->cancel();
     });
 
@@ -338,10 +339,10 @@ TEST_F(PrintPreview, of_ten_thousand_and_one_pages_shows_the_last) {
     click("Option_nyomtatástípus(2)");
 
     in_preview([&](frm_nyomtatásikép &preview) {
-        EXPECT_EQ(page_of(preview), QStringLiteral("1 / 10001"));
+        EXPECT_EQ(page_of(preview), u"1 / 10001"_s);
         press(preview, "cmd_utolsó");
         press(preview, "cmd_előző");
-        EXPECT_EQ(page_of(preview), QStringLiteral("10000 / 10001"));
+        EXPECT_EQ(page_of(preview), u"10000 / 10001"_s);
         EXPECT_FALSE(ink(preview).isEmpty());
     });
 }

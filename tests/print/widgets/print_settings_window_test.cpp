@@ -7,6 +7,8 @@
 #include "support/print_fixture.h"
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using PrintSettings = PrintTest;
@@ -14,8 +16,8 @@ using PrintSettings = PrintTest;
 TEST_F(PrintSettings, has_every_control_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_nyomtatás"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Szószedet nyomtatása"));
+    EXPECT_EQ(window_->objectName(), u"frm_nyomtatás"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Szószedet nyomtatása"_s);
     const std::pair<const char *, const char *> buttons[] = {
         {"Check_dőlt", "Dőlt"},
         {"Check_félkövér", "Félkövér"},
@@ -29,16 +31,16 @@ TEST_F(PrintSettings, has_every_control_under_its_name_with_its_caption) {
         {"cmd_mégsem", "Mégsem"}};
     for (const auto &[name, caption] : buttons)
         EXPECT_EQ(control<QAbstractButton>(*window_, name)->text(), QString::fromUtf8(caption));
-    EXPECT_EQ(label("Label1"), QStringLiteral("Nyomtató:"));
-    EXPECT_EQ(label("Label2"), QStringLiteral("Betűtípus:"));
-    EXPECT_EQ(label("Label3"), QStringLiteral("Betűméret:"));
-    EXPECT_EQ(label("Label4"), QStringLiteral("Hasábok száma:"));
-    EXPECT_EQ(label("Label5(0)"), QStringLiteral("Így néz ki majd az első szópár a nyomtatásban:"));
-    EXPECT_EQ(label("Label5(1)"), QStringLiteral("Így néznek majd ki az ékezetes betűk a nyomtatásban:"));
-    EXPECT_EQ(control<QGroupBox>(*window_, "Frame1")->title(), QStringLiteral("A nyomtatás típusa"));
-    EXPECT_EQ(control<QGroupBox>(*window_, "Frame2")->title(), QStringLiteral("Tájolás"));
+    EXPECT_EQ(label("Label1"), u"Nyomtató:"_s);
+    EXPECT_EQ(label("Label2"), u"Betűtípus:"_s);
+    EXPECT_EQ(label("Label3"), u"Betűméret:"_s);
+    EXPECT_EQ(label("Label4"), u"Hasábok száma:"_s);
+    EXPECT_EQ(label("Label5(0)"), u"Így néz ki majd az első szópár a nyomtatásban:"_s);
+    EXPECT_EQ(label("Label5(1)"), u"Így néznek majd ki az ékezetes betűk a nyomtatásban:"_s);
+    EXPECT_EQ(control<QGroupBox>(*window_, "Frame1")->title(), u"A nyomtatás típusa"_s);
+    EXPECT_EQ(control<QGroupBox>(*window_, "Frame2")->title(), u"Tájolás"_s);
     EXPECT_EQ(control<QGroupBox>(*window_, "Frame_szószedetbeállítás")->title(),
-              QStringLiteral("A szószedet nyomtatásának beállításai"));
+              u"A szószedet nyomtatásának beállításai"_s);
     for (const char *name : {"Picture1(0)", "Picture1(1)", "pic_minta(0)", "pic_minta(1)"})
         EXPECT_FALSE(control<PictureBox>(*window_, name)->accessibleName().isEmpty()) << name;
     EXPECT_NE(control<QFrame>(*window_, "Picture_container"), nullptr);
@@ -47,11 +49,11 @@ TEST_F(PrintSettings, has_every_control_under_its_name_with_its_caption) {
 TEST_F(PrintSettings, begins_with_its_defaults) {
     start();
 
-    EXPECT_EQ(shown(), (QStringList{QStringLiteral("Second"), QStringLiteral("Liberation Serif"), QString(), QString(),
-                                    QStringLiteral("14"), QStringLiteral("1"), QStringLiteral("portrait")}));
+    EXPECT_EQ(shown(),
+              (QStringList{u"Second"_s, u"Liberation Serif"_s, QString(), QString(), u"14"_s, u"1"_s, u"portrait"_s}));
     EXPECT_TRUE(option("Option_nyomtatástípus(0)")->isChecked());
-    EXPECT_EQ(label("Label_betűméret"), QStringLiteral("14"));
-    EXPECT_EQ(label("Label_hasábszám"), QStringLiteral("1"));
+    EXPECT_EQ(label("Label_betűméret"), u"14"_s);
+    EXPECT_EQ(label("Label_hasábszám"), u"1"_s);
     EXPECT_TRUE(control<QLabel>(*window_, "Label_betűméret")->autoFillBackground());
     EXPECT_TRUE(control<QLabel>(*window_, "Label_hasábszám")->autoFillBackground());
 }
@@ -68,13 +70,12 @@ TEST_F(PrintSettings, gives_every_control_a_spoken_name) {
 // The printers.
 
 TEST_F(PrintSettings, lists_the_pdf_file_and_then_the_printers_in_the_systems_order_and_selects_the_last) {
-    printers_.installed = {QStringLiteral("Z"), QStringLiteral("A"), QStringLiteral("M")};
+    printers_.installed = {u"Z"_s, u"A"_s, u"M"_s};
 
     start();
 
-    EXPECT_EQ(entries(printers()),
-              (QStringList{QStringLiteral("PDF-fájl"), QStringLiteral("Z"), QStringLiteral("A"), QStringLiteral("M")}));
-    EXPECT_EQ(printers()->currentText(), QStringLiteral("M"));
+    EXPECT_EQ(entries(printers()), (QStringList{u"PDF-fájl"_s, u"Z"_s, u"A"_s, u"M"_s}));
+    EXPECT_EQ(printers()->currentText(), u"M"_s);
 }
 
 TEST_F(PrintSettings, offers_the_pdf_file_where_there_is_no_printer) {
@@ -82,37 +83,32 @@ TEST_F(PrintSettings, offers_the_pdf_file_where_there_is_no_printer) {
 
     start();
 
-    EXPECT_EQ(entries(printers()), QStringList(QStringLiteral("PDF-fájl")));
+    EXPECT_EQ(entries(printers()), QStringList(u"PDF-fájl"_s));
     EXPECT_FALSE(fonts()->currentText().isEmpty());
 }
 
 TEST_F(PrintSettings, lists_the_fonts_of_the_selected_printer_when_it_opens) {
-    printers_.fonts_of[QStringLiteral("Second")] = {QStringLiteral("B"), QStringLiteral("A")};
+    printers_.fonts_of[u"Second"_s] = {u"B"_s, u"A"_s};
 
     start();
 
-    EXPECT_EQ(entries(fonts()), (QStringList{QStringLiteral("B"), QStringLiteral("A")}));
+    EXPECT_EQ(entries(fonts()), (QStringList{u"B"_s, u"A"_s}));
 }
 
 TEST_F(PrintSettings, lists_a_font_that_several_entries_share_once) {
-    printers_.fonts_of[QString()] = {QStringLiteral("B"), QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("b"),
-                                     QStringLiteral("A")};
+    printers_.fonts_of[QString()] = {u"B"_s, u"A"_s, u"B"_s, u"b"_s, u"A"_s};
 
     start();
 
-    EXPECT_EQ(entries(fonts()), (QStringList{QStringLiteral("B"), QStringLiteral("A"), QStringLiteral("b")}));
+    EXPECT_EQ(entries(fonts()), (QStringList{u"B"_s, u"A"_s, u"b"_s}));
 }
 
 TEST_F(PrintSettings, selects_times_new_roman_ce_or_the_next_best_font) {
     const std::pair<QStringList, QString> all[] = {
-        {{QStringLiteral("Liberation Serif"), QStringLiteral("Times New Roman"), QStringLiteral("Times New Roman CE")},
-         QStringLiteral("Times New Roman CE")},
-        {{QStringLiteral("Liberation Serif"), QStringLiteral("Times New Roman"), QStringLiteral("Z")},
-         QStringLiteral("Times New Roman")},
-        {{QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans"), QStringLiteral("Liberation Serif"),
-          QStringLiteral("DejaVu Serif")},
-         QStringLiteral("Liberation Serif")},
-        {{QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans")}, QStringLiteral("DejaVu Sans")}};
+        {{u"Liberation Serif"_s, u"Times New Roman"_s, u"Times New Roman CE"_s}, u"Times New Roman CE"_s},
+        {{u"Liberation Serif"_s, u"Times New Roman"_s, u"Z"_s}, u"Times New Roman"_s},
+        {{u"DejaVu Sans"_s, u"Liberation Sans"_s, u"Liberation Serif"_s, u"DejaVu Serif"_s}, u"Liberation Serif"_s},
+        {{u"DejaVu Sans"_s, u"Liberation Sans"_s}, u"DejaVu Sans"_s}};
     for (const auto &[fonts_of_printer, selected] : all) {
         printers_.fonts_of[QString()] = fonts_of_printer;
 
@@ -123,15 +119,14 @@ TEST_F(PrintSettings, selects_times_new_roman_ce_or_the_next_best_font) {
 }
 
 TEST_F(PrintSettings, another_printer_brings_its_own_fonts_and_drops_the_chosen_one) {
-    printers_.fonts_of[QStringLiteral("First")] = {QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Serif"),
-                                                   QStringLiteral("Only of the first")};
+    printers_.fonts_of[u"First"_s] = {u"DejaVu Sans"_s, u"Liberation Serif"_s, u"Only of the first"_s};
     start();
     choose(fonts(), "DejaVu Sans");
 
     choose(printers(), "First");
 
     EXPECT_EQ(fonts()->count(), 3);
-    EXPECT_EQ(fonts()->currentText(), QStringLiteral("Liberation Serif"));
+    EXPECT_EQ(fonts()->currentText(), u"Liberation Serif"_s);
 }
 
 // The samples.
@@ -140,14 +135,14 @@ TEST_F(PrintSettings, samples_show_the_first_pair_and_the_accented_letters_in_th
     list_.pairs = pairs_of({{u"deer", u"őz, szarvas"}, {u"dog", u"kutya"}});
     start();
 
-    const QStringList texts{QStringLiteral("deer  -  őz, szarvas"), QStringLiteral("áéíóöőúüű ÁÉÍÓÖŐÚÜŰ")};
+    const QStringList texts{u"deer  -  őz, szarvas"_s, u"áéíóöőúüű ÁÉÍÓÖŐÚÜŰ"_s};
     for (int i = 0; i < 2; ++i) {
         const QRectF area = sample(i)->printed_area();
         const QSizeF expected = PictureBox::text_size(texts[i], sample(i)->font());
         EXPECT_NEAR(area.width(), expected.width(), 0.01);
         EXPECT_NEAR(area.left(), (sample(i)->inner_size().width() - expected.width()) / 2, 0.01);
         EXPECT_NEAR(area.top(), (sample(i)->inner_size().height() - expected.height()) / 2, 0.01);
-        EXPECT_EQ(sample(i)->font().families(), QStringList(QStringLiteral("Liberation Serif")));
+        EXPECT_EQ(sample(i)->font().families(), QStringList(u"Liberation Serif"_s));
         EXPECT_EQ(fonts::points(sample(i)->font()), 14);
     }
 }
@@ -156,8 +151,7 @@ TEST_F(PrintSettings, sample_of_an_empty_list_shows_the_hyphen_alone) {
     list_.pairs.clear();
     start();
 
-    EXPECT_NEAR(sample(0)->printed_area().width(),
-                PictureBox::text_size(QStringLiteral("  -  "), sample(0)->font()).width(), 0.01);
+    EXPECT_NEAR(sample(0)->printed_area().width(), PictureBox::text_size(u"  -  "_s, sample(0)->font()).width(), 0.01);
 }
 
 TEST_F(PrintSettings, samples_follow_every_choice_at_once) {
@@ -169,9 +163,9 @@ TEST_F(PrintSettings, samples_follow_every_choice_at_once) {
     EXPECT_TRUE(sample(1)->font().bold());
     QTest::keyClick(spin("UpDown_betűméret"), Qt::Key_Up);
     EXPECT_EQ(fonts::points(sample(0)->font()), 16);
-    EXPECT_EQ(label("Label_betűméret"), QStringLiteral("16"));
+    EXPECT_EQ(label("Label_betűméret"), u"16"_s);
     choose(fonts(), "DejaVu Sans");
-    EXPECT_EQ(sample(1)->font().families(), QStringList(QStringLiteral("DejaVu Sans")));
+    EXPECT_EQ(sample(1)->font().families(), QStringList(u"DejaVu Sans"_s));
     click("Check_dőlt");
     EXPECT_FALSE(sample(1)->font().italic());
     for (int i = 0; i < 2; ++i)
@@ -179,7 +173,7 @@ TEST_F(PrintSettings, samples_follow_every_choice_at_once) {
 }
 
 TEST_F(PrintSettings, samples_of_an_unusable_font_stay_in_the_one_they_had_and_go_on_with_the_rest) {
-    printers_.fonts_of[QString()] = {QStringLiteral("Liberation Serif"), QStringLiteral("There Is No Such Font")};
+    printers_.fonts_of[QString()] = {u"Liberation Serif"_s, u"There Is No Such Font"_s};
     start();
 
     choose(fonts(), "There Is No Such Font");
@@ -188,7 +182,7 @@ TEST_F(PrintSettings, samples_of_an_unusable_font_stay_in_the_one_they_had_and_g
 
     EXPECT_TRUE(boxes_.told.isEmpty());
     for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(sample(i)->font().families(), QStringList(QStringLiteral("Liberation Serif")));
+        EXPECT_EQ(sample(i)->font().families(), QStringList(u"Liberation Serif"_s));
         EXPECT_TRUE(sample(i)->font().bold());
         EXPECT_EQ(fonts::points(sample(i)->font()), 16);
         EXPECT_FALSE(sample(i)->printed_area().isEmpty());
@@ -215,13 +209,13 @@ TEST_F(PrintSettings, font_size_goes_from_8_to_50_in_steps_of_two) {
     auto *size = spin("UpDown_betűméret");
 
     QTest::keyClick(size, Qt::Key_Down);
-    EXPECT_EQ(label("Label_betűméret"), QStringLiteral("12"));
+    EXPECT_EQ(label("Label_betűméret"), u"12"_s);
     for (int i = 0; i < 30; ++i)
         QTest::keyClick(size, Qt::Key_Down);
-    EXPECT_EQ(label("Label_betűméret"), QStringLiteral("8"));
+    EXPECT_EQ(label("Label_betűméret"), u"8"_s);
     for (int i = 0; i < 30; ++i)
         QTest::keyClick(size, Qt::Key_Up);
-    EXPECT_EQ(label("Label_betűméret"), QStringLiteral("50"));
+    EXPECT_EQ(label("Label_betűméret"), u"50"_s);
     EXPECT_EQ(size->value(), 50);
 }
 
@@ -230,13 +224,13 @@ TEST_F(PrintSettings, columns_go_from_1_to_3) {
     auto *columns = spin("UpDown_hasábszám");
 
     QTest::keyClick(columns, Qt::Key_Up);
-    EXPECT_EQ(label("Label_hasábszám"), QStringLiteral("2"));
+    EXPECT_EQ(label("Label_hasábszám"), u"2"_s);
     for (int i = 0; i < 5; ++i)
         QTest::keyClick(columns, Qt::Key_Up);
-    EXPECT_EQ(label("Label_hasábszám"), QStringLiteral("3"));
+    EXPECT_EQ(label("Label_hasábszám"), u"3"_s);
     for (int i = 0; i < 5; ++i)
         QTest::keyClick(columns, Qt::Key_Down);
-    EXPECT_EQ(label("Label_hasábszám"), QStringLiteral("1"));
+    EXPECT_EQ(label("Label_hasábszám"), u"1"_s);
 }
 
 TEST_F(PrintSettings, picture_of_an_orientation_selects_it) {
@@ -278,15 +272,13 @@ TEST_F(PrintSettings, are_there_again_the_next_time_but_for_the_kind) {
 
     click("cmd_nyomtat");
     EXPECT_FALSE(window_->isVisible());
-    EXPECT_EQ(all_stored(),
-              (QStringList{QStringLiteral("First"), QStringLiteral("DejaVu Sans"), QStringLiteral("1"),
-                           QStringLiteral("1"), QStringLiteral("16"), QStringLiteral("2"), QStringLiteral("false")}));
+    EXPECT_EQ(all_stored(), (QStringList{u"First"_s, u"DejaVu Sans"_s, u"1"_s, u"1"_s, u"16"_s, u"2"_s, u"false"_s}));
     start();
 
     EXPECT_EQ(shown(), chosen);
     EXPECT_TRUE(option("Option_nyomtatástípus(0)")->isChecked());
-    EXPECT_EQ(label("Label_betűméret"), QStringLiteral("16"));
-    EXPECT_EQ(label("Label_hasábszám"), QStringLiteral("2"));
+    EXPECT_EQ(label("Label_betűméret"), u"16"_s);
+    EXPECT_EQ(label("Label_hasábszám"), u"2"_s);
     EXPECT_TRUE(sample(0)->font().bold());
 }
 
@@ -296,43 +288,42 @@ TEST_F(PrintSettings, store_the_defaults_in_the_forms_of_the_table) {
     click("cmd_nyomtat");
 
     EXPECT_EQ(all_stored(),
-              (QStringList{QStringLiteral("Second"), QStringLiteral("Liberation Serif"), QStringLiteral("0"),
-                           QStringLiteral("0"), QStringLiteral("14"), QStringLiteral("1"), QStringLiteral("true")}));
+              (QStringList{u"Second"_s, u"Liberation Serif"_s, u"0"_s, u"0"_s, u"14"_s, u"1"_s, u"true"_s}));
 }
 
 TEST_F(PrintSettings, the_pdf_file_is_remembered_like_a_printer) {
-    store("nyomtato", QStringLiteral("PDF-fájl"));
+    store("nyomtato", u"PDF-fájl"_s);
 
     start();
 
-    EXPECT_EQ(printers()->currentText(), QStringLiteral("PDF-fájl"));
+    EXPECT_EQ(printers()->currentText(), u"PDF-fájl"_s);
 }
 
 TEST_F(PrintSettings, stored_printer_and_font_that_are_gone_leave_the_selection) {
-    store("nyomtato", QStringLiteral("Gone"));
-    store("betutip", QStringLiteral("Gone, too"));
+    store("nyomtato", u"Gone"_s);
+    store("betutip", u"Gone, too"_s);
 
     start();
 
-    EXPECT_EQ(printers()->currentText(), QStringLiteral("Second"));
-    EXPECT_EQ(fonts()->currentText(), QStringLiteral("Liberation Serif"));
+    EXPECT_EQ(printers()->currentText(), u"Second"_s);
+    EXPECT_EQ(fonts()->currentText(), u"Liberation Serif"_s);
 }
 
 TEST_F(PrintSettings, stored_nothing_means_no_choice_even_of_a_printer_of_that_name) {
-    printers_.installed = {QStringLiteral("semmi"), QStringLiteral("Second")};
-    printers_.fonts_of[QString()] = {QStringLiteral("semmi"), QStringLiteral("Liberation Serif")};
-    store("nyomtato", QStringLiteral("semmi"));
-    store("betutip", QStringLiteral("semmi"));
+    printers_.installed = {u"semmi"_s, u"Second"_s};
+    printers_.fonts_of[QString()] = {u"semmi"_s, u"Liberation Serif"_s};
+    store("nyomtato", u"semmi"_s);
+    store("betutip", u"semmi"_s);
 
     start();
 
-    EXPECT_EQ(printers()->currentText(), QStringLiteral("Second"));
-    EXPECT_EQ(fonts()->currentText(), QStringLiteral("Liberation Serif"));
+    EXPECT_EQ(printers()->currentText(), u"Second"_s);
+    EXPECT_EQ(fonts()->currentText(), u"Liberation Serif"_s);
 }
 
 TEST_F(PrintSettings, of_several_printers_of_the_stored_name_the_last_is_selected) {
-    printers_.installed = {QStringLiteral("Twin"), QStringLiteral("Twin"), QStringLiteral("Other")};
-    store("nyomtato", QStringLiteral("Twin"));
+    printers_.installed = {u"Twin"_s, u"Twin"_s, u"Other"_s};
+    store("nyomtato", u"Twin"_s);
 
     start();
 
@@ -340,14 +331,13 @@ TEST_F(PrintSettings, of_several_printers_of_the_stored_name_the_last_is_selecte
 }
 
 TEST_F(PrintSettings, stored_printer_brings_its_fonts_before_the_stored_font_is_sought) {
-    printers_.fonts_of[QStringLiteral("First")] = {QStringLiteral("Only of the first"),
-                                                   QStringLiteral("Liberation Serif")};
-    store("nyomtato", QStringLiteral("First"));
-    store("betutip", QStringLiteral("Only of the first"));
+    printers_.fonts_of[u"First"_s] = {u"Only of the first"_s, u"Liberation Serif"_s};
+    store("nyomtato", u"First"_s);
+    store("betutip", u"Only of the first"_s);
 
     start();
 
-    EXPECT_EQ(fonts()->currentText(), QStringLiteral("Only of the first"));
+    EXPECT_EQ(fonts()->currentText(), u"Only of the first"_s);
 }
 
 TEST_F(PrintSettings, stored_size_and_columns_are_taken_as_stored) {
@@ -357,8 +347,8 @@ TEST_F(PrintSettings, stored_size_and_columns_are_taken_as_stored) {
     start();
 
     EXPECT_EQ(spin("UpDown_betűméret")->value(), 15);
-    EXPECT_EQ(label("Label_betűméret"), QStringLiteral("15"));
-    EXPECT_EQ(label("Label_hasábszám"), QStringLiteral("3"));
+    EXPECT_EQ(label("Label_betűméret"), u"15"_s);
+    EXPECT_EQ(label("Label_hasábszám"), u"3"_s);
     EXPECT_EQ(fonts::points(sample(0)->font()), 15);
 }
 
@@ -368,12 +358,9 @@ TEST_F(PrintSettings, keep_to_their_ranges_and_defaults_when_what_is_stored_is_n
         QVariant value;
         const char *spin;
         int expected;
-    } const all[] = {{"betumeret", 7, "UpDown_betűméret", 8},
-                     {"betumeret", 51, "UpDown_betűméret", 50},
-                     {"betumeret", QStringLiteral("big"), "UpDown_betűméret", 14},
-                     {"hasabszam", 0, "UpDown_hasábszám", 1},
-                     {"hasabszam", 4, "UpDown_hasábszám", 3},
-                     {"hasabszam", QString(), "UpDown_hasábszám", 1}};
+    } const all[] = {{"betumeret", 7, "UpDown_betűméret", 8},         {"betumeret", 51, "UpDown_betűméret", 50},
+                     {"betumeret", u"big"_s, "UpDown_betűméret", 14}, {"hasabszam", 0, "UpDown_hasábszám", 1},
+                     {"hasabszam", 4, "UpDown_hasábszám", 3},         {"hasabszam", QString(), "UpDown_hasábszám", 1}};
     for (const auto &[key, value, name, expected] : all) {
         store(key, value);
         load();
@@ -424,9 +411,9 @@ TEST_F(PrintSettings, is_gone_through_by_tab_in_the_order_of_reading) {
     printers()->setFocus();
 
     EXPECT_EQ(tab_order(*window_),
-              QStringLiteral("list_nyomtatók list_betűtípus Check_dőlt Check_félkövér UpDown_betűméret "
-                             "UpDown_hasábszám Option_nyomtatástípus(0) Option_tájolás(0) cmd_nyomtatásikép "
-                             "cmd_nyomtat cmd_mégsem"));
+              u"list_nyomtatók list_betűtípus Check_dőlt Check_félkövér UpDown_betűméret "
+              "UpDown_hasábszám Option_nyomtatástípus(0) Option_tájolás(0) cmd_nyomtatásikép "
+              "cmd_nyomtat cmd_mégsem"_s);
 }
 
 // The look.
@@ -467,7 +454,7 @@ TEST_F(PrintSettings, letters_of_its_buttons_are_three_points_smaller_than_would
 TEST_F(PrintSettings, takes_the_main_windows_style) {
     start();
 
-    EXPECT_EQ(check("Check_dőlt")->font().families(), QStringList(QStringLiteral("Times New Roman CE")));
+    EXPECT_EQ(check("Check_dőlt")->font().families(), QStringList(u"Times New Roman CE"_s));
     EXPECT_EQ(window_->háttérszín(), reference_.háttérszín());
 }
 

@@ -4,6 +4,8 @@
 
 #include "support/printing_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -16,11 +18,11 @@ TEST_F(Printing, sets_face_size_and_orientation_and_runs_the_chosen_layout) {
 
     print();
 
-    EXPECT_EQ(printers_.jobs.face, (PagePrinter::Face{QStringLiteral("Liberation Serif"), false, true}));
-    EXPECT_EQ(printers_.jobs.orders.join(u' '), QStringLiteral("size 14 landscape size 14 size 12 size 14 end"));
+    EXPECT_EQ(printers_.jobs.face, (PagePrinter::Face{u"Liberation Serif"_s, false, true}));
+    EXPECT_EQ(printers_.jobs.orders.join(u' '), u"size 14 landscape size 14 size 12 size 14 end"_s);
     ASSERT_EQ(printers_.jobs.texts.size(), 4);
-    EXPECT_EQ(printers_.jobs.texts[3].text, QStringLiteral("word2  -  szó2"));
-    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(QStringLiteral("Second névtelen szószedet")));
+    EXPECT_EQ(printers_.jobs.texts[3].text, u"word2  -  szó2"_s);
+    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(u"Second névtelen szószedet"_s));
     EXPECT_THAT(printers_.jobs.dropped, IsEmpty());
     EXPECT_TRUE(boxes_.told.isEmpty());
 }
@@ -48,7 +50,7 @@ TEST_F(Printing, of_each_kind_runs_one_layout_only) {
         print();
 
         EXPECT_EQ(printers_.jobs.pages, pages) << kind;
-        EXPECT_EQ(printers_.jobs.orders.count(QStringLiteral("end")), 1) << kind;
+        EXPECT_EQ(printers_.jobs.orders.count(u"end"_s), 1) << kind;
     }
 }
 
@@ -59,20 +61,20 @@ TEST_F(Printing, goes_to_the_selected_printer_under_the_lists_name) {
 
     print();
 
-    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(QStringLiteral("First állatok")));
-    EXPECT_EQ(printers_.jobs.texts.front().text, place("állatok.szs") + QStringLiteral(" szószedet"));
+    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(u"First állatok"_s));
+    EXPECT_EQ(printers_.jobs.texts.front().text, place("állatok.szs") + u" szószedet"_s);
 }
 
 TEST_F(Printing, on_a_printer_that_is_selected_when_it_has_gone_is_told_and_goes_to_no_other) {
     start();
     choose(printers(), "First");
-    printers_.installed = {QStringLiteral("First")};
+    printers_.installed = {u"First"_s};
     choose(printers(), "Second");
     const QStringList before = shown();
 
     print();
 
-    EXPECT_THAT(boxes_.told, ElementsAre(QStringLiteral("Second has vanished")));
+    EXPECT_THAT(boxes_.told, ElementsAre(u"Second has vanished"_s));
     EXPECT_THAT(printers_.jobs.begun, IsEmpty());
     expect_still_open(before);
 }
@@ -80,23 +82,23 @@ TEST_F(Printing, on_a_printer_that_is_selected_when_it_has_gone_is_told_and_goes
 TEST_F(Printing, goes_to_the_selected_printer_when_it_has_come_back) {
     start();
     choose(printers(), "First");
-    printers_.installed = {QStringLiteral("First")};
+    printers_.installed = {u"First"_s};
     choose(printers(), "Second");
-    printers_.installed = {QStringLiteral("First"), QStringLiteral("Second")};
+    printers_.installed = {u"First"_s, u"Second"_s};
 
     print();
 
-    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(QStringLiteral("Second névtelen szószedet")));
+    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(u"Second névtelen szószedet"_s));
 }
 
 TEST_F(Printing, on_a_printer_that_has_vanished_is_told_and_leaves_everything_as_it_is) {
     start();
     const QStringList before = shown();
-    printers_.installed = {QStringLiteral("First")};
+    printers_.installed = {u"First"_s};
 
     print();
 
-    EXPECT_THAT(boxes_.told, ElementsAre(QStringLiteral("Second has vanished")));
+    EXPECT_THAT(boxes_.told, ElementsAre(u"Second has vanished"_s));
     expect_still_open(before);
 }
 
@@ -110,7 +112,7 @@ TEST_F(Printing, that_fails_on_the_way_or_at_the_end_is_told_and_leaves_everythi
 
         print();
 
-        EXPECT_THAT(boxes_.told, ElementsAre(QStringLiteral("Second névtelen szószedet failed")));
+        EXPECT_THAT(boxes_.told, ElementsAre(u"Second névtelen szószedet failed"_s));
         EXPECT_THAT(printers_.jobs.handed_over, IsEmpty());
         expect_still_open(before);
     }
@@ -120,9 +122,9 @@ TEST_F(Printing, that_fails_on_the_way_or_at_the_end_is_told_and_leaves_everythi
 TEST_F(Printing, that_the_printer_refuses_is_told_and_can_be_tried_again) {
     start();
     const QStringList before = shown();
-    printers_.refusal = Failure{QStringLiteral("refused")};
+    printers_.refusal = Failure{u"refused"_s};
     print();
-    EXPECT_THAT(boxes_.told, ElementsAre(QStringLiteral("refused")));
+    EXPECT_THAT(boxes_.told, ElementsAre(u"refused"_s));
     expect_still_open(before);
     printers_.refusal.reset();
 
@@ -139,10 +141,10 @@ TEST_F(Printing, an_empty_list_one_pair_a_page_prints_nothing_and_says_so) {
 
     print();
 
-    EXPECT_THAT(boxes_.told, ElementsAre(QStringLiteral("Nincs mit nyomtatni: a szószedet üres.")));
+    EXPECT_THAT(boxes_.told, ElementsAre(u"Nincs mit nyomtatni: a szószedet üres."_s));
     EXPECT_THAT(printers_.jobs.begun, IsEmpty());
     EXPECT_FALSE(window_->isVisible());
-    EXPECT_EQ(stored("nyomtato"), QStringLiteral("Second"));
+    EXPECT_EQ(stored("nyomtato"), u"Second"_s);
 }
 
 TEST_F(Printing, an_empty_list_as_a_list_or_as_cards_prints_one_page) {
@@ -183,12 +185,12 @@ TEST_F(Printing, that_takes_long_shows_how_far_it_is_and_prints_all_the_same) {
     int maximum = 0;
     bool blocks = false;
     QTimer::singleShot(0, window_.get(), [&] {
-        auto *progress = window_->findChild<QProgressDialog *>(QStringLiteral("haladás"));
+        auto *progress = window_->findChild<QProgressDialog *>(u"haladás"_s);
         ASSERT_NE(progress, nullptr);
         value = progress->value();
         maximum = progress->maximum();
         blocks = progress->isModal();
-        EXPECT_EQ(progress->labelText(), QStringLiteral("A nyomtatás készül…"));
+        EXPECT_EQ(progress->labelText(), u"A nyomtatás készül…"_s);
     });
 
     print();
@@ -212,7 +214,7 @@ TEST_F(Printing, that_is_cancelled_prints_nothing_and_leaves_everything_as_it_is
 
         print();
 
-        EXPECT_EQ(progress_text_, QStringLiteral("A nyomtatás készül…"));
+        EXPECT_EQ(progress_text_, u"A nyomtatás készül…"_s);
         EXPECT_THAT(printers_.jobs.handed_over, IsEmpty());
         EXPECT_TRUE(boxes_.told.isEmpty());
         expect_still_open(before);
@@ -231,8 +233,8 @@ TEST_F(PrintingIntoFile, proposes_a_name_beside_the_lists_file) {
 
     EXPECT_THAT(dialogs_.proposals, ElementsAre(place("állatok.pdf")));
     EXPECT_TRUE(is_whole_pdf(place("other.pdf")));
-    EXPECT_THAT(files(), ElementsAre(QStringLiteral("other.pdf")));
-    EXPECT_EQ(stored("nyomtato"), QStringLiteral("PDF-fájl"));
+    EXPECT_THAT(files(), ElementsAre(u"other.pdf"_s));
+    EXPECT_EQ(stored("nyomtato"), u"PDF-fájl"_s);
     EXPECT_FALSE(window_->isVisible());
 }
 
@@ -250,7 +252,7 @@ TEST_F(PrintingIntoFile, appends_the_extension_when_it_is_missing) {
 
     print();
 
-    EXPECT_THAT(files(), ElementsAre(QStringLiteral("list.pdf")));
+    EXPECT_THAT(files(), ElementsAre(u"list.pdf"_s));
 }
 
 TEST_F(PrintingIntoFile, that_is_given_no_name_leaves_everything_as_it_is) {
@@ -272,9 +274,8 @@ TEST_F(PrintingIntoFile, asks_before_it_overwrites_a_file) {
 
     print();
 
-    EXPECT_THAT(boxes_.asked, ElementsAre(QStringLiteral("Fájl felülírása|A(z) „%1” fájl már létezik. "
-                                                         "Felülírja?|yes no")
-                                              .arg(QDir::toNativeSeparators(place("old.pdf")))));
+    EXPECT_THAT(boxes_.asked, ElementsAre(u"Fájl felülírása|A(z) „%1” fájl már létezik. "
+                                          "Felülírja?|yes no"_s.arg(QDir::toNativeSeparators(place("old.pdf")))));
     EXPECT_EQ(read_file(place("old.pdf")), QByteArray("old"));
     EXPECT_TRUE(is_whole_pdf(place("new.pdf")));
 }
@@ -297,8 +298,8 @@ TEST_F(PrintingIntoFile, that_cannot_be_written_is_told_and_leaves_everything_as
 
     print();
 
-    EXPECT_THAT(boxes_.told, ElementsAre(QStringLiteral("A(z) „%1” fájl nem írható: a mappa nem létezik.")
-                                             .arg(QDir::toNativeSeparators(place("nowhere/list.pdf")))));
+    EXPECT_THAT(boxes_.told, ElementsAre(u"A(z) „%1” fájl nem írható: a mappa nem létezik."_s.arg(
+                                 QDir::toNativeSeparators(place("nowhere/list.pdf")))));
     expect_still_open(before);
 }
 
@@ -315,7 +316,7 @@ TEST_F(PrintingIntoFile, that_is_cancelled_leaves_an_old_file_as_it_was) {
     print();
 
     EXPECT_EQ(read_file(place("old.pdf")), QByteArray("old"));
-    EXPECT_THAT(files(), ElementsAre(QStringLiteral("old.pdf")));
+    EXPECT_THAT(files(), ElementsAre(u"old.pdf"_s));
     expect_still_open(before);
 }
 

@@ -5,6 +5,8 @@
 #include "print/font_choice.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The toolkit's printers where no print server runs.
@@ -25,13 +27,13 @@ TEST_F(ToolkitsPrinters, have_the_fonts_of_the_system) {
 }
 
 TEST_F(ToolkitsPrinters, tell_that_a_printer_has_gone) {
-    const PrintJobResult result = printers_.print(QStringLiteral("Gone"), QStringLiteral("title"));
+    const PrintJobResult result = printers_.print(u"Gone"_s, u"title"_s);
 
     const auto *failure = std::get_if<Failure>(&result);
     ASSERT_NE(failure, nullptr);
     EXPECT_EQ(failure->sentence,
-              QStringLiteral("A(z) „Gone” nyomtatóval nem sikerült nyomtatni: a nyomtató nem található, "
-                             "vagy a nyomtatókiszolgáló nem fut."));
+              u"A(z) „Gone” nyomtatóval nem sikerült nyomtatni: a nyomtató nem található, "
+              "vagy a nyomtatókiszolgáló nem fut."_s);
 }
 
 TEST_F(ToolkitsPrinters, show_pages_like_those_of_a_pdf_file) {

@@ -5,9 +5,11 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 UnreadableFile::UnreadableFile(const QString &path) : path_(path) {
     // The memory of a process opens, but its first page cannot be read.
-    if (!QFile::link(QStringLiteral("/proc/self/mem"), path_))
+    if (!QFile::link(u"/proc/self/mem"_s, path_))
         qFatal("cannot make %s", qPrintable(path_));
 }
 

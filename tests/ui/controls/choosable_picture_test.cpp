@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QtTest/QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ChoosablePictureTest : public testing::Test {
@@ -83,7 +85,7 @@ TEST_F(ChoosablePictureTest, is_chosen_by_space_in_both_modes) {
 }
 
 TEST_F(ChoosablePictureTest, is_not_chosen_by_the_repeats_of_space_nor_by_other_keys) {
-    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
     QApplication::sendEvent(picture_, &repeat);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_A})
         QTest::keyClick(picture_, key);

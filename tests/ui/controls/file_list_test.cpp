@@ -5,6 +5,8 @@
 
 #include "support/file_list_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST_F(FileList, shows_the_files_that_match_the_pattern_in_small_letters_and_capitals) {
@@ -37,7 +39,7 @@ TEST_F(FileList, orders_accented_letters_beside_those_without_an_accent) {
 
 TEST_F(FileList, shows_no_folders) {
     make("hang.wav");
-    QDir(folder_.path()).mkdir(QStringLiteral("mappa.wav"));
+    QDir(folder_.path()).mkdir(u"mappa.wav"_s);
 
     list_.set_folder(folder_.path());
 
@@ -59,7 +61,7 @@ TEST_F(FileList, gives_the_name_of_the_selected_file_and_its_path) {
 
     list_.select(1);
 
-    EXPECT_EQ(list_.file_name(), QStringLiteral("barack.wav"));
+    EXPECT_EQ(list_.file_name(), u"barack.wav"_s);
     EXPECT_EQ(list_.path_of(list_.file_name()), place("barack.wav"));
     EXPECT_EQ(list_.folder(), folder_.path());
 }
@@ -88,7 +90,7 @@ TEST_F(FileList, keeps_the_selected_file_selected_where_it_is_now) {
     list_.refresh_keeping_selection();
 
     EXPECT_EQ(list_.selected(), 2);
-    EXPECT_EQ(list_.file_name(), QStringLiteral("barack.wav"));
+    EXPECT_EQ(list_.file_name(), u"barack.wav"_s);
     EXPECT_EQ(selected_.count(), 0);
 }
 
@@ -122,7 +124,7 @@ TEST_F(FileList, tells_of_the_delete_key_and_leaves_the_file_alone) {
 
     EXPECT_EQ(deleted_.count(), 1);
     EXPECT_TRUE(QFile::exists(place("barack.wav")));
-    EXPECT_EQ(list_.file_name(), QStringLiteral("barack.wav"));
+    EXPECT_EQ(list_.file_name(), u"barack.wav"_s);
 }
 
 TEST_F(FileList, tells_once_of_a_delete_key_that_is_held_down) {
@@ -155,7 +157,7 @@ TEST_F(FileList, moves_its_selection_by_keys_as_any_list) {
 
     QTest::keyClick(&list_, Qt::Key_Down);
 
-    EXPECT_EQ(list_.file_name(), QStringLiteral("barack.wav"));
+    EXPECT_EQ(list_.file_name(), u"barack.wav"_s);
     EXPECT_EQ(selected_.count(), 2);
 }
 

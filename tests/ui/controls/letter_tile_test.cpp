@@ -11,6 +11,8 @@
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 [[nodiscard]] QFont letters_of(double points) {
@@ -80,7 +82,7 @@ class LetterTileMouse : public testing::Test {
         QApplication::sendEvent(&tile_, &event);
     }
 
-    LetterTile tile_{QStringLiteral("sz")};
+    LetterTile tile_{u"sz"_s};
     QSignalSpy pressed_{&tile_, &LetterTile::mouse_pressed};
     QSignalSpy moved_{&tile_, &LetterTile::mouse_moved};
 };
@@ -115,7 +117,7 @@ TEST_F(LetterTileMouse, stays_where_it_is) {
 }
 
 TEST_F(LetterTileMouse, shows_its_letter_as_it_is) {
-    LetterTile ampersand(QStringLiteral("&"));
+    LetterTile ampersand(u"&"_s);
     LetterTile blank(QString{});
     for (LetterTile *one : {&ampersand, &blank, &tile_}) {
         one->resize(60, 40);

@@ -12,6 +12,8 @@
 
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ListBoxTest : public testing::Test {
@@ -34,12 +36,12 @@ class ListBoxTest : public testing::Test {
 
 TEST_F(ListBoxTest, has_nothing_selected_at_first) {
     EXPECT_EQ(list_.count(), 3);
-    EXPECT_EQ(list_.item(1), QStringLiteral("barack"));
+    EXPECT_EQ(list_.item(1), u"barack"_s);
     EXPECT_EQ(list_.selected(), -1);
 }
 
 TEST_F(ListBoxTest, takes_other_items_at_once_and_selects_none_of_them) {
-    const QStringList others{QStringLiteral("dió"), QStringLiteral("eper")};
+    const QStringList others{u"dió"_s, u"eper"_s};
     list_.select(2);
     selected_.clear();
 
@@ -52,13 +54,13 @@ TEST_F(ListBoxTest, takes_other_items_at_once_and_selects_none_of_them) {
 }
 
 TEST_F(ListBoxTest, shows_its_own_tip_over_an_item_that_it_does_not_cut_off) {
-    list_.setToolTip(QStringLiteral("Gyümölcsök"));
+    list_.setToolTip(u"Gyümölcsök"_s);
     const QPoint at = list_.visualRect(list_.model()->index(0, 0)).center();
 
     QHelpEvent hover(QEvent::ToolTip, at, list_.viewport()->mapToGlobal(at));
     QApplication::sendEvent(list_.viewport(), &hover);
 
-    EXPECT_EQ(QToolTip::text(), QStringLiteral("Gyümölcsök"));
+    EXPECT_EQ(QToolTip::text(), u"Gyümölcsök"_s);
     QToolTip::hideText();
 }
 
@@ -144,12 +146,12 @@ TEST_F(ListBoxTest, keeps_an_item_of_a_million_letters_whole_and_shows_its_begin
 
 TEST_F(ListBoxTest, shows_a_column_of_a_model) {
     QStandardItemModel pairs;
-    pairs.appendRow({new QStandardItem(QStringLiteral("dog")), new QStandardItem(QStringLiteral("kutya"))});
-    pairs.appendRow({new QStandardItem(QStringLiteral("cat")), new QStandardItem(QStringLiteral("macska"))});
+    pairs.appendRow({new QStandardItem(u"dog"_s), new QStandardItem(u"kutya"_s)});
+    pairs.appendRow({new QStandardItem(u"cat"_s), new QStandardItem(u"macska"_s)});
     ListBox hungarian(&pairs, 1);
 
     EXPECT_EQ(hungarian.count(), 2);
-    EXPECT_EQ(hungarian.item(1), QStringLiteral("macska"));
+    EXPECT_EQ(hungarian.item(1), u"macska"_s);
     hungarian.select(1);
     EXPECT_EQ(hungarian.selected(), 1);
 }

@@ -6,6 +6,8 @@
 
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class PictureBoxTest : public testing::Test {
@@ -92,7 +94,7 @@ TEST_F(PictureBoxTest, takes_a_picture_off_for_a_null_one) {
 
 TEST_F(PictureBoxTest, keeps_its_picture_when_it_is_cleared) {
     box_.set_picture(plain({200, 100}, Qt::red));
-    box_.print_centred(QStringLiteral("szó"));
+    box_.print_centred(u"szó"_s);
 
     box_.clear();
 
@@ -104,15 +106,15 @@ TEST_F(PictureBoxTest, keeps_its_picture_when_it_is_cleared) {
 TEST_F(PictureBoxTest, prints_on_its_picture) {
     box_.set_picture(plain({200, 100}, Qt::white));
 
-    box_.print_centred(QStringLiteral("szó"));
+    box_.print_centred(u"szó"_s);
 
     EXPECT_FALSE(seen().isEmpty());
 }
 
 TEST_F(PictureBoxTest, prints_a_text_in_its_middle) {
-    box_.print_centred(QStringLiteral("szótár"));
+    box_.print_centred(u"szótár"_s);
 
-    const QSizeF text = PictureBox::text_size(QStringLiteral("szótár"), box_.font());
+    const QSizeF text = PictureBox::text_size(u"szótár"_s, box_.font());
     EXPECT_NEAR(box_.printed_area().left(), (3000 - text.width()) / 2, 0.001);
     EXPECT_NEAR(box_.printed_area().top(), (1500 - text.height()) / 2, 0.001);
     EXPECT_EQ(box_.printed_area().size(), text);
@@ -121,9 +123,9 @@ TEST_F(PictureBoxTest, prints_a_text_in_its_middle) {
 }
 
 TEST_F(PictureBoxTest, prints_a_text_of_several_lines_in_its_middle) {
-    box_.print_centred(QStringLiteral("egy nagyon\nhosszú\nszöveg"));
+    box_.print_centred(u"egy nagyon\nhosszú\nszöveg"_s);
 
-    const double line = PictureBox::text_size(QStringLiteral("x"), box_.font()).height();
+    const double line = PictureBox::text_size(u"x"_s, box_.font()).height();
     EXPECT_NEAR(box_.printed_area().height(), 3 * line, 0.001);
     EXPECT_NEAR(box_.printed_area().center().x(), 1500, 0.001);
     EXPECT_NEAR(box_.printed_area().center().y(), 750, 0.001);
@@ -132,7 +134,7 @@ TEST_F(PictureBoxTest, prints_a_text_of_several_lines_in_its_middle) {
 }
 
 TEST_F(PictureBoxTest, centres_the_lines_of_a_text_on_each_other) {
-    box_.print_centred(QStringLiteral("egy nagyon hosszú\ni"));
+    box_.print_centred(u"egy nagyon hosszú\ni"_s);
 
     const QImage image = box_.grab().toImage();
     const auto line_of_the_i = image.copy(0, 52, 200, 48);

@@ -8,6 +8,8 @@
 
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class UpDownTest : public testing::Test {
@@ -47,7 +49,7 @@ TEST_F(UpDownTest, counts_by_its_arrows_and_by_the_keyboard) {
     EXPECT_EQ(control_.value(), 3);
     QTest::keyClick(&control_, Qt::Key_Down);
     EXPECT_EQ(control_.value(), 2);
-    QTest::keyClicks(&control_, QStringLiteral("1"));
+    QTest::keyClicks(&control_, u"1"_s);
     EXPECT_EQ(control_.value(), 2);
 }
 

@@ -10,6 +10,8 @@
 
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FontSizedStyleTest : public testing::Test {
@@ -21,7 +23,7 @@ class FontSizedStyleTest : public testing::Test {
         return style_.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &button_);
     }
 
-    FontSizedStyle style_{QStyleFactory::create(QStringLiteral("fusion"))};
+    FontSizedStyle style_{QStyleFactory::create(u"fusion"_s)};
     QRadioButton button_;
 };
 
@@ -30,7 +32,7 @@ TEST_F(FontSizedStyleTest, draws_larger_circles_beside_larger_letters) {
 }
 
 TEST_F(FontSizedStyleTest, never_draws_smaller_circles_than_the_desktop_does) {
-    const std::unique_ptr<QStyle> desktop(QStyleFactory::create(QStringLiteral("fusion")));
+    const std::unique_ptr<QStyle> desktop(QStyleFactory::create(u"fusion"_s));
 
     EXPECT_EQ(circle_beside(5), desktop->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &button_));
 }

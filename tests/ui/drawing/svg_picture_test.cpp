@@ -5,10 +5,12 @@
 #include <QImage>
 #include <QString>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Red, with a blue right half; without a background below its middle. In the build for Windows a recorded drawing.
-const QString file = QStringLiteral(":/halves.svg");
+const QString file = u":/halves.svg"_s;
 
 TEST(SvgPicture, has_the_size_in_pixels_of_the_screen) {
     for (const double ratio : {1.0, 1.5, 2.0}) {

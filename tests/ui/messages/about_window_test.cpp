@@ -8,13 +8,15 @@
 #include "support/message_fixture.h"
 #include "ui/messages/system_description.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class AboutWindow : public MessageTest {
   protected:
     void load() {
-        window_ = std::make_unique<frmAbout>(fitting_, main_window_, QStringLiteral("Zimbora"),
-                                             QStringLiteral("1.20.3"), [this] { ++asked_for_system_; });
+        window_ = std::make_unique<frmAbout>(fitting_, main_window_, u"Zimbora"_s, u"1.20.3"_s,
+                                             [this] { ++asked_for_system_; });
     }
 
     void show(const std::function<void()> &look) {
@@ -33,19 +35,18 @@ class AboutWindow : public MessageTest {
 TEST_F(AboutWindow, names_the_program_and_its_version) {
     load();
 
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("About Zimbora"));
-    EXPECT_EQ(text("lblTitle"), QStringLiteral("Angol-Magyar, Magyar-Angol Szótár"));
-    EXPECT_EQ(text("lblVersion"), QStringLiteral("Version: 1.20.3"));
+    EXPECT_EQ(window_->windowTitle(), u"About Zimbora"_s);
+    EXPECT_EQ(text("lblTitle"), u"Angol-Magyar, Magyar-Angol Szótár"_s);
+    EXPECT_EQ(text("lblVersion"), u"Version: 1.20.3"_s);
 }
 
 TEST_F(AboutWindow, says_what_the_program_is_and_where_it_comes_from) {
     load();
 
-    EXPECT_EQ(text("lblDescription(0)"),
-              QStringLiteral("Szótárprogram szószedetkészítési lehetőséggel, szótanuló feladatokkal. "));
-    EXPECT_TRUE(text("lblDescription(1)").contains(QStringLiteral("Zimbora fejlesztői")));
-    EXPECT_TRUE(text("lblDescription(2)").contains(QStringLiteral("GNU GPL")));
-    EXPECT_TRUE(text("lblDescription(3)").contains(QStringLiteral("FreeDict")));
+    EXPECT_EQ(text("lblDescription(0)"), u"Szótárprogram szószedetkészítési lehetőséggel, szótanuló feladatokkal. "_s);
+    EXPECT_TRUE(text("lblDescription(1)").contains(u"Zimbora fejlesztői"_s));
+    EXPECT_TRUE(text("lblDescription(2)").contains(u"GNU GPL"_s));
+    EXPECT_TRUE(text("lblDescription(3)").contains(u"FreeDict"_s));
 }
 
 TEST_F(AboutWindow, has_the_programs_icon_and_the_colour_of_all_windows) {
@@ -77,7 +78,7 @@ TEST_F(AboutWindow, is_left_by_its_button_by_escape_and_by_enter) {
 TEST_F(AboutWindow, has_ok_under_the_keyboard_and_asks_for_the_system_by_its_other_button) {
     show([this] {
         EXPECT_EQ(window_->focusWidget(), button("cmdOK"));
-        EXPECT_EQ(button("cmdSysInfo")->text(), QStringLiteral("&System Info..."));
+        EXPECT_EQ(button("cmdSysInfo")->text(), u"&System Info..."_s);
 
         QTest::mouseClick(button("cmdSysInfo"), Qt::LeftButton);
 
@@ -110,19 +111,17 @@ TEST_F(AboutWindow, has_everything_inside_with_whole_captions_on_every_screen) {
 }
 
 TEST(SystemDescription, names_program_system_toolkit_screens_and_folders) {
-    const QString text = rendszerleírás(QStringLiteral("Zimbora 1.20.3"), QStringLiteral("Mappa: /szavak"));
+    const QString text = rendszerleírás(u"Zimbora 1.20.3"_s, u"Mappa: /szavak"_s);
 
     const QStringList lines = text.split(u'\n');
-    EXPECT_EQ(lines.first(), QStringLiteral("Program: Zimbora 1.20.3"));
-    EXPECT_EQ(lines.last(), QStringLiteral("Mappa: /szavak"));
-    EXPECT_TRUE(lines.contains(QStringLiteral("Rendszer: ") + QSysInfo::prettyProductName()));
-    EXPECT_TRUE(
-        lines.contains(QStringLiteral("Rendszermag: ") + QSysInfo::kernelType() + u' ' + QSysInfo::kernelVersion()));
-    EXPECT_TRUE(lines.contains(QStringLiteral("Processzor: ") + QSysInfo::currentCpuArchitecture()));
-    EXPECT_TRUE(lines.contains(QStringLiteral("Qt: %1 (offscreen)").arg(QString::fromLatin1(qVersion()))));
+    EXPECT_EQ(lines.first(), u"Program: Zimbora 1.20.3"_s);
+    EXPECT_EQ(lines.last(), u"Mappa: /szavak"_s);
+    EXPECT_TRUE(lines.contains(u"Rendszer: "_s + QSysInfo::prettyProductName()));
+    EXPECT_TRUE(lines.contains(u"Rendszermag: "_s + QSysInfo::kernelType() + u' ' + QSysInfo::kernelVersion()));
+    EXPECT_TRUE(lines.contains(u"Processzor: "_s + QSysInfo::currentCpuArchitecture()));
+    EXPECT_TRUE(lines.contains(u"Qt: %1 (offscreen)"_s.arg(QString::fromLatin1(qVersion()))));
     const QSize screen = QGuiApplication::primaryScreen()->size();
-    EXPECT_TRUE(
-        text.contains(QStringLiteral("\n1. képernyő: %1 × %2 képpont").arg(screen.width()).arg(screen.height())));
+    EXPECT_TRUE(text.contains(u"\n1. képernyő: %1 × %2 képpont"_s.arg(screen.width()).arg(screen.height())));
 }
 
 }  // namespace

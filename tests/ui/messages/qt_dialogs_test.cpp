@@ -15,6 +15,8 @@
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class QtDialogs : public testing::Test {
@@ -36,13 +38,13 @@ class QtDialogs : public testing::Test {
         QTest::mouseClick(box.button(button), Qt::LeftButton);
     }
 
-    [[nodiscard]] Answer ask_yes_no() { return boxes_.ask_yes_no(QStringLiteral("Cím"), QStringLiteral("Kérdés?")); }
+    [[nodiscard]] Answer ask_yes_no() { return boxes_.ask_yes_no(u"Cím"_s, u"Kérdés?"_s); }
 
     /// The window that a box stands in front of.
     [[nodiscard]] const QWidget *window_behind_a_box() {
         const QWidget *behind = nullptr;
         when_open([&](QMessageBox &box) { behind = box.parentWidget(); });
-        boxes_.tell(QStringLiteral("Üzenet."));
+        boxes_.tell(u"Üzenet."_s);
         return behind;
     }
 
@@ -91,7 +93,7 @@ TEST_F(QtDialogs, question_with_cancel_is_cancelled_by_escape_and_by_its_frame) 
                         [](QMessageBox &box) { press(box, QMessageBox::Cancel); }};
     for (const Act &cancel : ways) {
         when_open(cancel);
-        EXPECT_EQ(boxes_.ask_yes_no_cancel(QStringLiteral("Cím"), QStringLiteral("Kérdés?")), Answer::cancel);
+        EXPECT_EQ(boxes_.ask_yes_no_cancel(u"Cím"_s, u"Kérdés?"_s), Answer::cancel);
     }
 }
 
@@ -143,9 +145,9 @@ class QtFileDialog : public testing::Test {
 };
 
 TEST_F(QtFileDialog, for_a_pdf_offers_its_kind_of_files_and_the_proposed_name) {
-    const QString proposal = root_.filePath(QStringLiteral("list.pdf"));
+    const QString proposal = root_.filePath(u"list.pdf"_s);
     when_open([&](const QFileDialog &dialog) {
-        EXPECT_EQ(dialog.nameFilters(), QStringList(QStringLiteral("PDF-fájl (*.pdf)")));
+        EXPECT_EQ(dialog.nameFilters(), QStringList(u"PDF-fájl (*.pdf)"_s));
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
         EXPECT_EQ(dialog.selectedFiles(), QStringList(proposal));
     });
@@ -154,15 +156,14 @@ TEST_F(QtFileDialog, for_a_pdf_offers_its_kind_of_files_and_the_proposed_name) {
 }
 
 TEST_F(QtFileDialog, for_a_word_list_offers_its_kind_of_files) {
-    when_open([](const QFileDialog &dialog) {
-        EXPECT_EQ(dialog.nameFilters(), QStringList(QStringLiteral("Szószedet fájl (*?szs)")));
-    });
+    when_open(
+        [](const QFileDialog &dialog) { EXPECT_EQ(dialog.nameFilters(), QStringList(u"Szószedet fájl (*?szs)"_s)); });
 
-    EXPECT_EQ(dialogs_.save(root_.filePath(QStringLiteral("list.szs"))), std::nullopt);
+    EXPECT_EQ(dialogs_.save(root_.filePath(u"list.szs"_s)), std::nullopt);
 }
 
 TEST_F(QtFileDialog, returns_the_name_as_it_was_chosen_and_does_not_ask_about_a_file_that_exists) {
-    const QString proposal = root_.filePath(QStringLiteral("list.pdf"));
+    const QString proposal = root_.filePath(u"list.pdf"_s);
     write_file(proposal, "old");
     when_open([](QFileDialog &dialog) {
         QTest::keyClick(dialog.findChild<QLineEdit *>(), Qt::Key_Return);

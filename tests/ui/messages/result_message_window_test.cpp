@@ -8,15 +8,16 @@
 
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QStringList four_lines{QStringLiteral("Ehhez a játékhoz "), QStringLiteral("legalább két szót"),
-                             QStringLiteral("kell felvenni"), QStringLiteral("a szószedetbe!")};
+const QStringList four_lines{u"Ehhez a játékhoz "_s, u"legalább két szót"_s, u"kell felvenni"_s, u"a szószedetbe!"_s};
 
 class ResultMessageWindow : public testing::Test {
   protected:
     ResultMessageWindow() {
-        reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár"));
+        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
         main_window_.háttérszínbeállít(Qt::cyan);
     }
 
@@ -31,18 +32,18 @@ class ResultMessageWindow : public testing::Test {
 
     [[nodiscard]] PictureBox *strip(int i) const {
         for (QWidget *control : window_.vezérlők()) {
-            if (control->objectName() == QStringLiteral("Pic_szöveg(%1)").arg(i))
+            if (control->objectName() == u"Pic_szöveg(%1)"_s.arg(i))
                 return dynamic_cast<PictureBox *>(control);
         }
         return nullptr;
     }
 
-    [[nodiscard]] QPushButton *ok() const { return window_.findChild<QPushButton *>(QStringLiteral("cmd_ok")); }
+    [[nodiscard]] QPushButton *ok() const { return window_.findChild<QPushButton *>(u"cmd_ok"_s); }
 
     frm_referencia reference_;
-    ablak main_window_{QStringLiteral("szótár")};
+    ablak main_window_{u"szótár"_s};
     Module_hasznos fitting_{reference_, [] { return QRectF(0, 0, 1024 * 15, 768 * 15); }};
-    üzenet window_{fitting_, main_window_, QStringLiteral("/szavak/a.szs")};
+    üzenet window_{fitting_, main_window_, u"/szavak/a.szs"_s};
 };
 
 TEST_F(ResultMessageWindow, stacks_four_strips_of_equal_height_without_gaps) {
@@ -58,7 +59,7 @@ TEST_F(ResultMessageWindow, stacks_four_strips_of_equal_height_without_gaps) {
 }
 
 TEST_F(ResultMessageWindow, is_just_tall_enough_for_one_line_with_the_button_under_it) {
-    show(2000, {QStringLiteral("dog - kutya")}, [this] {
+    show(2000, {u"dog - kutya"_s}, [this] {
         const double ratio = window_.hely(strip(0)).top() / 120;
         EXPECT_NEAR(window_.hely(ok()).top() - window_.hely(strip(0)).bottom(), 120 * ratio, 0.001);
         EXPECT_NEAR(window_.belsőmagasság(), window_.hely(ok()).bottom() + 120, 0.001);
@@ -68,14 +69,13 @@ TEST_F(ResultMessageWindow, is_just_tall_enough_for_one_line_with_the_button_und
 TEST_F(ResultMessageWindow, has_its_button_in_the_middle_below_the_lines) {
     show(2000, four_lines, [this] {
         EXPECT_NEAR(window_.hely(ok()).center().x(), window_.belsőszélesség() / 2, 120);
-        EXPECT_EQ(ok()->text(), QStringLiteral("Ok"));
+        EXPECT_EQ(ok()->text(), u"Ok"_s);
     });
 }
 
 TEST_F(ResultMessageWindow, names_the_word_list_in_its_title) {
-    show(2000, four_lines, [this] {
-        EXPECT_EQ(window_.windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - /szavak/a.szs szószedet"));
-    });
+    show(2000, four_lines,
+         [this] { EXPECT_EQ(window_.windowTitle(), u"Zimbora Angol-Magyar Szótár - /szavak/a.szs szószedet"_s); });
 }
 
 TEST_F(ResultMessageWindow, takes_seven_tenths_of_the_screen_in_its_tighter_direction) {
@@ -88,7 +88,7 @@ TEST_F(ResultMessageWindow, takes_seven_tenths_of_the_screen_in_its_tighter_dire
 
 TEST_F(ResultMessageWindow, gives_its_timer_the_time_it_was_passed) {
     show(3000, four_lines, [this] {
-        const auto *timer = window_.findChild<QTimer *>(QStringLiteral("Timer1"));
+        const auto *timer = window_.findChild<QTimer *>(u"Timer1"_s);
         EXPECT_EQ(timer->interval(), 3000);
         EXPECT_TRUE(timer->isActive());
     });

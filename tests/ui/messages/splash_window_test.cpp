@@ -5,12 +5,14 @@
 #include "support/message_fixture.h"
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SplashWindow : public MessageTest {
   protected:
-    void load(const QString &system = QStringLiteral("Debian GNU/Linux 12 (bookworm)")) {
-        window_ = std::make_unique<FrmFolyamat>(fitting_, QStringLiteral("1.20.3"), system);
+    void load(const QString &system = u"Debian GNU/Linux 12 (bookworm)"_s) {
+        window_ = std::make_unique<FrmFolyamat>(fitting_, u"1.20.3"_s, system);
     }
 
     [[nodiscard]] QString text(const char *name) const { return control<QLabel>(*window_, name)->text(); }
@@ -23,18 +25,18 @@ class SplashWindow : public MessageTest {
 TEST_F(SplashWindow, names_the_program_its_version_and_the_system) {
     load();
 
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora"));
-    EXPECT_EQ(text("lblProductName"), QStringLiteral("Zimbora"));
-    EXPECT_EQ(text("lblCompanyProduct"), QStringLiteral("Angol-Magyar, Magyar-Angol Szótár"));
-    EXPECT_EQ(text("lblVersion"), QStringLiteral("1.20.3 verzió"));
-    EXPECT_EQ(text("lblPlatform"), QStringLiteral("Debian GNU/Linux 12 (bookworm)"));
-    EXPECT_EQ(text("lblCompany"), QStringLiteral("A Zimbora fejlesztői"));
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora"_s);
+    EXPECT_EQ(text("lblProductName"), u"Zimbora"_s);
+    EXPECT_EQ(text("lblCompanyProduct"), u"Angol-Magyar, Magyar-Angol Szótár"_s);
+    EXPECT_EQ(text("lblVersion"), u"1.20.3 verzió"_s);
+    EXPECT_EQ(text("lblPlatform"), u"Debian GNU/Linux 12 (bookworm)"_s);
+    EXPECT_EQ(text("lblCompany"), u"A Zimbora fejlesztői"_s);
 }
 
 TEST_F(SplashWindow, says_why_the_first_start_takes_longer) {
     load();
 
-    EXPECT_EQ(text("lblMaker"), QStringLiteral("A programkönyvtár első indításkor készül el."));
+    EXPECT_EQ(text("lblMaker"), u"A programkönyvtár első indításkor készül el."_s);
     EXPECT_EQ(control<QLabel>(*window_, "lblMaker")->font().families(), QStringList{fonts::times_new_roman_ce});
 }
 
@@ -75,9 +77,9 @@ TEST_F(SplashWindow, has_whole_texts_on_screens_of_any_width) {
 }
 
 TEST_F(SplashWindow, shows_a_long_name_of_the_system_whole) {
-    load(QStringLiteral("Some Very Long Distribution Name 2026.11 LTS (codename of several words)"));
+    load(u"Some Very Long Distribution Name 2026.11 LTS (codename of several words)"_s);
 
-    expect_whole_caption(*window_, QStringLiteral("lblPlatform"));
+    expect_whole_caption(*window_, u"lblPlatform"_s);
 }
 
 TEST_F(SplashWindow, goes_with_its_object_and_blocks_nothing) {
@@ -89,7 +91,7 @@ TEST_F(SplashWindow, goes_with_its_object_and_blocks_nothing) {
     window_.reset();
 
     for (const QWidget *left : QApplication::topLevelWidgets())
-        EXPECT_NE(left->objectName(), QStringLiteral("FrmFolyamat"));
+        EXPECT_NE(left->objectName(), u"FrmFolyamat"_s);
 }
 
 }  // namespace

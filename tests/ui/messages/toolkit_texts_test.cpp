@@ -13,6 +13,8 @@
 
 #include "support/printing.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ToolkitTexts : public testing::Test {
@@ -23,9 +25,9 @@ class ToolkitTexts : public testing::Test {
 TEST_F(ToolkitTexts, of_dialog_buttons_are_hungarian) {
     const QDialogButtonBox box(QDialogButtonBox::Yes | QDialogButtonBox::No | QDialogButtonBox::Cancel);
 
-    EXPECT_EQ(box.button(QDialogButtonBox::Yes)->text(), QStringLiteral("&Igen"));
-    EXPECT_EQ(box.button(QDialogButtonBox::No)->text(), QStringLiteral("&Nem"));
-    EXPECT_EQ(box.button(QDialogButtonBox::Cancel)->text(), QStringLiteral("Mégse"));
+    EXPECT_EQ(box.button(QDialogButtonBox::Yes)->text(), u"&Igen"_s);
+    EXPECT_EQ(box.button(QDialogButtonBox::No)->text(), u"&Nem"_s);
+    EXPECT_EQ(box.button(QDialogButtonBox::Cancel)->text(), u"Mégse"_s);
 }
 
 TEST_F(ToolkitTexts, of_a_text_boxs_menu_are_hungarian) {
@@ -34,14 +36,14 @@ TEST_F(ToolkitTexts, of_a_text_boxs_menu_are_hungarian) {
 
     const QString undo = menu->actions().front()->text();
 
-    EXPECT_TRUE(undo.contains(QStringLiteral("isszavon"))) << undo.toStdString();
+    EXPECT_TRUE(undo.contains(u"isszavon"_s)) << undo.toStdString();
 }
 
 TEST_F(ToolkitTexts, of_the_file_dialogs_kinds_of_files_are_hungarian) {
     const QFileIconProvider kinds;
 
-    EXPECT_EQ(kinds.type(QFileInfo(QDir::tempPath())), QStringLiteral("Mappa"));
-    EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Unknown"), QStringLiteral("Ismeretlen"));
+    EXPECT_EQ(kinds.type(QFileInfo(QDir::tempPath())), u"Mappa"_s);
+    EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Unknown"), u"Ismeretlen"_s);
 }
 
 }  // namespace

@@ -7,12 +7,14 @@
 
 #include "ui/controls/picture_box.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(ColourCopy, gives_a_window_and_its_pictures_and_options_the_colour_of_the_main_window) {
-    ablak main_window(QStringLiteral("szótár"));
+    ablak main_window(u"szótár"_s);
     main_window.háttérszínbeállít(Qt::cyan);
-    ablak window(QStringLiteral("próba"));
+    ablak window(u"próba"_s);
     auto *picture = new PictureBox;
     auto *option = new QRadioButton;
     auto *label = new QLabel;

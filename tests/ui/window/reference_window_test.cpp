@@ -7,12 +7,14 @@
 #include "support/printing.h"
 #include "support/timers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(ReferenceWindow, runs_the_timer_of_the_music_once_a_second_from_the_start) {
     frm_referencia window;
 
-    EXPECT_EQ(window.Timer_zene().objectName(), QStringLiteral("Timer_zene"));
+    EXPECT_EQ(window.Timer_zene().objectName(), u"Timer_zene"_s);
     EXPECT_TRUE(window.Timer_zene().isActive());
     EXPECT_EQ(window.Timer_zene().interval(), 1000);
     EXPECT_FALSE(window.Timer_zene().isSingleShot());
@@ -31,9 +33,9 @@ TEST(ReferenceWindow, goes_on_ticking_after_a_tick) {
 TEST(ReferenceWindow, keeps_the_caption_that_it_is_given) {
     frm_referencia window;
 
-    window.feliratbeállít(QStringLiteral("induló.mid"));
+    window.feliratbeállít(u"induló.mid"_s);
 
-    EXPECT_EQ(window.felirat(), QStringLiteral("induló.mid"));
+    EXPECT_EQ(window.felirat(), u"induló.mid"_s);
     EXPECT_FALSE(window.isVisible());
 }
 

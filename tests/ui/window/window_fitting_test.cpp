@@ -16,13 +16,15 @@
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QRectF small_screen(0, 0, 1024 * 15, 768 * 15);
 
 class WindowFitting : public testing::Test {
   protected:
-    WindowFitting() { reference_.feliratbeállít(QStringLiteral("Zimbora Angol-Magyar Szótár")); }
+    WindowFitting() { reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s); }
 
     ~WindowFitting() override {
         for (QLabel *label : {first_.data(), second_.data()}) {
@@ -41,12 +43,12 @@ class WindowFitting : public testing::Test {
     frm_referencia reference_;
     Module_hasznos fitting_{reference_, [] { return small_screen; }};
     // They go with the window that a test places them on, or with the test.
-    QPointer<QLabel> first_ = new QLabel(QStringLiteral("első"));
-    QPointer<QLabel> second_ = new QLabel(QStringLiteral("második"));
+    QPointer<QLabel> first_ = new QLabel(u"első"_s);
+    QPointer<QLabel> second_ = new QLabel(u"második"_s);
 };
 
 TEST_F(WindowFitting, scales_a_tall_window_to_the_share_of_the_screens_height) {
-    ablak window(QStringLiteral("próba"), ablak::menü::van);
+    ablak window(u"próba"_s, ablak::menü::van);
     fill(window, 2000, 4880);
 
     const double ratio = fitting_.ablakméretez(window, 0.85);
@@ -62,7 +64,7 @@ TEST_F(WindowFitting, scales_a_tall_window_to_the_share_of_the_screens_height) {
 }
 
 TEST_F(WindowFitting, scales_a_wide_window_to_the_share_of_the_screens_width) {
-    ablak window(QStringLiteral("próba"));
+    ablak window(u"próba"_s);
     fill(window, 9880, 2000);
 
     const double ratio = fitting_.ablakméretez(window, 0.7);
@@ -71,8 +73,8 @@ TEST_F(WindowFitting, scales_a_wide_window_to_the_share_of_the_screens_width) {
 }
 
 TEST_F(WindowFitting, counts_hidden_controls_and_leaves_menus_out) {
-    ablak window(QStringLiteral("próba"), ablak::menü::van);
-    window.menüsor()->addMenu(QStringLiteral("&Fájl"));
+    ablak window(u"próba"_s, ablak::menü::van);
+    window.menüsor()->addMenu(u"&Fájl"_s);
     fill(window, 2000, 4880);
     second_->hide();
 
@@ -83,13 +85,13 @@ TEST_F(WindowFitting, counts_hidden_controls_and_leaves_menus_out) {
 }
 
 TEST_F(WindowFitting, styles_a_window_with_title_icon_colour_and_place) {
-    ablak window(QStringLiteral("próba"));
-    window.setWindowTitle(QStringLiteral("Tanulás"));
+    ablak window(u"próba"_s);
+    window.setWindowTitle(u"Tanulás"_s);
     fill(window, 2000, 2000);
 
     fitting_.ablakstílus(window);
 
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Tanulás"));
+    EXPECT_EQ(window.windowTitle(), u"Zimbora Angol-Magyar Szótár - Tanulás"_s);
     EXPECT_EQ(window.háttérszín(), reference_.háttérszín());
     EXPECT_EQ(window.windowIcon().cacheKey(), reference_.windowIcon().cacheKey());
     EXPECT_EQ(window.x(), qRound((15360 - 5000) / 2 / 15.0));
@@ -97,7 +99,7 @@ TEST_F(WindowFitting, styles_a_window_with_title_icon_colour_and_place) {
 }
 
 TEST_F(WindowFitting, gives_each_kind_of_control_its_type_face) {
-    ablak window(QStringLiteral("próba"));
+    ablak window(u"próba"_s);
     auto *frame = new QGroupBox;
     auto *check = new QCheckBox;
     auto *button = new QPushButton;
@@ -145,7 +147,7 @@ class TextFitting : public testing::Test {
 };
 
 TEST_F(TextFitting, uses_the_last_size_at_which_the_text_still_fits_a_picture_box) {
-    const QString text = QStringLiteral("szótár");
+    const QString text = u"szótár"_s;
 
     Module_hasznos::szövegbeigazít(box_, text);
 
@@ -157,15 +159,15 @@ TEST_F(TextFitting, uses_the_last_size_at_which_the_text_still_fits_a_picture_bo
 }
 
 TEST_F(TextFitting, centres_a_mixed_text_and_keeps_it_as_the_tag) {
-    Module_hasznos::szövegbeigazít(box_, QStringLiteral("Alma"));
+    Module_hasznos::szövegbeigazít(box_, u"Alma"_s);
 
     EXPECT_NEAR(box_.printed_area().center().x(), box_.inner_size().width() / 2, 1);
     EXPECT_NEAR(box_.printed_area().center().y(), box_.inner_size().height() / 2, 1);
-    EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("Alma"));
+    EXPECT_EQ(box_.property("tag").toString(), u"Alma"_s);
 }
 
 TEST_F(TextFitting, draws_a_text_of_capitals_lower) {
-    Module_hasznos::szövegbeigazít(box_, QStringLiteral("ŐZ"));
+    Module_hasznos::szövegbeigazít(box_, u"ŐZ"_s);
 
     EXPECT_NEAR(box_.printed_area().center().y(), box_.inner_size().height() * 0.6, 1);
 }
@@ -173,24 +175,24 @@ TEST_F(TextFitting, draws_a_text_of_capitals_lower) {
 TEST_F(TextFitting, reminds_of_a_missing_text) {
     Module_hasznos::szövegbeigazít(box_, QString());
 
-    EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("Kéne írni ide valamit!"));
+    EXPECT_EQ(box_.property("tag").toString(), u"Kéne írni ide valamit!"_s);
 }
 
 TEST_F(TextFitting, prints_a_number_as_its_text) {
     Module_hasznos::szövegbeigazít(box_, 12);
 
-    EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("12"));
+    EXPECT_EQ(box_.property("tag").toString(), u"12"_s);
 }
 
 TEST_F(TextFitting, writes_large_numbers_out) {
     Module_hasznos::szövegbeigazít(box_, 1234567);
 
-    EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("1234567"));
+    EXPECT_EQ(box_.property("tag").toString(), u"1234567"_s);
 }
 
 TEST_F(TextFitting, breaks_a_text_into_lines_that_would_be_too_small_in_one) {
     box_.resize(400, 200);
-    const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le ").repeated(4).trimmed();
+    const QString text = u"valami nagyon hosszú magyarázattal írható csak le "_s.repeated(4).trimmed();
 
     Module_hasznos::szövegbeigazít(box_, text);
 
@@ -202,7 +204,7 @@ TEST_F(TextFitting, breaks_a_text_into_lines_that_would_be_too_small_in_one) {
 
 TEST_F(TextFitting, breaks_words_that_are_wider_than_the_box_alone) {
     box_.resize(200, 200);
-    const QString text = QStringLiteral("megszentségteleníthetetlenségeskedéseitekért ").repeated(3).trimmed();
+    const QString text = u"megszentségteleníthetetlenségeskedéseitekért "_s.repeated(3).trimmed();
 
     Module_hasznos::szövegbeigazít(box_, text);
 
@@ -219,14 +221,14 @@ TEST_F(TextFitting, keeps_a_million_letters_in_the_tag_and_shows_their_beginning
 }
 
 TEST_F(TextFitting, keeps_the_blanks_of_a_text) {
-    Module_hasznos::szövegbeigazít(box_, QStringLiteral("Ehhez a játékhoz "));
+    Module_hasznos::szövegbeigazít(box_, u"Ehhez a játékhoz "_s);
 
-    EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("Ehhez a játékhoz "));
+    EXPECT_EQ(box_.property("tag").toString(), u"Ehhez a játékhoz "_s);
 }
 
 TEST_F(TextFitting, replaces_what_was_printed_before) {
-    Module_hasznos::szövegbeigazít(box_, QStringLiteral("egy hosszú szöveg volt itt"));
-    Module_hasznos::szövegbeigazít(box_, QStringLiteral("i"));
+    Module_hasznos::szövegbeigazít(box_, u"egy hosszú szöveg volt itt"_s);
+    Module_hasznos::szövegbeigazít(box_, u"i"_s);
 
     EXPECT_LT(box_.printed_area().width(), box_.inner_size().width() / 4);
 }
@@ -234,13 +236,13 @@ TEST_F(TextFitting, replaces_what_was_printed_before) {
 TEST_F(TextFitting, ends_for_a_box_without_room) {
     box_.resize(1, 1);
 
-    Module_hasznos::szövegbeigazít(box_, QStringLiteral("szótár"));
+    Module_hasznos::szövegbeigazít(box_, u"szótár"_s);
 
-    EXPECT_EQ(box_.property("tag").toString(), QStringLiteral("szótár"));
+    EXPECT_EQ(box_.property("tag").toString(), u"szótár"_s);
 }
 
 TEST_F(TextFitting, leaves_a_text_in_one_line_that_a_size_lets_fit) {
-    EXPECT_EQ(Module_hasznos::sorokra(box_, QStringLiteral("egy szó"), 12), QStringLiteral("egy szó"));
+    EXPECT_EQ(Module_hasznos::sorokra(box_, u"egy szó"_s, 12), u"egy szó"_s);
     EXPECT_EQ(Module_hasznos::sorokra(box_, QString(), 12), QString());
 }
 
@@ -248,7 +250,7 @@ TEST_F(TextFitting, breaks_a_text_at_blanks_into_lines_that_fit_in_the_given_siz
     box_.resize(400, 400);
     box_.setFont(QFont(QStringList{fonts::times_new_roman}));
     box_.resize(box_.width(), 2000);
-    const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le");
+    const QString text = u"valami nagyon hosszú magyarázattal írható csak le"_s;
     for (const double points : {20.0, 30.0, 40.0}) {
         const QString lines = Module_hasznos::sorokra(box_, text, points);
 
@@ -264,23 +266,23 @@ TEST_F(TextFitting, breaks_a_word_inside_that_is_wider_than_the_box_in_the_given
     box_.resize(400, 400);
     box_.setFont(QFont(QStringList{fonts::times_new_roman}));
     box_.resize(box_.width(), 2000);
-    const QString word = QStringLiteral("megszentségteleníthetetlenségeskedéseitekért");
+    const QString word = u"megszentségteleníthetetlenségeskedéseitekért"_s;
 
-    const QString lines = Module_hasznos::sorokra(box_, QStringLiteral("egy ") + word, 40);
+    const QString lines = Module_hasznos::sorokra(box_, u"egy "_s + word, 40);
 
-    EXPECT_TRUE(lines.startsWith(QStringLiteral("egy\n")));
-    EXPECT_EQ(QString(lines).remove(u'\n'), QStringLiteral("egy") + word);
+    EXPECT_TRUE(lines.startsWith(u"egy\n"_s));
+    EXPECT_EQ(QString(lines).remove(u'\n'), u"egy"_s + word);
     EXPECT_LT(size_at(40, lines).width(), box_.inner_size().width());
 }
 
 TEST_F(TextFitting, ends_a_text_that_is_longer_than_the_box_is_high_with_dots) {
     box_.setFont(QFont(QStringList{fonts::times_new_roman}));
-    const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le ").repeated(20);
+    const QString text = u"valami nagyon hosszú magyarázattal írható csak le "_s.repeated(20);
 
     const QString lines = Module_hasznos::sorokra(box_, text, 12);
 
     EXPECT_TRUE(lines.endsWith(u'…'));
-    EXPECT_TRUE(lines.startsWith(QStringLiteral("valami")));
+    EXPECT_TRUE(lines.startsWith(u"valami"_s));
     EXPECT_LE(size_at(12, lines).height(), box_.inner_size().height());
     EXPECT_LT(size_at(12, lines).width(), box_.inner_size().width());
 }
@@ -288,7 +290,7 @@ TEST_F(TextFitting, ends_a_text_that_is_longer_than_the_box_is_high_with_dots) {
 TEST_F(TextFitting, ends_with_three_dots_when_not_all_lines_fit_in_the_given_size) {
     box_.resize(400, 200);
     box_.setFont(QFont(QStringList{fonts::times_new_roman}));
-    const QString text = QStringLiteral("valami nagyon hosszú magyarázattal írható csak le ").repeated(4).trimmed();
+    const QString text = u"valami nagyon hosszú magyarázattal írható csak le "_s.repeated(4).trimmed();
     for (const QString &one : {text, QString(text).remove(u' ')}) {
         const QString lines = Module_hasznos::sorokra(box_, one, 40);
 
@@ -297,18 +299,18 @@ TEST_F(TextFitting, ends_with_three_dots_when_not_all_lines_fit_in_the_given_siz
         EXPECT_TRUE(QString(one).remove(u' ').startsWith(QString(whole).remove(u' ')));
         EXPECT_LT(size_at(40, lines).width(), box_.inner_size().width());
         EXPECT_LT(size_at(40, lines).height(), box_.inner_size().height());
-        const double line = size_at(40, QStringLiteral("x")).height();
+        const double line = size_at(40, u"x"_s).height();
         EXPECT_GT(size_at(40, lines).height() + line, box_.inner_size().height());
     }
 }
 
 TEST_F(TextFitting, uses_the_first_size_at_which_a_buttons_text_reaches_ninety_percent) {
-    QPushButton button(QStringLiteral("&Ok"));
+    QPushButton button(u"&Ok"_s);
     button.resize(120, 40);
 
     Module_hasznos::szövegbeigazít(button, QString());
 
-    EXPECT_EQ(button.text(), QStringLiteral("&Ok"));
+    EXPECT_EQ(button.text(), u"&Ok"_s);
     const double points = fonts::points(button.font());
     QFont font = button.font();
     EXPECT_GE(QFontMetricsF(font).height(), 0.9 * 40);
@@ -320,22 +322,22 @@ TEST_F(TextFitting, uses_the_first_size_at_which_a_labels_text_reaches_ninety_pe
     QLabel label;
     label.resize(150, 300);
 
-    Module_hasznos::szövegbeigazít(label, QStringLiteral("A párja?"));
+    Module_hasznos::szövegbeigazít(label, u"A párja?"_s);
 
     QFont font = label.font();
-    EXPECT_GE(QFontMetricsF(font).horizontalAdvance(QStringLiteral("A párja?")), 0.9 * 150);
+    EXPECT_GE(QFontMetricsF(font).horizontalAdvance(u"A párja?"_s), 0.9 * 150);
     EXPECT_LT(QFontMetricsF(font).height(), 0.9 * 300);
     fonts::set_points(font, fonts::points(font) - 1);
-    EXPECT_LT(QFontMetricsF(font).horizontalAdvance(QStringLiteral("A párja?")), 0.9 * 150);
+    EXPECT_LT(QFontMetricsF(font).horizontalAdvance(u"A párja?"_s), 0.9 * 150);
 }
 
 TEST_F(TextFitting, gives_a_label_the_text_it_is_given) {
-    QLabel label(QStringLiteral("régi"));
+    QLabel label(u"régi"_s);
     label.resize(100, 30);
 
-    Module_hasznos::szövegbeigazít(label, QStringLiteral(" 3/ 20"));
+    Module_hasznos::szövegbeigazít(label, u" 3/ 20"_s);
 
-    EXPECT_EQ(label.text(), QStringLiteral(" 3/ 20"));
+    EXPECT_EQ(label.text(), u" 3/ 20"_s);
 }
 
 TEST(Fonts, measure_points_in_twenty_twips) {
@@ -351,10 +353,9 @@ TEST(Fonts, show_hungarian_letters_in_a_face_with_serifs) {
     const QFont font(QStringList{fonts::times_new_roman});
 
     const QFontMetricsF metrics(font);
-    for (const QChar letter : QStringLiteral("őűŐŰáéíóöúü"))
+    for (const QChar letter : u"őűŐŰáéíóöúü"_s)
         EXPECT_TRUE(metrics.inFont(letter));
-    EXPECT_TRUE(QFontInfo(font).family().contains(QStringLiteral("Serif")) ||
-                QFontInfo(font).family().contains(QStringLiteral("Times")))
+    EXPECT_TRUE(QFontInfo(font).family().contains(u"Serif"_s) || QFontInfo(font).family().contains(u"Times"_s))
         << QFontInfo(font).family().toStdString();
 }
 

@@ -14,10 +14,12 @@
 #include "support/printing.h"
 #include "ui/window/window_reference.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(Window, keeps_its_size_in_twips_as_it_was_given) {
-    ablak window(QStringLiteral("próba"), ablak::menü::van);
+    ablak window(u"próba"_s, ablak::menü::van);
 
     window.méretez(10000.1, 8220);
 
@@ -27,9 +29,9 @@ TEST(Window, keeps_its_size_in_twips_as_it_was_given) {
 }
 
 TEST(Window, gives_its_inner_surface_fifteen_twips_a_pixel_below_the_menu) {
-    ablak window(QStringLiteral("próba"), ablak::menü::van);
-    window.menüsor()->addMenu(QStringLiteral("&Fájl"));
-    auto *control = new QLabel(QStringLiteral("x"));
+    ablak window(u"próba"_s, ablak::menü::van);
+    window.menüsor()->addMenu(u"&Fájl"_s);
+    auto *control = new QLabel(u"x"_s);
 
     window.elhelyez(control, {150, 300, 1500, 450});
     window.méretez(3000 + window.keretszélesség(), 1500 + window.keretmagasság());
@@ -41,7 +43,7 @@ TEST(Window, gives_its_inner_surface_fifteen_twips_a_pixel_below_the_menu) {
 }
 
 TEST(Window, has_dark_letters_on_its_light_background_whatever_the_desktop_likes) {
-    ablak window(QStringLiteral("próba"));
+    ablak window(u"próba"_s);
 
     window.háttérszínbeállít(QColor(0xe9, 0xef, 0xf4));
 
@@ -65,7 +67,7 @@ class WindowWithButtons : public testing::Test {
         text_->setFocus();
     }
 
-    ablak window_{QStringLiteral("próba")};
+    ablak window_{u"próba"_s};
     QLineEdit *text_ = new QLineEdit;
     QPushButton *ok_ = new QPushButton;
     QPushButton *other_ = new QPushButton;
@@ -87,7 +89,7 @@ TEST_F(WindowWithButtons, presses_its_default_button_once_for_a_key_that_is_held
     window_.alapgombbeállít(ok_);
     QTest::keyClick(text_, Qt::Key_Return);
 
-    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
     QApplication::sendEvent(&window_, &repeat);
 
     EXPECT_EQ(ok_clicks_, 1);
@@ -116,7 +118,7 @@ TEST_F(WindowWithButtons, presses_nothing_when_the_default_button_is_disabled_or
 }
 
 TEST(WindowWithoutFrame, is_as_large_as_its_inner_surface) {
-    ablak window(QStringLiteral("próba"), ablak::menü::nincs, ablak::keret::nincs);
+    ablak window(u"próba"_s, ablak::menü::nincs, ablak::keret::nincs);
 
     window.méretez(3000, 1500);
 
@@ -129,7 +131,7 @@ TEST(WindowWithoutFrame, is_as_large_as_its_inner_surface) {
 }
 
 TEST(WindowWithFrame, keeps_the_size_that_the_program_gives_it) {
-    ablak window(QStringLiteral("próba"));
+    ablak window(u"próba"_s);
     window.méretez(3000, 1500);
     window.show();
 
@@ -143,14 +145,14 @@ TEST(WindowWithFrame, keeps_the_size_that_the_program_gives_it) {
 /// A window that the user draws larger and smaller, with a menu bar.
 class ResizableWindow : public ablak {
   public:
-    ResizableWindow() : ablak(QStringLiteral("próba"), menü::van, keret::átméretezhető) {
-        menüsor()->addMenu(QStringLiteral("&Fájl"));
+    ResizableWindow() : ablak(u"próba"_s, menü::van, keret::átméretezhető) {
+        menüsor()->addMenu(u"&Fájl"_s);
         elhelyez(control, {0, 0, 1500, 300});
         méretez(6000.4, 4500.3);
         show();
     }
 
-    QLabel *control = new QLabel(QStringLiteral("x"));
+    QLabel *control = new QLabel(u"x"_s);
     int resized = 0;
 
   protected:
@@ -227,7 +229,7 @@ TEST_F(WindowWithButtons, takes_no_notice_of_escape_that_is_held_down) {
 }
 
 TEST(Window, shown_modally_returns_when_it_is_closed) {
-    ablak window(QStringLiteral("próba"));
+    ablak window(u"próba"_s);
     window.méretez(3000, 3000);
     bool was_modal = false;
     QTimer::singleShot(0, &window, [&] {
@@ -245,7 +247,7 @@ TEST(WindowReference, makes_its_window_at_first_use_and_afresh_after_unloading) 
     int made = 0;
     WindowReference<ablak> reference([&] {
         ++made;
-        return std::make_unique<ablak>(QStringLiteral("próba"));
+        return std::make_unique<ablak>(u"próba"_s);
     });
 
     EXPECT_FALSE(reference.loaded());

@@ -5,10 +5,12 @@
 
 #include "ui/controls/named.h"
 
+using namespace Qt::StringLiterals;
+
 iránygombok::iránygombok()
-    : nyelvoptb{named(new QRadioButton(QStringLiteral("Angolról-Magyarra")), u"nyelvoptb(0)", u"Angolról magyarra"),
-                named(new QRadioButton(QStringLiteral("Magyarról - Angolra")), u"nyelvoptb(1)", u"Magyarról angolra"),
-                named(new QRadioButton(QStringLiteral("Változó nyelv")), u"nyelvoptb(2)", u"Változó nyelv")} {
+    : nyelvoptb{named(new QRadioButton(u"Angolról-Magyarra"_s), u"nyelvoptb(0)", u"Angolról magyarra"),
+                named(new QRadioButton(u"Magyarról - Angolra"_s), u"nyelvoptb(1)", u"Magyarról angolra"),
+                named(new QRadioButton(u"Változó nyelv"_s), u"nyelvoptb(2)", u"Változó nyelv")} {
     kijelöl(alap);
 }
 

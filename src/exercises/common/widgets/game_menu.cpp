@@ -6,8 +6,10 @@
 
 #include "ui/controls/named.h"
 
+using namespace Qt::StringLiterals;
+
 void játékmenüt_rak(ablak &mire, const std::vector<játékmenüpont> &pontok) {
-    QMenu *fájl = named(mire.menüsor()->addMenu(QStringLiteral("&Fájl")), u"mnu_fájl");
+    QMenu *fájl = named(mire.menüsor()->addMenu(u"&Fájl"_s), u"mnu_fájl");
     for (const játékmenüpont &pont : pontok) {
         if (pont.felirat.isEmpty()) {
             named(fájl->addSeparator(), pont.név);

@@ -6,6 +6,8 @@
 #include "ui/controls/named.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double képernyőrész = 0.6;
@@ -19,8 +21,8 @@ constexpr double gombköz = 180;
 feladatbeállító::feladatbeállító(const feladatkörnyezet &környezet, const QString &név, const QString &felirat)
     : ablak(név),
       k_(környezet),
-      cmd_ok_(named(new QPushButton(QStringLiteral("Ok")), u"cmd_ok", u"Ok, mentés")),
-      cmd_mégsem_(named(new QPushButton(QStringLiteral("Mégsem")), u"cmd_mégsem", u"Mégsem")) {
+      cmd_ok_(named(new QPushButton(u"Ok"_s), u"cmd_ok", u"Ok, mentés")),
+      cmd_mégsem_(named(new QPushButton(u"Mégsem"_s), u"cmd_mégsem", u"Mégsem")) {
     setWindowTitle(felirat);
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
     connect(cmd_mégsem_, &QPushButton::clicked, this, [this] { cmd_mégsem_Click(); });

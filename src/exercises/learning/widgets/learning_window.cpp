@@ -7,6 +7,8 @@
 #include "ui/controls/named.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double margó = 120;
@@ -22,16 +24,16 @@ constexpr double gombok_teteje = 4300;
 }  // namespace
 
 tanulás::tanulás(const feladatkörnyezet &környezet)
-    : ablak(QStringLiteral("tanulás")),
+    : ablak(u"tanulás"_s),
       tanlist1_(named(new ListBox, u"tanlist1", u"Angol szavak")),
       tanlist2_(named(new ListBox, u"tanlist2", u"Magyar szavak")),
       label1_(named(new PictureBox, u"label1", u"Angolul")),
       label3_(named(new PictureBox, u"label3", u"Magyarul")),
       Label_info_(named(new QLabel, u"Label_info")),
       Label4_(named(new QLabel, u"Label4")),
-      Command1_(named(new QPushButton(QStringLiteral("Ok")), u"Command1", u"Ok, a következő pár")),
-      Command2_(named(new QPushButton(QStringLiteral("Kilép")), u"Command2", u"Kilép")) {
-    setWindowTitle(QStringLiteral("Tanulás"));
+      Command1_(named(new QPushButton(u"Ok"_s), u"Command1", u"Ok, a következő pár")),
+      Command2_(named(new QPushButton(u"Kilép"_s), u"Command2", u"Kilép")) {
+    setWindowTitle(u"Tanulás"_s);
     tanlist1_->hide();
     tanlist2_->hide();
     const double félszélesség = tervezett_szélesség / 2 - margó;

@@ -2,16 +2,17 @@
 
 #include "ui/controls/named.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString nyelv_kulcs = QStringLiteral("nyelv");
+const QString nyelv_kulcs = u"nyelv"_s;
 
 }  // namespace
 
 frm_kirakó_beáll::frm_kirakó_beáll(const feladatkörnyezet &környezet)
-    : feladatbeállító(környezet, QStringLiteral("frm_kirakó_beáll"), QStringLiteral("Kirakó - Beállítások")),
-      keret_nyelv_(
-          named(new QGroupBox(QStringLiteral("A kikérdezés nyelve")), u"keret_nyelv", u"A kikérdezés nyelve")) {
+    : feladatbeállító(környezet, u"frm_kirakó_beáll"_s, u"Kirakó - Beállítások"_s),
+      keret_nyelv_(named(new QGroupBox(u"A kikérdezés nyelve"_s), u"keret_nyelv", u"A kikérdezés nyelve")) {
     const QRectF nyelvkeret = keret(keretszéle, static_cast<int>(irány_.nyelvoptb.size()));
     elhelyez(keret_nyelv_, nyelvkeret);
     irány_.elhelyez(*this, [&](int i) { return sor(nyelvkeret, i); });

@@ -14,6 +14,8 @@
 #include "ui/drawing/twips.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -35,21 +37,21 @@ constexpr double lépés = 0.25;
 }  // namespace
 
 frm_kirakó::frm_kirakó(const feladatkörnyezet &környezet)
-    : ablak(QStringLiteral("frm_kirakó"), menü::van),
+    : ablak(u"frm_kirakó"_s, menü::van),
       k_(környezet),
       játék_(k_.szószedet.párok(), k_.véletlen),
-      Label_főcím_(named(new QLabel(QStringLiteral("Rakd ki a szót az összekevert betűkből!")), u"Label_főcím")),
+      Label_főcím_(named(new QLabel(u"Rakd ki a szót az összekevert betűkből!"_s), u"Label_főcím")),
       pic_feladvány_(named(new PictureBox, u"pic_feladvány", u"Kérdés")),
       Label1_(named(new QLabel, u"Label1")),
       pic_keret_(named(new ChoosablePicture, u"pic_keret", u"A betűk kerete")),
-      cmd_ok_(named(new QPushButton(QStringLiteral("Ok")), u"cmd_ok", u"Ok, ellenőrzés")),
+      cmd_ok_(named(new QPushButton(u"Ok"_s), u"cmd_ok", u"Ok, ellenőrzés")),
       Label_info_(named(new QLabel, u"Label_info")),
       beállító_([this] { return std::make_unique<frm_kirakó_beáll>(k_); }) {
-    setWindowTitle(QStringLiteral("Kirakó"));
-    játékmenüt_rak(*this, {{u"mnu_fájl_újrakezd", QStringLiteral("&Újrakezd"), [this] { újrakezd(); }},
-                           {u"mnu_fájl_beáll", QStringLiteral("&Beállítások"), [this] { mnu_fájl_beáll_Click(); }},
+    setWindowTitle(u"Kirakó"_s);
+    játékmenüt_rak(*this, {{u"mnu_fájl_újrakezd", u"&Újrakezd"_s, [this] { újrakezd(); }},
+                           {u"mnu_fájl_beáll", u"&Beállítások"_s, [this] { mnu_fájl_beáll_Click(); }},
                            {u"mnu_fájl_elválaszt", {}, {}},
-                           {u"mnu_fájl_kilép", QStringLiteral("&Kilép"), [this] { close(); }}});
+                           {u"mnu_fájl_kilép", u"&Kilép"_s, [this] { close(); }}});
     connect(cmd_ok_, &QPushButton::clicked, this, [this] { cmd_ok_Click(); });
     connect(pic_keret_, &ChoosablePicture::chosen, this, [this] { pic_keret_Click(); });
     alapgombbeállít(cmd_ok_);
@@ -95,7 +97,7 @@ void frm_kirakó::következő() {
     Module_hasznos::szövegbeigazít(*pic_feladvány_, játék_.kérdés());
     pic_feladvány_->setAccessibleDescription(játék_.kérdés());
     const bool magyarul = játék_.kérdésnyelve() == kérdésnyelv::angol;
-    Module_hasznos::szövegbeigazít(*Label1_, magyarul ? QStringLiteral("Magyarul:") : QStringLiteral("Angolul:"));
+    Module_hasznos::szövegbeigazít(*Label1_, magyarul ? u"Magyarul:"_s : u"Angolul:"_s);
     Module_hasznos::szövegbeigazít(*Label_info_, játék_.számláló());
     betűket_rak();
 }
@@ -112,8 +114,8 @@ void frm_kirakó::betűket_rak() {
     fonts::set_points(betűtípus, lapok_.kirak(játék_.betűk(), mér, nagy, legkisebb_pont, k_.véletlen));
     for (int i = 0; i < lapok_.lapok().size(); ++i) {
         auto *lap = new LetterTile(lapok_.lapok()[i].betű, pic_keret_);
-        lap->setObjectName(QStringLiteral("Label_betű(%1)").arg(i));
-        lap->setAccessibleName(lap->text() == u"_" ? QStringLiteral("szóköz") : lap->text() + QStringLiteral(" betű"));
+        lap->setObjectName(u"Label_betű(%1)"_s.arg(i));
+        lap->setAccessibleName(lap->text() == u"_" ? u"szóköz"_s : lap->text() + u" betű"_s);
         lap->setFont(betűtípus);
         connect(lap, &LetterTile::mouse_pressed, this, [this](const QPointF &hol) { Label_betű_MouseDown(hol); });
         connect(lap, &LetterTile::mouse_moved, this,
@@ -160,14 +162,13 @@ void frm_kirakó::cmd_ok_Click() {
     if (vége_)
         return;
     if (játék_.ellenőriz(kirakott_szó())) {
-        k_.üzenetmutat(üzenetidő, {játék_.pár().angol + QStringLiteral(" - ") + játék_.pár().magyar});
+        k_.üzenetmutat(üzenetidő, {játék_.pár().angol + u" - "_s + játék_.pár().magyar});
         // The program may have ended meanwhile.
         if (isVisible())
             következő();
         return;
     }
-    k_.üzenetmutat(üzenetidő,
-                   {QStringLiteral("Ez sajnos nem jó!"), QStringLiteral(" "), QStringLiteral("Kérlek, próbáld újra!")});
+    k_.üzenetmutat(üzenetidő, {u"Ez sajnos nem jó!"_s, u" "_s, u"Kérlek, próbáld újra!"_s});
 }
 
 void frm_kirakó::mnu_fájl_beáll_Click() {

@@ -8,10 +8,12 @@
 #include "ui/controls/named.h"
 #include "ui/controls/up_down.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString méret_kulcs = QStringLiteral("méret");
-const QString idő_kulcs = QStringLiteral("felfedésiidő");
+const QString méret_kulcs = u"méret"_s;
+const QString idő_kulcs = u"felfedésiidő"_s;
 constexpr int alapméret = 2;
 
 // Tenths of a second.
@@ -21,23 +23,21 @@ constexpr int alapidő = 20;
 
 QRadioButton *méretgomb(size_t i) {
     const játéktér &tér = játékterek[i];
-    auto *gomb =
-        new QRadioButton(QStringLiteral("%1 pár (%2*%3)").arg(tér.párok()).arg(tér.oszlopok).arg(tér.oszlopban));
-    gomb->setObjectName(QStringLiteral("Option_méret(%1)").arg(i));
-    gomb->setAccessibleName(
-        QStringLiteral("%1 pár, %2 oszlopban %3 kártya").arg(tér.párok()).arg(tér.oszlopok).arg(tér.oszlopban));
+    auto *gomb = new QRadioButton(u"%1 pár (%2*%3)"_s.arg(tér.párok()).arg(tér.oszlopok).arg(tér.oszlopban));
+    gomb->setObjectName(u"Option_méret(%1)"_s.arg(i));
+    gomb->setAccessibleName(u"%1 pár, %2 oszlopban %3 kártya"_s.arg(tér.párok()).arg(tér.oszlopok).arg(tér.oszlopban));
     return gomb;
 }
 
 }  // namespace
 
 frm_memory_beáll::frm_memory_beáll(const feladatkörnyezet &környezet, int szópárfelső, std::function<void()> újjáték)
-    : feladatbeállító(környezet, QStringLiteral("frm_memory_beáll"), QStringLiteral("Memória - Beállítások")),
+    : feladatbeállító(környezet, u"frm_memory_beáll"_s, u"Memória - Beállítások"_s),
       párok_(szópárfelső + 1),
       újjáték_(std::move(újjáték)),
-      Frame1_(named(new QGroupBox(QStringLiteral("A játéktér mérete")), u"Frame1", u"A játéktér mérete")),
-      Frame2_(named(new QGroupBox(QStringLiteral("Egyéb beállítások")), u"Frame2", u"Egyéb beállítások")),
-      Label1_(named(new QLabel(QStringLiteral("A kártyák felfedési ideje")), u"Label1")),
+      Frame1_(named(new QGroupBox(u"A játéktér mérete"_s), u"Frame1", u"A játéktér mérete")),
+      Frame2_(named(new QGroupBox(u"Egyéb beállítások"_s), u"Frame2", u"Egyéb beállítások")),
+      Label1_(named(new QLabel(u"A kártyák felfedési ideje"_s), u"Label1")),
       UpDown_idő_(named(new UpDown, u"UpDown_idő", u"A kártyák felfedési ideje tizedmásodpercben")),
       label_idő_(named(new QLabel, u"label_idő")) {
     for (size_t i = 0; i < Option_méret_.size(); ++i)
@@ -93,7 +93,7 @@ int frm_memory_beáll::kijelölt_méret() const {
 }
 
 void frm_memory_beáll::UpDown_idő_Change() {
-    label_idő_->setText(QLocale::system().toString(felfedésiidő() / 10.0) + QStringLiteral(" mp"));
+    label_idő_->setText(QLocale::system().toString(felfedésiidő() / 10.0) + u" mp"_s);
 }
 
 void frm_memory_beáll::elfogad() {

@@ -15,9 +15,11 @@
 #include "ui/drawing/twips.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString kártyahát = QStringLiteral(":/memory/card-back.svg");
+const QString kártyahát = u":/memory/card-back.svg"_s;
 
 constexpr QColor papírszín(0xff, 0xfd, 0xf5);
 
@@ -39,7 +41,7 @@ QTimer *időzítő(ablak &mire, const char16_t *név, int köz) {
 }  // namespace
 
 frm_memory::frm_memory(const feladatkörnyezet &környezet)
-    : ablak(QStringLiteral("frm_memory"), menü::van),
+    : ablak(u"frm_memory"_s, menü::van),
       k_(környezet),
       játék_(k_.szószedet.párok(), k_.véletlen),
       Label_feladat_(named(new QLabel, u"Label_feladat")),
@@ -50,10 +52,10 @@ frm_memory::frm_memory(const feladatkörnyezet &környezet)
       Timer_kiléptető_(időzítő(*this, u"Timer_kiléptető", 1)),
       beállító_(
           [this] { return std::make_unique<frm_memory_beáll>(k_, játék_.szópárfelső(), [this] { újjáték(); }); }) {
-    játékmenüt_rak(*this, {{u"mnu_fájl_újjáték", QStringLiteral("&Új játék"), [this] { újjáték(); }},
-                           {u"mnu_fájl_beáll", QStringLiteral("&Beállítások"), [this] { mnu_fájl_beáll_Click(); }},
+    játékmenüt_rak(*this, {{u"mnu_fájl_újjáték", u"&Új játék"_s, [this] { újjáték(); }},
+                           {u"mnu_fájl_beáll", u"&Beállítások"_s, [this] { mnu_fájl_beáll_Click(); }},
                            {u"mnu_fájl_elv", {}, {}},
-                           {u"mnu_fájl_kilép", QStringLiteral("&Kilép"), [this] { kilépés(); }}});
+                           {u"mnu_fájl_kilép", u"&Kilép"_s, [this] { kilépés(); }}});
     connect(Timer_lefed_, &QTimer::timeout, this, [this] { Timer_lefed_Timer(); });
     connect(Timer_várj_, &QTimer::timeout, this, [this] { Timer_várj_Timer(); });
     connect(Timer_kiléptető_, &QTimer::timeout, this, [this] { kilépés(); });
@@ -66,13 +68,12 @@ frm_memory::frm_memory(const feladatkörnyezet &környezet)
         return;
     }
     játéktérépít();
-    k_.üzenetmutat(üzenetidő, {QStringLiteral("Sajnos ehhez a játékhoz"), QStringLiteral("legalább hat szópárra"),
-                               QStringLiteral("van szükség!")});
+    k_.üzenetmutat(üzenetidő, {u"Sajnos ehhez a játékhoz"_s, u"legalább hat szópárra"_s, u"van szükség!"_s});
 }
 
 ChoosablePicture *frm_memory::új_kártya(int i) {
     auto *kártya = new ChoosablePicture;
-    kártya->setObjectName(QStringLiteral("pic_kártya(%1)").arg(i));
+    kártya->setObjectName(u"pic_kártya(%1)"_s.arg(i));
     kártya->set_drag_mode(ChoosablePicture::DragMode::manual);
     connect(kártya, &ChoosablePicture::chosen, this, [this, i] { pic_kártya_Click(i); });
     return kártya;
@@ -93,11 +94,11 @@ void frm_memory::játéktérépít() {
         elhelyez(pic_kártya_[i], helyek.kártyák[i]);
     }
     elhelyez(Label_info_, helyek.Label_info);
-    setWindowTitle(QStringLiteral("Memória"));
+    setWindowTitle(u"Memória"_s);
     global::színmásol(*this, k_.főablak);
     Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, 0.9));
     k_.hasznos.ablakstílus(*this);
-    Module_hasznos::szövegbeigazít(*Label_feladat_, QStringLiteral("Keresd meg az összetartozó párokat!"));
+    Module_hasznos::szövegbeigazít(*Label_feladat_, u"Keresd meg az összetartozó párokat!"_s);
     for (ChoosablePicture *kártya : std::as_const(pic_kártya_))
         kártya->set_background(papírszín);
     Picture_minta_->set_picture(svg_picture(kártyahát, pic_kártya_.front()->size(), devicePixelRatioF()));
@@ -130,7 +131,7 @@ void frm_memory::lefed(int i) {
     ChoosablePicture *kártya = pic_kártya_[i];
     kártya->clear();
     kártya->set_picture(Picture_minta_->picture());
-    kártya->setAccessibleName(QStringLiteral("%1. kártya, letakarva").arg(i + 1));
+    kártya->setAccessibleName(u"%1. kártya, letakarva"_s.arg(i + 1));
     kártya->setVisible(true);
 }
 
@@ -142,7 +143,7 @@ void frm_memory::felfed(int i) {
     kártya->setFont(betű);
     const QString szöveg = kártya->property("tag").toString();
     kártya->print_centred(Module_hasznos::sorokra(*kártya, szöveg, legkisebbbetű_));
-    kártya->setAccessibleName(QStringLiteral("%1. kártya: %2").arg(i + 1).arg(szöveg));
+    kártya->setAccessibleName(u"%1. kártya: %2"_s.arg(i + 1).arg(szöveg));
     kártya->setVisible(true);
 }
 
@@ -180,7 +181,7 @@ void frm_memory::páreltüntet() {
     infokiír();
     if (!játék_.vége())
         return;
-    k_.üzenetmutat(üzenetidő, {QStringLiteral("Gratulálok!"), QStringLiteral("Kitűnő megoldás")});
+    k_.üzenetmutat(üzenetidő, {u"Gratulálok!"_s, u"Kitűnő megoldás"_s});
     if (játszma == játszma_)
         újjáték();
 }

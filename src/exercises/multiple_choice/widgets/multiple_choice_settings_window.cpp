@@ -7,29 +7,31 @@
 #include "exercises/multiple_choice/multiple_choice.h"
 #include "ui/controls/named.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString nyelv_kulcs = QStringLiteral("nyelv");
-const QString választék_kulcs = QStringLiteral("valasztekszam");
-const QString húzás_kulcs = QStringLiteral("katt");
+const QString nyelv_kulcs = u"nyelv"_s;
+const QString választék_kulcs = u"valasztekszam"_s;
+const QString húzás_kulcs = u"katt"_s;
 
 }  // namespace
 
 választás_beáll::választás_beáll(const feladatkörnyezet &környezet, std::function<int()> párok_száma,
                                  std::function<void()> újrakezd)
-    : feladatbeállító(környezet, QStringLiteral("választás_beáll"), QStringLiteral("Választás Beállítások")),
+    : feladatbeállító(környezet, u"választás_beáll"_s, u"Választás Beállítások"_s),
       párok_száma_(std::move(párok_száma)),
       újrakezd_(std::move(újrakezd)),
-      keret_nyelv_(named(new QGroupBox(QStringLiteral("A kikérdezés nyelve")), u"keret_nyelv", u"A kikérdezés nyelve")),
-      keret_egyéb_(named(new QGroupBox(QStringLiteral("Egyéb beállítások")), u"keret_egyéb", u"Egyéb beállítások")),
-      Label_választék_(named(new QLabel(QStringLiteral("A kiválasztható szavak száma:")), u"Label_választék")),
+      keret_nyelv_(named(new QGroupBox(u"A kikérdezés nyelve"_s), u"keret_nyelv", u"A kikérdezés nyelve")),
+      keret_egyéb_(named(new QGroupBox(u"Egyéb beállítások"_s), u"keret_egyéb", u"Egyéb beállítások")),
+      Label_választék_(named(new QLabel(u"A kiválasztható szavak száma:"_s), u"Label_választék")),
       Slider_választékszám_(
           named(new QSlider(Qt::Horizontal), u"Slider_választékszám", u"A kiválasztható szavak száma")),
       Label_választék_száma_(named(new QLabel, u"Label_választék_száma")),
-      Opt_megoldástípus_{named(new QRadioButton(QStringLiteral("Megoldás a szóra való kattintással")),
-                               u"Opt_megoldástípus(0)", u"Megoldás a szóra való kattintással"),
-                         named(new QRadioButton(QStringLiteral("Megoldás a szó keretbe helyezésével")),
-                               u"Opt_megoldástípus(1)", u"Megoldás a szó keretbe helyezésével")} {
+      Opt_megoldástípus_{named(new QRadioButton(u"Megoldás a szóra való kattintással"_s), u"Opt_megoldástípus(0)",
+                               u"Megoldás a szóra való kattintással"),
+                         named(new QRadioButton(u"Megoldás a szó keretbe helyezésével"_s), u"Opt_megoldástípus(1)",
+                               u"Megoldás a szó keretbe helyezésével")} {
     Slider_választékszám_->setRange(választójáték::legkevesebb, választójáték::legtöbb);
     Slider_választékszám_->setTickPosition(QSlider::TicksBelow);
     Slider_választékszám_->setPageStep(1);

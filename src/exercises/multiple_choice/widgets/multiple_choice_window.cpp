@@ -7,6 +7,8 @@
 #include "ui/controls/named.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips. Five candidates end where the buttons beside them end.
@@ -25,37 +27,36 @@ constexpr qint16 üzenetidő = 3000;
 
 ChoosablePicture *kínálatkép(int k) {
     auto *kép = new ChoosablePicture;
-    kép->setObjectName(QStringLiteral("pic_kínálat(%1)").arg(k));
-    kép->setAccessibleName(QStringLiteral("%1. választható szó").arg(k + 1));
+    kép->setObjectName(u"pic_kínálat(%1)"_s.arg(k));
+    kép->setAccessibleName(u"%1. választható szó"_s.arg(k + 1));
     return kép;
 }
 
 }  // namespace
 
 választás::választás(const feladatkörnyezet &környezet)
-    : ablak(QStringLiteral("választás"), menü::van),
+    : ablak(u"választás"_s, menü::van),
       k_(környezet),
       játék_(k_.szószedet.párok(), k_.véletlen),
-      label_felirat_(
-          named(new QLabel(QStringLiteral("Válaszd ki a megoldást, és helyezd a keretbe!")), u"label_felirat")),
+      label_felirat_(named(new QLabel(u"Válaszd ki a megoldást, és helyezd a keretbe!"_s), u"label_felirat")),
       pic_feladat_(named(new PictureBox, u"pic_feladat", u"Kérdés")),
       pic_kötőjel_(named(new PictureBox, u"pic_kötőjel", u"Kötőjel")),
       pic_megoldás_(named(new ChoosablePicture, u"pic_megoldás", u"A kiválasztott megoldás kerete")),
       Label_info_(named(new QLabel, u"Label_info")),
-      cmd_ok_(named(new QPushButton(QStringLiteral("Ok")), u"cmd_ok", u"Ok, ellenőrzés")),
-      cmd_kilép_(named(new QPushButton(QStringLiteral("Kilép")), u"cmd_kilép", u"Kilép")),
+      cmd_ok_(named(new QPushButton(u"Ok"_s), u"cmd_ok", u"Ok, ellenőrzés")),
+      cmd_kilép_(named(new QPushButton(u"Kilép"_s), u"cmd_kilép", u"Kilép")),
       Timer1_(new QTimer(this)),
       beállító_([this] {
           return std::make_unique<választás_beáll>(
               k_, [this] { return játék_.párok_száma(); }, [this] { újrakezd(); });
       }) {
-    setWindowTitle(QStringLiteral("Választás"));
-    játékmenüt_rak(*this, {{u"mnu_fájl_újrakezd", QStringLiteral("&Újrakezd"), [this] { újrakezd(); }},
-                           {u"mnu_fájl_beáll", QStringLiteral("&Beállítások"), [this] { mnu_fájl_beáll_Click(); }},
+    setWindowTitle(u"Választás"_s);
+    játékmenüt_rak(*this, {{u"mnu_fájl_újrakezd", u"&Újrakezd"_s, [this] { újrakezd(); }},
+                           {u"mnu_fájl_beáll", u"&Beállítások"_s, [this] { mnu_fájl_beáll_Click(); }},
                            {u"mnu_fájl_elválaszt", {}, {}},
-                           {u"mnu_fájl_kilép", QStringLiteral("&Kilép"), [this] { cmd_kilép_Click(); }}});
+                           {u"mnu_fájl_kilép", u"&Kilép"_s, [this] { cmd_kilép_Click(); }}});
     elhelyezés();
-    Timer1_->setObjectName(QStringLiteral("Timer1"));
+    Timer1_->setObjectName(u"Timer1"_s);
     Timer1_->setSingleShot(true);
     Timer1_->setTimerType(Qt::PreciseTimer);
     Timer1_->setInterval(válaszidő);
@@ -91,7 +92,7 @@ void választás::elrendez() {
     Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, 0.9));
     k_.hasznos.ablakstílus(*this);
     pic_kötőjel_->set_background(k_.főablak.háttérszín());
-    Module_hasznos::szövegbeigazít(*pic_kötőjel_, QStringLiteral("-"));
+    Module_hasznos::szövegbeigazít(*pic_kötőjel_, u"-"_s);
     Module_hasznos::szövegbeigazít(*label_felirat_, QString());
     for (QPushButton *gomb : {cmd_ok_, cmd_kilép_})
         Module_hasznos::szövegbeigazít(*gomb, QString());
@@ -206,8 +207,7 @@ void választás::cmd_ok_Click() {
 }
 
 void választás::eredmény() {
-    k_.üzenetmutat(üzenetidő, {QStringLiteral("Gratulálok!"), QStringLiteral(" "),
-                               QStringLiteral("Hibaarány: %1%").arg(számszöveg(játék_.hibaarány()))});
+    k_.üzenetmutat(üzenetidő, {u"Gratulálok!"_s, u" "_s, u"Hibaarány: %1%"_s.arg(számszöveg(játék_.hibaarány()))});
 }
 
 void választás::mnu_fájl_beáll_Click() {

@@ -8,6 +8,8 @@
 #include "ui/drawing/fonts.h"
 #include "ui/window/colour_copy.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The design, in twips.
@@ -24,7 +26,7 @@ constexpr QRectF infóhely(4700, alsó_sor, 1900, 1380);
 constexpr QRectF okhely(6900, alsó_sor, 2980, 640);
 constexpr QRectF kiléphely(6900, alsó_sor + 740, 2980, 640);
 
-const QString nyelv_kulcs = QStringLiteral("nyelv");
+const QString nyelv_kulcs = u"nyelv"_s;
 constexpr qint16 üzenetidő = 3000;
 
 QLineEdit *szövegmező() {
@@ -36,16 +38,16 @@ QLineEdit *szövegmező() {
 }  // namespace
 
 kikérdező::kikérdező(const feladatkörnyezet &környezet)
-    : ablak(QStringLiteral("kikérdező")),
+    : ablak(u"kikérdező"_s),
       k_(környezet),
       quiz_(k_.szószedet.párok(), k_.véletlen),
       Pic_kérdés_(named(new PictureBox, u"Pic_kérdés", u"Kérdés")),
       txt_megoldás_(named(szövegmező(), u"txt_megoldás", u"Megoldás")),
-      cmd_ok_(named(new QPushButton(QStringLiteral("Ok")), u"cmd_ok", u"Ok, ellenőrzés")),
-      cmd_kilép_(named(new QPushButton(QStringLiteral("Kilép")), u"cmd_kilép", u"Kilép")),
+      cmd_ok_(named(new QPushButton(u"Ok"_s), u"cmd_ok", u"Ok, ellenőrzés")),
+      cmd_kilép_(named(new QPushButton(u"Kilép"_s), u"cmd_kilép", u"Kilép")),
       label_info_(named(new QLabel, u"label_info")),
       Label_felirat_(named(new QLabel, u"Label_felirat")) {
-    setWindowTitle(QStringLiteral("Kikérdezés"));
+    setWindowTitle(u"Kikérdezés"_s);
     elhelyezés();
     irány_.kijelöl(k_.beállítások.beállításolvas(*this, nyelv_kulcs, iránygombok::alap));
     for (QRadioButton *gomb : irány_.nyelvoptb) {
@@ -85,7 +87,7 @@ void kikérdező::beállít() {
     global::színmásol(*this, k_.főablak);
     k_.hasznos.ablakméretez(*this, 0.9);
     k_.hasznos.ablakstílus(*this);
-    Module_hasznos::szövegbeigazít(*Label_felirat_, QStringLiteral("Mi a párja? Gépeld be a megoldást!"));
+    Module_hasznos::szövegbeigazít(*Label_felirat_, u"Mi a párja? Gépeld be a megoldást!"_s);
     QFont betű(QStringList{fonts::times_new_roman_ce});
     fonts::set_points(betű, fonts::points(Label_felirat_->font()) / 2);
     for (QRadioButton *gomb : irány_.nyelvoptb)
@@ -129,7 +131,7 @@ void kikérdező::cmd_ok_Click() {
             return;
         case kikérdezés::eredmény::hibás:
             k_.üzenetek.beep();
-            k_.üzenetmutat(üzenetidő, {Pic_kérdés_->property("tag").toString() + QStringLiteral(" - ") +
+            k_.üzenetmutat(üzenetidő, {Pic_kérdés_->property("tag").toString() + u" - "_s +
                                        txt_megoldás_->property("tag").toString()});
             txt_megoldás_->clear();
             kérdez();
@@ -139,8 +141,8 @@ void kikérdező::cmd_ok_Click() {
 }
 
 void kikérdező::eredmény() {
-    k_.üzenetmutat(üzenetidő, {QStringLiteral("Gratulálok! Sikerült!"), QStringLiteral(" "),
-                               QStringLiteral("Hibaarány: %1%").arg(számszöveg(quiz_.hibaarány()))});
+    k_.üzenetmutat(üzenetidő,
+                   {u"Gratulálok! Sikerült!"_s, u" "_s, u"Hibaarány: %1%"_s.arg(számszöveg(quiz_.hibaarány()))});
 }
 
 void kikérdező::nyelvoptb_Click() {

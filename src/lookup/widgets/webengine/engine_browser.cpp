@@ -6,18 +6,20 @@
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineLoadingInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString reason_of(const QWebEngineLoadingInfo &info) {
     switch (info.errorDomain()) {
         case QWebEngineLoadingInfo::ConnectionErrorDomain:
-            return QStringLiteral("nem lehet kapcsolódni. Van internetkapcsolat?");
+            return u"nem lehet kapcsolódni. Van internetkapcsolat?"_s;
         case QWebEngineLoadingInfo::DnsErrorDomain:
-            return QStringLiteral("ilyen nevű kiszolgáló nem található. Van internetkapcsolat?");
+            return u"ilyen nevű kiszolgáló nem található. Van internetkapcsolat?"_s;
         case QWebEngineLoadingInfo::CertificateErrorDomain:
-            return QStringLiteral("a kiszolgáló nem tudja igazolni, hogy az, akinek mondja magát.");
+            return u"a kiszolgáló nem tudja igazolni, hogy az, akinek mondja magát."_s;
         default:
-            return QStringLiteral("hiba történt (%1).").arg(info.errorCode());
+            return u"hiba történt (%1)."_s.arg(info.errorCode());
     }
 }
 
@@ -28,10 +30,10 @@ EngineBrowser::EngineBrowser(const WebBrowserRules &rules)
       profile_(std::make_unique<QWebEngineProfile>()),
       page_(std::make_unique<EnginePage>(profile_.get(), rules)),
       view_(std::make_unique<QWebEngineView>(page_.get())) {
-    profile_->setHttpAcceptLanguage(QStringLiteral("hu-HU,hu;q=0.9,en;q=0.5"));
+    profile_->setHttpAcceptLanguage(u"hu-HU,hu;q=0.9,en;q=0.5"_s);
     connect(profile_.get(), &QWebEngineProfile::downloadRequested, this, [this](QWebEngineDownloadRequest *download) {
         download->cancel();
-        refuse(QStringLiteral("Innen nem tölthető le fájl: „%1”.").arg(download->suggestedFileName()));
+        refuse(u"Innen nem tölthető le fájl: „%1”."_s.arg(download->suggestedFileName()));
     });
     watch_page();
     fill_context_menu();
@@ -59,7 +61,7 @@ void EngineBrowser::watch_page() {
     connect(page_.get(), &EnginePage::refused, this, [this](const QString &sentence) { refuse(sentence); });
     connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, [this](auto status) {
         if (status != QWebEnginePage::NormalTerminationStatus)
-            refuse(QStringLiteral("A lap megjelenítése megszakadt. A Frissítés gomb újra megnyitja."));
+            refuse(u"A lap megjelenítése megszakadt. A Frissítés gomb újra megnyitja."_s);
     });
 }
 
@@ -90,7 +92,7 @@ void EngineBrowser::tell_failure(const QWebEngineLoadingInfo &info) {
     // With a status of its own the server has sent a page of its own.
     if (info.status() == QWebEngineLoadingInfo::LoadFailedStatus &&
         info.errorDomain() != QWebEngineLoadingInfo::HttpStatusCodeDomain)
-        refuse(QStringLiteral("A(z) „%1” lap nem tölthető be: %2").arg(info.url().toDisplayString(), reason_of(info)));
+        refuse(u"A(z) „%1” lap nem tölthető be: %2"_s.arg(info.url().toDisplayString(), reason_of(info)));
 }
 
 void EngineBrowser::fill_context_menu() {

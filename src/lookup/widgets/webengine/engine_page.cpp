@@ -4,11 +4,13 @@
 #include <QWebEngineSettings>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString archive_scheme = QStringLiteral("thismessage");
+const QString archive_scheme = u"thismessage"_s;
 /// Name of the document within the archive.
-const QString archive_document = QStringLiteral("/index.html");
+const QString archive_document = u"/index.html"_s;
 
 void set_up(QWebEngineSettings &settings) {
     // Its pages of errors are in the language of the system, if they are at all.
@@ -86,12 +88,11 @@ bool EnginePage::javaScriptPrompt(const QUrl &, const QString &, const QString &
 
 void EnginePage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &message, int, const QString &) {
     // The engine itself lets no page of the web or of an archive lead to a file, and says so only here.
-    static const QString blocked = QStringLiteral("Not allowed to load local resource: ");
+    static const QString blocked = u"Not allowed to load local resource: "_s;
     if (!message.startsWith(blocked))
         return;
     const QUrl address(message.mid(blocked.size()));
     const auto obstacle = rules_.obstacle(address);
-    Q_EMIT refused(obstacle
-                       ? obstacle->sentence
-                       : QStringLiteral("Erről a lapról nem nyitható meg fájl: „%1”.").arg(address.toDisplayString()));
+    Q_EMIT refused(obstacle ? obstacle->sentence
+                            : u"Erről a lapról nem nyitható meg fájl: „%1”."_s.arg(address.toDisplayString()));
 }

@@ -10,6 +10,8 @@
 #include <limits>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int rate = 44100;
@@ -29,9 +31,9 @@ constexpr qint64 largest_piece = mebibyte;
 
 /// Where Debian, Fedora and Arch put what their packages of General MIDI sounds agree on, then single fonts.
 const QStringList sound_fonts{
-    QStringLiteral("/usr/share/sounds/sf2/default-GM.sf2"), QStringLiteral("/usr/share/sounds/sf3/default-GM.sf3"),
-    QStringLiteral("/usr/share/soundfonts/default.sf2"),    QStringLiteral("/usr/share/sounds/sf2/TimGM6mb.sf2"),
-    QStringLiteral("/usr/share/sounds/sf2/FluidR3_GM.sf2"), QStringLiteral("/usr/share/soundfonts/FluidR3_GM.sf2"),
+    u"/usr/share/sounds/sf2/default-GM.sf2"_s, u"/usr/share/sounds/sf3/default-GM.sf3"_s,
+    u"/usr/share/soundfonts/default.sf2"_s,    u"/usr/share/sounds/sf2/TimGM6mb.sf2"_s,
+    u"/usr/share/sounds/sf2/FluidR3_GM.sf2"_s, u"/usr/share/soundfonts/FluidR3_GM.sf2"_s,
 };
 
 /// A machine without a device is nothing to write about to the terminal.

@@ -5,6 +5,8 @@
 
 #include "support/exercise_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class LearningWindow : public ExerciseTest {
@@ -31,17 +33,17 @@ class LearningWindow : public ExerciseTest {
 TEST_F(LearningWindow, has_every_control_under_its_name_with_its_caption) {
     start(numbered_pairs(3));
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("tanulás"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Tanulás"));
-    EXPECT_EQ(control<QPushButton>(*window_, "Command1")->text(), QStringLiteral("Ok"));
-    EXPECT_EQ(control<QPushButton>(*window_, "Command2")->text(), QStringLiteral("Kilép"));
+    EXPECT_EQ(window_->objectName(), u"tanulás"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Tanulás"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "Command1")->text(), u"Ok"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "Command2")->text(), u"Kilép"_s);
     EXPECT_TRUE(control<QLabel>(*window_, "Label4")->isVisible());
     for (const char *name : {"label1", "label3"})
         EXPECT_FALSE(control<PictureBox>(*window_, name)->accessibleName().isEmpty());
 }
 
 TEST_F(LearningWindow, holds_the_pairs_in_two_hidden_lists_in_list_order) {
-    start({{QStringLiteral("dog"), QStringLiteral("kutya")}, {QStringLiteral("cat"), QStringLiteral("macska, cica")}});
+    start({{u"dog"_s, u"kutya"_s}, {u"cat"_s, u"macska, cica"_s}});
 
     const auto *english = control<ListBox>(*window_, "tanlist1");
     const auto *hungarian = control<ListBox>(*window_, "tanlist2");
@@ -49,18 +51,18 @@ TEST_F(LearningWindow, holds_the_pairs_in_two_hidden_lists_in_list_order) {
     EXPECT_FALSE(hungarian->isVisible());
     ASSERT_EQ(english->count(), 2);
     ASSERT_EQ(hungarian->count(), 2);
-    EXPECT_EQ(english->item(1), QStringLiteral("cat"));
-    EXPECT_EQ(hungarian->item(1), QStringLiteral("macska, cica"));
+    EXPECT_EQ(english->item(1), u"cat"_s);
+    EXPECT_EQ(hungarian->item(1), u"macska, cica"_s);
 }
 
 TEST_F(LearningWindow, counts_from_one_with_a_blank_before_each_number) {
     start(numbered_pairs(20));
-    EXPECT_EQ(page(), QStringLiteral("word0|szó0| 1/ 20"));
+    EXPECT_EQ(page(), u"word0|szó0| 1/ 20"_s);
 
     press_ok();
     press_ok();
 
-    EXPECT_EQ(page(), QStringLiteral("word2|szó2| 3/ 20"));
+    EXPECT_EQ(page(), u"word2|szó2| 3/ 20"_s);
 }
 
 TEST_F(LearningWindow, reads_the_whole_list_in_order_and_closes_with_the_ok_of_the_last_pair) {
@@ -72,13 +74,12 @@ TEST_F(LearningWindow, reads_the_whole_list_in_order_and_closes_with_the_ok_of_t
         press_ok();
     }
 
-    EXPECT_EQ(pages, QStringList({QStringLiteral("word0|szó0| 1/ 3"), QStringLiteral("word1|szó1| 2/ 3"),
-                                  QStringLiteral("word2|szó2| 3/ 3")}));
+    EXPECT_EQ(pages, QStringList({u"word0|szó0| 1/ 3"_s, u"word1|szó1| 2/ 3"_s, u"word2|szó2| 3/ 3"_s}));
 }
 
 TEST_F(LearningWindow, of_one_pair_shows_one_of_one_and_closes_with_the_next_ok) {
     start(numbered_pairs(1));
-    EXPECT_EQ(page(), QStringLiteral("word0|szó0| 1/ 1"));
+    EXPECT_EQ(page(), u"word0|szó0| 1/ 1"_s);
 
     press_ok();
 
@@ -99,14 +100,14 @@ TEST_F(LearningWindow, starts_again_at_the_first_pair_when_it_becomes_active_aga
     start(numbered_pairs(20));
     press_ok();
     press_ok();
-    ASSERT_EQ(page(), QStringLiteral("word2|szó2| 3/ 20"));
-    ablak another(QStringLiteral("another"));
+    ASSERT_EQ(page(), u"word2|szó2| 3/ 20"_s);
+    ablak another(u"another"_s);
 
     show(another);
-    EXPECT_EQ(page(), QStringLiteral("word2|szó2| 3/ 20"));
+    EXPECT_EQ(page(), u"word2|szó2| 3/ 20"_s);
     QApplication::setActiveWindow(window_.get());
 
-    EXPECT_EQ(page(), QStringLiteral("word0|szó0| 1/ 20"));
+    EXPECT_EQ(page(), u"word0|szó0| 1/ 20"_s);
 }
 
 TEST_F(LearningWindow, ends_its_modal_display_with_kilép_with_escape_and_with_its_frame) {
@@ -132,7 +133,7 @@ TEST_F(LearningWindow, turns_the_page_with_enter) {
 
     QTest::keyClick(window_.get(), Qt::Key_Return);
 
-    EXPECT_EQ(page(), QStringLiteral("word1|szó1| 2/ 3"));
+    EXPECT_EQ(page(), u"word1|szó1| 2/ 3"_s);
 }
 
 TEST_F(LearningWindow, turns_one_page_for_enter_that_is_held_down) {
@@ -142,11 +143,11 @@ TEST_F(LearningWindow, turns_one_page_for_enter_that_is_held_down) {
     QTest::keyClick(ok, Qt::Key_Return);
 
     for (int i = 0; i < 8; ++i) {
-        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
         QApplication::sendEvent(ok, &repeat);
     }
 
-    EXPECT_EQ(page(), QStringLiteral("word1|szó1| 2/ 10"));
+    EXPECT_EQ(page(), u"word1|szó1| 2/ 10"_s);
 }
 
 TEST_F(LearningWindow, puts_english_on_the_left_and_the_buttons_under_the_middles_of_the_halves) {
@@ -187,8 +188,8 @@ TEST_F(LearningWindow, keeps_words_and_meanings_of_two_hundred_letters_inside_th
         use_screen(pixels);
         start(pairs);
         for (int i = 0; i < 2; ++i) {
-            expect_text_inside(*window_, QStringLiteral("label1"));
-            expect_text_inside(*window_, QStringLiteral("label3"));
+            expect_text_inside(*window_, u"label1"_s);
+            expect_text_inside(*window_, u"label3"_s);
             press_ok();
         }
     }
@@ -196,12 +197,12 @@ TEST_F(LearningWindow, keeps_words_and_meanings_of_two_hundred_letters_inside_th
 
 TEST_F(LearningWindow, opens_a_list_of_five_thousand_pairs) {
     start(numbered_pairs(5000));
-    EXPECT_EQ(page(), QStringLiteral("word0|szó0| 1/ 5000"));
+    EXPECT_EQ(page(), u"word0|szó0| 1/ 5000"_s);
 
     press_ok();
 
-    EXPECT_EQ(page(), QStringLiteral("word1|szó1| 2/ 5000"));
-    expect_whole_caption(*window_, QStringLiteral("Label_info"));
+    EXPECT_EQ(page(), u"word1|szó1| 2/ 5000"_s);
+    expect_whole_caption(*window_, u"Label_info"_s);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include "support/letter_puzzle_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class LetterPuzzleKeyboard : public LetterPuzzleTest {
@@ -48,25 +50,25 @@ TEST_F(LetterPuzzleKeyboard, begins_on_the_leftmost_tile) {
 
 TEST_F(LetterPuzzleKeyboard, tab_goes_from_left_to_right_and_then_to_the_button) {
     for (int game = 0; game < 5; ++game) {
-        start({{QStringLiteral("extraordinary"), QStringLiteral("kérdés")}});
-        ASSERT_NE(names_from_left().front() + names_from_left().back(), QStringLiteral("Label_betű(0)Label_betű(12)"));
+        start({{u"extraordinary"_s, u"kérdés"_s}});
+        ASSERT_NE(names_from_left().front() + names_from_left().back(), u"Label_betű(0)Label_betű(12)"_s);
 
-        EXPECT_EQ(tab_order(*window_), names_from_left().join(u' ') + QStringLiteral(" cmd_ok"));
+        EXPECT_EQ(tab_order(*window_), names_from_left().join(u' ') + u" cmd_ok"_s);
     }
 }
 
 TEST_F(LetterPuzzleKeyboard, tab_goes_from_left_to_right_in_the_row_that_was_closed_up) {
-    start({{QStringLiteral("cat"), QStringLiteral("macska")}});
+    start({{u"cat"_s, u"macska"_s}});
 
     lay_out({2, 0, 1});
     click_frame();
     tile(2)->setFocus();
 
-    EXPECT_EQ(tab_order(*window_), QStringLiteral("Label_betű(2) Label_betű(0) Label_betű(1) cmd_ok"));
+    EXPECT_EQ(tab_order(*window_), u"Label_betű(2) Label_betű(0) Label_betű(1) cmd_ok"_s);
 }
 
 TEST_F(LetterPuzzleKeyboard, arrows_move_the_focus_along_the_row) {
-    start({{QStringLiteral("cat"), QStringLiteral("macska")}});
+    start({{u"cat"_s, u"macska"_s}});
     lay_out({1, 2, 0});
     const QVector<QRect> lying = places();
     tile(1)->setFocus();
@@ -83,7 +85,7 @@ TEST_F(LetterPuzzleKeyboard, arrows_move_the_focus_along_the_row) {
 }
 
 TEST_F(LetterPuzzleKeyboard, arrows_move_the_focus_up_and_down) {
-    start({{QStringLiteral("cat"), QStringLiteral("macska")}});
+    start({{u"cat"_s, u"macska"_s}});
     const int height = tile(0)->height();
     drag(2, {30, 0});
     drag(0, {30, height});
@@ -163,7 +165,7 @@ TEST_F(LetterPuzzleKeyboard, enter_checks_on_a_tile_and_on_the_button) {
     lay_out(right_order());
     tile(1)->setFocus();
     press_key(Qt::Key_Return);
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 3"));
+    EXPECT_EQ(counter(), u" 2/ 3"_s);
 
     lay_out(wrong_order());
     control<QPushButton>(*window_, "cmd_ok")->setFocus();
@@ -182,7 +184,7 @@ TEST_F(LetterPuzzleKeyboard, enter_that_is_held_down_checks_once) {
         press_key(Qt::Key_Return);
         ASSERT_EQ(messages_.size(), 1);
 
-        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
         QApplication::sendEvent(window_->focusWidget(), &repeat);
 
         EXPECT_EQ(messages_.size(), 1);
@@ -191,25 +193,22 @@ TEST_F(LetterPuzzleKeyboard, enter_that_is_held_down_checks_once) {
 
 TEST_F(LetterPuzzleKeyboard, tiles_have_names_that_can_be_read_out) {
     store("nyelv", 0);
-    start({{QStringLiteral("grape"), QStringLiteral("szőlő ág")}});
+    start({{u"grape"_s, u"szőlő ág"_s}});
     QStringList names;
 
     for (const LetterTile *one : tiles())
         names.append(one->accessibleName());
 
-    EXPECT_EQ(names, QStringList({QStringLiteral("sz betű"), QStringLiteral("ő betű"), QStringLiteral("l betű"),
-                                  QStringLiteral("ő betű"), QStringLiteral("szóköz"), QStringLiteral("á betű"),
-                                  QStringLiteral("g betű")}));
-    EXPECT_EQ(control<PictureBox>(*window_, "pic_feladvány")->accessibleDescription(), QStringLiteral("grape"));
+    EXPECT_EQ(names, QStringList(
+                         {u"sz betű"_s, u"ő betű"_s, u"l betű"_s, u"ő betű"_s, u"szóköz"_s, u"á betű"_s, u"g betű"_s}));
+    EXPECT_EQ(control<PictureBox>(*window_, "pic_feladvány")->accessibleDescription(), u"grape"_s);
     EXPECT_FALSE(control<PictureBox>(*window_, "pic_feladvány")->accessibleName().isEmpty());
     EXPECT_FALSE(frame()->accessibleName().isEmpty());
     EXPECT_FALSE(control<QPushButton>(*window_, "cmd_ok")->accessibleName().isEmpty());
 }
 
 TEST_F(LetterPuzzleKeyboard, whole_game_is_played_by_the_keyboard_alone) {
-    start({{QStringLiteral("to go"), QStringLiteral("elindul")},
-           {QStringLiteral("ship"), QStringLiteral("hajó")},
-           {QStringLiteral("grape"), QStringLiteral("szőlő")}});
+    start({{u"to go"_s, u"elindul"_s}, {u"ship"_s, u"hajó"_s}, {u"grape"_s, u"szőlő"_s}});
 
     for (int i = 0; i < 3; ++i) {
         ASSERT_TRUE(window_->isVisible());
@@ -225,8 +224,7 @@ TEST_F(LetterPuzzleKeyboard, whole_game_is_played_by_the_keyboard_alone) {
             right.append(one.lines);
     }
     right.sort();
-    EXPECT_EQ(right, QStringList({QStringLiteral("grape - szőlő"), QStringLiteral("ship - hajó"),
-                                  QStringLiteral("to go - elindul")}));
+    EXPECT_EQ(right, QStringList({u"grape - szőlő"_s, u"ship - hajó"_s, u"to go - elindul"_s}));
 }
 
 }  // namespace

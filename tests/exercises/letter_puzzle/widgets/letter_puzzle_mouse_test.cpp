@@ -2,6 +2,8 @@
 
 #include "support/letter_puzzle_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class LetterPuzzleMouse : public LetterPuzzleTest {
@@ -27,19 +29,18 @@ class LetterPuzzleMouse : public LetterPuzzleTest {
 
 /// An answer of sixty letters.
 QString sixty_letters() {
-    return QStringLiteral("antidisestablishmentarianism").repeated(3).left(60);
+    return u"antidisestablishmentarianism"_s.repeated(3).left(60);
 }
 
 TEST_F(LetterPuzzleMouse, tiles_are_scattered_in_the_frame_without_overlap) {
     for (const QSize &pixels : screens) {
-        for (const QString &word : {QStringLiteral("ox"), QStringLiteral("extraordinary"),
-                                    QStringLiteral("to look forward to something"), sixty_letters()}) {
+        for (const QString &word : {u"ox"_s, u"extraordinary"_s, u"to look forward to something"_s, sixty_letters()}) {
             use_screen(pixels);
-            start({{word, QStringLiteral("kérdés")}});
+            start({{word, u"kérdés"_s}});
             ASSERT_EQ(tiles().size(), word.size());
 
             for (int i = 0; i < 10; ++i) {
-                expect_apart_in_frame(QStringLiteral("%1 of %2").arg(word).arg(pixels.width()).toStdString());
+                expect_apart_in_frame(u"%1 of %2"_s.arg(word).arg(pixels.width()).toStdString());
                 trigger("mnu_fájl_újrakezd");
             }
         }
@@ -47,7 +48,7 @@ TEST_F(LetterPuzzleMouse, tiles_are_scattered_in_the_frame_without_overlap) {
 }
 
 TEST_F(LetterPuzzleMouse, tiles_of_a_short_word_lie_all_over_the_frame) {
-    start({{QStringLiteral("ox"), QStringLiteral("kérdés")}});
+    start({{u"ox"_s, u"kérdés"_s}});
     QRect reached;
 
     for (int i = 0; i < 100; ++i) {
@@ -63,9 +64,9 @@ TEST_F(LetterPuzzleMouse, tiles_of_a_short_word_lie_all_over_the_frame) {
 
 TEST_F(LetterPuzzleMouse, tiles_of_a_word_have_one_font_and_hold_their_letters) {
     for (const QSize &pixels : screens) {
-        for (const QString &word : {QStringLiteral("win"), sixty_letters()}) {
+        for (const QString &word : {u"win"_s, sixty_letters()}) {
             use_screen(pixels);
-            start({{word, QStringLiteral("kérdés")}});
+            start({{word, u"kérdés"_s}});
 
             for (const LetterTile *one : tiles()) {
                 EXPECT_EQ(one->font(), tile(0)->font());
@@ -75,7 +76,7 @@ TEST_F(LetterPuzzleMouse, tiles_of_a_word_have_one_font_and_hold_their_letters) 
             }
         }
     }
-    start({{QStringLiteral("win"), QStringLiteral("kérdés")}});
+    start({{u"win"_s, u"kérdés"_s}});
     EXPECT_GT(tile(0)->width(), tile(1)->width());
 }
 
@@ -197,11 +198,11 @@ TEST_F(LetterPuzzleMouse, click_on_the_frame_closes_the_tiles_up_in_their_order_
     EXPECT_LE(tiles_from_left().front()->x(), first.x());
     EXPECT_TRUE(messages_.isEmpty());
     EXPECT_EQ(question(), asked);
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
 }
 
 TEST_F(LetterPuzzleMouse, tiles_close_up_from_where_the_leftmost_lies) {
-    start({{QStringLiteral("cat"), QStringLiteral("macska")}});
+    start({{u"cat"_s, u"macska"_s}});
     lay_out(right_order());
     const int left = right_of_the_row();
     drag(0, {left + 200, 0});
@@ -210,14 +211,14 @@ TEST_F(LetterPuzzleMouse, tiles_close_up_from_where_the_leftmost_lies) {
 
     click_frame();
 
-    EXPECT_EQ(row(), QStringLiteral("a t c"));
+    EXPECT_EQ(row(), u"a t c"_s);
     EXPECT_EQ(tile(1)->pos(), QPoint(left + 30, 30));
     EXPECT_EQ(tile(2)->pos(), QPoint(left + 30 + tile(1)->width(), 30));
     EXPECT_EQ(tile(0)->pos(), QPoint(left + 30 + tile(1)->width() + tile(2)->width(), 30));
 }
 
 TEST_F(LetterPuzzleMouse, tiles_close_up_inside_the_frame_when_they_lie_at_its_right_edge) {
-    start({{QStringLiteral("cat"), QStringLiteral("macska")}});
+    start({{u"cat"_s, u"macska"_s}});
     int top = 0;
     for (int i = 0; i < 3; ++i) {
         drag(i, {frame()->width() - tile(i)->width(), top});
@@ -232,7 +233,7 @@ TEST_F(LetterPuzzleMouse, tiles_close_up_inside_the_frame_when_they_lie_at_its_r
 }
 
 TEST_F(LetterPuzzleMouse, tiles_with_equal_left_edges_close_up_in_the_order_of_the_answer) {
-    start({{QStringLiteral("cats"), QStringLiteral("macskák")}});
+    start({{u"cats"_s, u"macskák"_s}});
     lay_out(right_order());
     const int left = right_of_the_row() + 20;
     const int height = tile(0)->height();
@@ -243,14 +244,14 @@ TEST_F(LetterPuzzleMouse, tiles_with_equal_left_edges_close_up_in_the_order_of_t
 
     click_frame();
 
-    EXPECT_EQ(row(), QStringLiteral("a t s c"));
+    EXPECT_EQ(row(), u"a t s c"_s);
     EXPECT_EQ(tile(1)->pos(), QPoint(left, height));
 }
 
 TEST_F(LetterPuzzleMouse, tiles_of_sixty_letters_close_up_inside_the_frame) {
     for (const QSize &pixels : screens) {
         use_screen(pixels);
-        start({{sixty_letters(), QStringLiteral("kérdés")}});
+        start({{sixty_letters(), u"kérdés"_s}});
         const QVector<QRect> before = places();
 
         click_frame();
@@ -292,7 +293,7 @@ TEST_F(LetterPuzzleMouse, drag_under_way_comes_to_nothing_when_the_next_word_is_
     press_at(gripped);
 
     press_key(Qt::Key_Return);
-    ASSERT_EQ(counter(), QStringLiteral(" 2/ 3"));
+    ASSERT_EQ(counter(), u" 2/ 3"_s);
     const QVector<QRect> next = places();
     for (int i = 0; i < 5; ++i)
         move_to(middle_of(tile(i)));

@@ -5,6 +5,8 @@
 
 #include "support/exercise_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class LetterPuzzleSettingsWindow : public ExerciseTest {
@@ -16,13 +18,13 @@ class LetterPuzzleSettingsWindow : public ExerciseTest {
     }
 
     void store(const QVariant &direction) {
-        settings_.beállításment(ablak(QStringLiteral("frm_kirakó_beáll")), QStringLiteral("nyelv"), direction);
+        settings_.beállításment(ablak(u"frm_kirakó_beáll"_s), u"nyelv"_s, direction);
     }
     [[nodiscard]] QString stored() const {
-        return settings_.beállításolvas(*window_, QStringLiteral("nyelv"), QStringLiteral("nothing")).toString();
+        return settings_.beállításolvas(*window_, u"nyelv"_s, u"nothing"_s).toString();
     }
     [[nodiscard]] QRadioButton *option(int i) const {
-        return control<QRadioButton>(*window_, QStringLiteral("nyelvoptb(%1)").arg(i));
+        return control<QRadioButton>(*window_, u"nyelvoptb(%1)"_s.arg(i));
     }
     /// A line with "x" for the button that is selected: "-x-".
     [[nodiscard]] QString selected() const {
@@ -38,27 +40,26 @@ class LetterPuzzleSettingsWindow : public ExerciseTest {
 TEST_F(LetterPuzzleSettingsWindow, has_every_control_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_kirakó_beáll"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Kirakó - Beállítások"));
-    EXPECT_EQ(option(0)->text(), QStringLiteral("Angolról-Magyarra"));
-    EXPECT_EQ(option(1)->text(), QStringLiteral("Magyarról - Angolra"));
-    EXPECT_EQ(option(2)->text(), QStringLiteral("Változó nyelv"));
-    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), QStringLiteral("Ok"));
-    EXPECT_EQ(control<QPushButton>(*window_, "cmd_mégsem")->text(), QStringLiteral("Mégsem"));
-    EXPECT_EQ(control<QGroupBox>(*window_, "keret_nyelv")->title(), QStringLiteral("A kikérdezés nyelve"));
+    EXPECT_EQ(window_->objectName(), u"frm_kirakó_beáll"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Kirakó - Beállítások"_s);
+    EXPECT_EQ(option(0)->text(), u"Angolról-Magyarra"_s);
+    EXPECT_EQ(option(1)->text(), u"Magyarról - Angolra"_s);
+    EXPECT_EQ(option(2)->text(), u"Változó nyelv"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), u"Ok"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_mégsem")->text(), u"Mégsem"_s);
+    EXPECT_EQ(control<QGroupBox>(*window_, "keret_nyelv")->title(), u"A kikérdezés nyelve"_s);
 }
 
 TEST_F(LetterPuzzleSettingsWindow, begins_from_hungarian) {
     start();
 
-    EXPECT_EQ(selected(), QStringLiteral("-x-"));
+    EXPECT_EQ(selected(), u"-x-"_s);
     EXPECT_EQ(window_->merre(), irány::magyarról);
 }
 
 TEST_F(LetterPuzzleSettingsWindow, selects_what_is_stored) {
-    const std::tuple<int, QString, irány> all[] = {{0, QStringLiteral("x--"), irány::angolról},
-                                                   {1, QStringLiteral("-x-"), irány::magyarról},
-                                                   {2, QStringLiteral("--x"), irány::változó}};
+    const std::tuple<int, QString, irány> all[] = {
+        {0, u"x--"_s, irány::angolról}, {1, u"-x-"_s, irány::magyarról}, {2, u"--x"_s, irány::változó}};
     for (const auto &[index, line, direction] : all) {
         store(index);
         start();
@@ -69,12 +70,11 @@ TEST_F(LetterPuzzleSettingsWindow, selects_what_is_stored) {
 }
 
 TEST_F(LetterPuzzleSettingsWindow, selects_the_default_when_what_is_stored_is_no_index) {
-    for (const QVariant &nonsense :
-         {QVariant(-1), QVariant(3), QVariant(QStringLiteral("nonsense")), QVariant(QString())}) {
+    for (const QVariant &nonsense : {QVariant(-1), QVariant(3), QVariant(u"nonsense"_s), QVariant(QString())}) {
         store(nonsense);
         start();
 
-        EXPECT_EQ(selected(), QStringLiteral("-x-")) << nonsense.toString().toStdString();
+        EXPECT_EQ(selected(), u"-x-"_s) << nonsense.toString().toStdString();
     }
 }
 
@@ -98,7 +98,7 @@ TEST_F(LetterPuzzleSettingsWindow, enter_stores_and_closes) {
 
     QTest::keyClick(option(2), Qt::Key_Return);
 
-    EXPECT_EQ(stored(), QStringLiteral("2"));
+    EXPECT_EQ(stored(), u"2"_s);
     EXPECT_FALSE(window_->isVisible());
 }
 
@@ -111,12 +111,12 @@ TEST_F(LetterPuzzleSettingsWindow, mégsem_escape_and_the_frame_bring_back_what_
         load();
         show_modally(*window_, [&] {
             click(*window_, "nyelvoptb(0)");
-            EXPECT_EQ(selected(), QStringLiteral("x--"));
+            EXPECT_EQ(selected(), u"x--"_s);
             leave();
         });
 
-        EXPECT_EQ(selected(), QStringLiteral("--x"));
-        EXPECT_EQ(stored(), QStringLiteral("2"));
+        EXPECT_EQ(selected(), u"--x"_s);
+        EXPECT_EQ(stored(), u"2"_s);
     }
 }
 
@@ -139,7 +139,7 @@ TEST_F(LetterPuzzleSettingsWindow, is_reached_by_tab_from_control_to_control) {
     start();
     option(1)->setFocus();
 
-    EXPECT_EQ(tab_order(*window_), QStringLiteral("nyelvoptb(1) cmd_ok cmd_mégsem"));
+    EXPECT_EQ(tab_order(*window_), u"nyelvoptb(1) cmd_ok cmd_mégsem"_s);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 #include "support/letter_puzzle_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using LetterPuzzleWindow = LetterPuzzleTest;
@@ -11,12 +13,12 @@ using LetterPuzzleWindow = LetterPuzzleTest;
 TEST_F(LetterPuzzleWindow, has_every_control_under_its_name_with_its_caption) {
     start(10);
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_kirakó"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Kirakó"));
-    EXPECT_EQ(label(*window_, "Label_főcím"), QStringLiteral("Rakd ki a szót az összekevert betűkből!"));
-    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), QStringLiteral("Ok"));
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
-    EXPECT_TRUE(question().startsWith(QStringLiteral("szó")));
+    EXPECT_EQ(window_->objectName(), u"frm_kirakó"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Kirakó"_s);
+    EXPECT_EQ(label(*window_, "Label_főcím"), u"Rakd ki a szót az összekevert betűkből!"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), u"Ok"_s);
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
+    EXPECT_TRUE(question().startsWith(u"szó"_s));
     EXPECT_EQ(tiles().size(), 5);
     for (const LetterTile *one : tiles())
         EXPECT_TRUE(one->isVisible());
@@ -25,43 +27,42 @@ TEST_F(LetterPuzzleWindow, has_every_control_under_its_name_with_its_caption) {
 TEST_F(LetterPuzzleWindow, has_every_menu_item_under_its_name_with_its_caption) {
     start(2);
 
-    EXPECT_EQ(control<QMenu>(*window_, "mnu_fájl")->title(), QStringLiteral("&Fájl"));
-    EXPECT_EQ(menu_items(),
-              QStringList({QStringLiteral("mnu_fájl_újrakezd &Újrakezd"), QStringLiteral("mnu_fájl_beáll &Beállítások"),
-                           QStringLiteral("mnu_fájl_elválaszt"), QStringLiteral("mnu_fájl_kilép &Kilép")}));
+    EXPECT_EQ(control<QMenu>(*window_, "mnu_fájl")->title(), u"&Fájl"_s);
+    EXPECT_EQ(menu_items(), QStringList({u"mnu_fájl_újrakezd &Újrakezd"_s, u"mnu_fájl_beáll &Beállítások"_s,
+                                         u"mnu_fájl_elválaszt"_s, u"mnu_fájl_kilép &Kilép"_s}));
 }
 
 TEST_F(LetterPuzzleWindow, has_a_tile_for_each_hungarian_letter_of_a_hungarian_answer) {
     store("nyelv", 0);
     start(grape);
 
-    EXPECT_EQ(question(), QStringLiteral("grape"));
-    EXPECT_EQ(answer(), QStringLiteral("sz ő l ő"));
+    EXPECT_EQ(question(), u"grape"_s);
+    EXPECT_EQ(answer(), u"sz ő l ő"_s);
 }
 
 TEST_F(LetterPuzzleWindow, has_a_tile_for_each_character_of_an_english_answer) {
-    start({{QStringLiteral("ship"), QStringLiteral("hajó")}});
+    start({{u"ship"_s, u"hajó"_s}});
 
-    EXPECT_EQ(question(), QStringLiteral("hajó"));
-    EXPECT_EQ(answer(), QStringLiteral("s h i p"));
+    EXPECT_EQ(question(), u"hajó"_s);
+    EXPECT_EQ(answer(), u"s h i p"_s);
 }
 
 TEST_F(LetterPuzzleWindow, has_a_tile_for_the_blank_between_two_words_of_the_answer) {
-    start({{QStringLiteral("to go"), QStringLiteral("elindul valahová")}});
+    start({{u"to go"_s, u"elindul valahová"_s}});
 
-    EXPECT_EQ(question(), QStringLiteral("elindul valahová"));
-    EXPECT_EQ(answer(), QStringLiteral("t o _ g o"));
+    EXPECT_EQ(question(), u"elindul valahová"_s);
+    EXPECT_EQ(answer(), u"t o _ g o"_s);
 }
 
 TEST_F(LetterPuzzleWindow, is_right_only_with_the_blank_in_its_place) {
-    start({{QStringLiteral("to go"), QStringLiteral("elindul")}});
+    start({{u"to go"_s, u"elindul"_s}});
 
     lay_out({2, 0, 1, 3, 4});
     check();
     EXPECT_EQ(messages_.back().lines, wrong_message);
 
     answer_rightly();
-    EXPECT_EQ(messages_.back().lines, QStringList(QStringLiteral("to go - elindul")));
+    EXPECT_EQ(messages_.back().lines, QStringList(u"to go - elindul"_s));
     EXPECT_FALSE(window_->isVisible());
 }
 
@@ -72,16 +73,16 @@ TEST_F(LetterPuzzleWindow, is_right_with_equal_letters_exchanged) {
     lay_out({0, 3, 2, 1});
     check();
 
-    EXPECT_EQ(messages_.back().lines, QStringList(QStringLiteral("grape - szőlő")));
+    EXPECT_EQ(messages_.back().lines, QStringList(u"grape - szőlő"_s));
 }
 
 TEST_F(LetterPuzzleWindow, tells_the_language_of_the_answer) {
     start(grape);
-    EXPECT_EQ(label(*window_, "Label1"), QStringLiteral("Angolul:"));
+    EXPECT_EQ(label(*window_, "Label1"), u"Angolul:"_s);
 
     store("nyelv", 0);
     start(grape);
-    EXPECT_EQ(label(*window_, "Label1"), QStringLiteral("Magyarul:"));
+    EXPECT_EQ(label(*window_, "Label1"), u"Magyarul:"_s);
 }
 
 TEST_F(LetterPuzzleWindow, reports_a_right_answer_with_its_pair_and_asks_on) {
@@ -97,10 +98,10 @@ TEST_F(LetterPuzzleWindow, reports_a_right_answer_with_its_pair_and_asks_on) {
 
     ASSERT_EQ(messages_.size(), 1);
     EXPECT_EQ(messages_[0].milliseconds, 2000);
-    EXPECT_EQ(messages_[0].lines, QStringList(QStringLiteral("word%1 - szó%1").arg(asked.mid(3))));
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    EXPECT_EQ(messages_[0].lines, QStringList(u"word%1 - szó%1"_s.arg(asked.mid(3))));
+    EXPECT_EQ(counter(), u" 2/ 10"_s);
     EXPECT_NE(question(), asked);
-    EXPECT_EQ(answer(), QStringLiteral("w o r d ") + question().mid(3));
+    EXPECT_EQ(answer(), u"w o r d "_s + question().mid(3));
 }
 
 TEST_F(LetterPuzzleWindow, reports_english_first_whichever_side_is_asked) {
@@ -109,7 +110,7 @@ TEST_F(LetterPuzzleWindow, reports_english_first_whichever_side_is_asked) {
 
     answer_rightly();
 
-    EXPECT_EQ(messages_[0].lines, QStringList(QStringLiteral("grape - szőlő")));
+    EXPECT_EQ(messages_[0].lines, QStringList(u"grape - szőlő"_s));
 }
 
 TEST_F(LetterPuzzleWindow, reports_a_wrong_answer_and_keeps_the_word_as_it_was_laid) {
@@ -122,9 +123,9 @@ TEST_F(LetterPuzzleWindow, reports_a_wrong_answer_and_keeps_the_word_as_it_was_l
     EXPECT_EQ(messages_[0].milliseconds, 2000);
     EXPECT_EQ(messages_[0].lines, wrong_message);
     EXPECT_EQ(question(), asked);
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
     EXPECT_TRUE(closed_up());
-    EXPECT_EQ(row(), asked.mid(3) + QStringLiteral(" d r o w"));
+    EXPECT_EQ(row(), asked.mid(3) + u" d r o w"_s);
     EXPECT_TRUE(window_->isVisible());
 }
 
@@ -148,7 +149,7 @@ TEST_F(LetterPuzzleWindow, closes_after_the_last_word_without_another_message) {
 
     for (int i = 0; i < 3; ++i) {
         EXPECT_TRUE(window_->isVisible());
-        EXPECT_EQ(counter(), QStringLiteral(" %1/ 3").arg(i + 1));
+        EXPECT_EQ(counter(), u" %1/ 3"_s.arg(i + 1));
         asked.insert(question());
         answer_rightly();
     }
@@ -181,18 +182,18 @@ TEST_F(LetterPuzzleWindow, does_not_ask_on_when_it_was_closed_during_the_message
 
     EXPECT_FALSE(window_->isVisible());
     EXPECT_EQ(question(), asked);
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+    EXPECT_EQ(counter(), u" 1/ 3"_s);
 }
 
 TEST_F(LetterPuzzleWindow, újrakezd_begins_anew_in_the_middle_of_a_game) {
     start(3);
     answer_rightly();
     answer_rightly();
-    EXPECT_EQ(counter(), QStringLiteral(" 3/ 3"));
+    EXPECT_EQ(counter(), u" 3/ 3"_s);
 
     trigger("mnu_fájl_újrakezd");
 
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+    EXPECT_EQ(counter(), u" 1/ 3"_s);
     messages_.clear();
     for (int i = 0; i < 3; ++i)
         answer_rightly();
@@ -212,12 +213,12 @@ TEST_F(LetterPuzzleWindow, uses_a_saved_direction_from_the_next_word_on) {
     });
 
     EXPECT_EQ(question(), asked);
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+    EXPECT_EQ(counter(), u" 1/ 3"_s);
     EXPECT_EQ(places(), lying);
     answer_rightly();
-    EXPECT_TRUE(question().startsWith(QStringLiteral("word")));
-    EXPECT_TRUE(answer().startsWith(QStringLiteral("sz ó ")));
-    EXPECT_EQ(label(*window_, "Label1"), QStringLiteral("Magyarul:"));
+    EXPECT_TRUE(question().startsWith(u"word"_s));
+    EXPECT_TRUE(answer().startsWith(u"sz ó "_s));
+    EXPECT_EQ(label(*window_, "Label1"), u"Magyarul:"_s);
 }
 
 TEST_F(LetterPuzzleWindow, goes_on_as_before_when_the_settings_are_cancelled) {
@@ -229,7 +230,7 @@ TEST_F(LetterPuzzleWindow, goes_on_as_before_when_the_settings_are_cancelled) {
     });
 
     answer_rightly();
-    EXPECT_TRUE(question().startsWith(QStringLiteral("szó")));
+    EXPECT_TRUE(question().startsWith(u"szó"_s));
 }
 
 TEST_F(LetterPuzzleWindow, keeps_its_settings_for_the_next_opening_apart_from_the_other_exercises) {
@@ -242,8 +243,8 @@ TEST_F(LetterPuzzleWindow, keeps_its_settings_for_the_next_opening_apart_from_th
 
     start(3);
 
-    EXPECT_TRUE(question().startsWith(QStringLiteral("word")));
-    EXPECT_EQ(settings_.beállításolvas(ablak(QStringLiteral("választás_beáll")), QStringLiteral("nyelv"), 7), 7);
+    EXPECT_TRUE(question().startsWith(u"word"_s));
+    EXPECT_EQ(settings_.beállításolvas(ablak(u"választás_beáll"_s), u"nyelv"_s, 7), 7);
 }
 
 TEST_F(LetterPuzzleWindow, draws_the_changing_direction_for_every_word) {
@@ -252,10 +253,10 @@ TEST_F(LetterPuzzleWindow, draws_the_changing_direction_for_every_word) {
     int english = 0;
 
     for (int i = 0; i < 40; ++i) {
-        const bool from_english = question().startsWith(QStringLiteral("word"));
+        const bool from_english = question().startsWith(u"word"_s);
         english += from_english ? 1 : 0;
-        EXPECT_EQ(answer().startsWith(QStringLiteral("sz ó ")), from_english);
-        EXPECT_EQ(label(*window_, "Label1"), from_english ? QStringLiteral("Magyarul:") : QStringLiteral("Angolul:"));
+        EXPECT_EQ(answer().startsWith(u"sz ó "_s), from_english);
+        EXPECT_EQ(label(*window_, "Label1"), from_english ? u"Magyarul:"_s : u"Angolul:"_s);
         answer_rightly();
     }
 
@@ -265,11 +266,9 @@ TEST_F(LetterPuzzleWindow, draws_the_changing_direction_for_every_word) {
 }
 
 TEST_F(LetterPuzzleWindow, passes_pairs_over_that_lack_a_side) {
-    start({{QStringLiteral("nothing"), QString()},
-           {QStringLiteral("grape"), QStringLiteral("szőlő")},
-           {QString(), QStringLiteral("semmi")}});
+    start({{u"nothing"_s, QString()}, {u"grape"_s, u"szőlő"_s}, {QString(), u"semmi"_s}});
 
-    EXPECT_EQ(question(), QStringLiteral("szőlő"));
+    EXPECT_EQ(question(), u"szőlő"_s);
     answer_rightly();
 
     EXPECT_FALSE(window_->isVisible());
@@ -277,8 +276,7 @@ TEST_F(LetterPuzzleWindow, passes_pairs_over_that_lack_a_side) {
 }
 
 TEST_F(LetterPuzzleWindow, closes_at_once_when_no_pair_has_both_sides) {
-    const QVector<szópár> lists[] = {{{QStringLiteral("nothing"), QString()}, {QString(), QStringLiteral("semmi")}},
-                                     {}};
+    const QVector<szópár> lists[] = {{{u"nothing"_s, QString()}, {QString(), u"semmi"_s}}, {}};
     for (const QVector<szópár> &pairs : lists) {
         load(pairs);
 
@@ -304,9 +302,9 @@ TEST_F(LetterPuzzleWindow, reads_the_list_once_and_leaves_it_alone) {
     answer_rightly();
     EXPECT_EQ(list_.pairs, before);
 
-    list_.pairs.append({QStringLiteral("late"), QStringLiteral("késő")});
+    list_.pairs.append({u"late"_s, u"késő"_s});
     trigger("mnu_fájl_újrakezd");
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+    EXPECT_EQ(counter(), u" 1/ 3"_s);
 }
 
 TEST_F(LetterPuzzleWindow, takes_nine_tenths_of_the_screen_with_every_caption_whole) {
@@ -319,28 +317,28 @@ TEST_F(LetterPuzzleWindow, takes_nine_tenths_of_the_screen_with_every_caption_wh
         expect_no_overlap(*window_);
         for (const char *name : {"Label_főcím", "Label1", "cmd_ok", "Label_info"})
             expect_whole_caption(*window_, QString::fromUtf8(name));
-        expect_text_inside(*window_, QStringLiteral("pic_feladvány"));
+        expect_text_inside(*window_, u"pic_feladvány"_s);
     }
 }
 
 TEST_F(LetterPuzzleWindow, keeps_a_question_of_two_hundred_letters_inside_its_place) {
     for (const QSize &pixels : screens) {
         use_screen(pixels);
-        start({{QStringLiteral("ox"), long_text()}});
-        expect_text_inside(*window_, QStringLiteral("pic_feladvány"));
+        start({{u"ox"_s, long_text()}});
+        expect_text_inside(*window_, u"pic_feladvány"_s);
 
-        start({{QStringLiteral("ox"), long_word()}});
-        expect_text_inside(*window_, QStringLiteral("pic_feladvány"));
+        start({{u"ox"_s, long_word()}});
+        expect_text_inside(*window_, u"pic_feladvány"_s);
     }
 }
 
 TEST_F(LetterPuzzleWindow, opens_a_list_of_five_thousand_pairs) {
     start(5000);
 
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 5000"));
+    EXPECT_EQ(counter(), u" 1/ 5000"_s);
     answer_rightly();
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 5000"));
-    expect_whole_caption(*window_, QStringLiteral("Label_info"));
+    EXPECT_EQ(counter(), u" 2/ 5000"_s);
+    expect_whole_caption(*window_, u"Label_info"_s);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "support/memory_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MemoryAnimation : public MemoryTest {
@@ -8,14 +10,14 @@ class MemoryAnimation : public MemoryTest {
     void start_with_taxis() {
         QVector<szópár> pairs;
         for (int i = 0; i < 7; ++i)
-            pairs.append({QStringLiteral("taxi"), QStringLiteral("taxi")});
+            pairs.append({u"taxi"_s, u"taxi"_s});
         start_small(pairs);
     }
 
     void expect_clean_new_deal(qsizetype cards_dealt) const {
         ASSERT_EQ(cards().size(), cards_dealt);
         EXPECT_EQ(board(), QString(cards_dealt, u'.'));
-        EXPECT_EQ(progress(), QStringLiteral("0/%1").arg(cards_dealt / 2));
+        EXPECT_EQ(progress(), u"0/%1"_s.arg(cards_dealt / 2));
         for (const ChoosablePicture *one : cards()) {
             EXPECT_NEAR(one->width(), card(0)->width(), 1);
             EXPECT_NEAR(one->height(), card(0)->height(), 1);
@@ -32,7 +34,7 @@ TEST_F(MemoryAnimation, shrinks_each_card_in_eleven_steps_round_its_middle) {
         const int shrinking = card(2)->isVisible() ? 2 : 6;
         seen[shrinking == 2 ? 0 : 1].append(card(shrinking)->geometry());
         EXPECT_EQ(step_timer()->interval(), 5);
-        EXPECT_EQ(progress(), QStringLiteral("0/6"));
+        EXPECT_EQ(progress(), u"0/6"_s);
         if (shrinking == 2) {
             EXPECT_EQ(card(6)->geometry(), before[6]);
         }
@@ -52,7 +54,7 @@ TEST_F(MemoryAnimation, shrinks_each_card_in_eleven_steps_round_its_middle) {
         }
     }
     EXPECT_EQ(steps_, 22);
-    EXPECT_EQ(progress(), QStringLiteral("1/6"));
+    EXPECT_EQ(progress(), u"1/6"_s);
 }
 
 TEST_F(MemoryAnimation, leaves_the_cards_hidden_at_their_places_in_their_size) {
@@ -120,11 +122,11 @@ TEST_F(MemoryAnimation, lets_another_card_be_turned_as_the_first_of_the_next_try
         turn(2, 6);
 
         EXPECT_TRUE(was_shrinking);
-        EXPECT_EQ(board(), QStringLiteral("..-...-..o..")) << step;
-        EXPECT_EQ(progress(), QStringLiteral("1/6"));
+        EXPECT_EQ(board(), u"..-...-..o.."_s) << step;
+        EXPECT_EQ(progress(), u"1/6"_s);
         click_card(10);
-        EXPECT_EQ(board(), QStringLiteral("..-...-..--.")) << step;
-        EXPECT_EQ(progress(), QStringLiteral("2/6"));
+        EXPECT_EQ(board(), u"..-...-..--."_s) << step;
+        EXPECT_EQ(progress(), u"2/6"_s);
     }
 }
 
@@ -141,7 +143,7 @@ TEST_F(MemoryAnimation, lets_a_wrong_pair_be_turned_meanwhile) {
 
     turn(0, found);
 
-    EXPECT_EQ(progress(), QStringLiteral("1/10"));
+    EXPECT_EQ(progress(), u"1/10"_s);
     EXPECT_EQ(board().count(u'-'), 2);
     ASSERT_EQ(wrong.size(), 2);
     EXPECT_TRUE(turned_up(wrong[0]) && turned_up(wrong[1]));
@@ -159,8 +161,8 @@ TEST_F(MemoryAnimation, lets_a_second_pair_be_found_meanwhile) {
 
         turn(2, 6);
 
-        EXPECT_EQ(board(), QStringLiteral("..-.-.-..-..")) << step;
-        EXPECT_EQ(progress(), QStringLiteral("2/6"));
+        EXPECT_EQ(board(), u"..-.-.-..-.."_s) << step;
+        EXPECT_EQ(progress(), u"2/6"_s);
         for (const int i : {2, 4, 6, 9})
             EXPECT_NEAR(card(i)->width(), card(0)->width(), 1);
     }
@@ -170,7 +172,7 @@ TEST_F(MemoryAnimation, ends_before_the_game_is_won_even_when_the_last_pair_is_f
     start_with_taxis();
     for (int i = 0; i < 8; i += 2)
         turn(i, i + 1);
-    ASSERT_EQ(progress(), QStringLiteral("4/6"));
+    ASSERT_EQ(progress(), u"4/6"_s);
     QString at_message;
     during_message_ = [&] { at_message = progress() + u' ' + board(); };
     at_step(3, [this] { turn(10, 11); });
@@ -178,7 +180,7 @@ TEST_F(MemoryAnimation, ends_before_the_game_is_won_even_when_the_last_pair_is_f
     turn(8, 9);
 
     EXPECT_EQ(messages_.size(), 1);
-    EXPECT_EQ(at_message, QStringLiteral("6/6 ------------"));
+    EXPECT_EQ(at_message, u"6/6 ------------"_s);
     expect_clean_new_deal(12);
 }
 
@@ -191,10 +193,10 @@ TEST_F(MemoryAnimation, ignores_clicks_on_the_cards_that_shrink) {
 
     turn(2, 6);
 
-    EXPECT_EQ(board(), QStringLiteral("..-...-....."));
-    EXPECT_EQ(progress(), QStringLiteral("1/6"));
+    EXPECT_EQ(board(), u"..-...-....."_s);
+    EXPECT_EQ(progress(), u"1/6"_s);
     click_card(0);
-    EXPECT_EQ(board(), QStringLiteral("o.-...-....."));
+    EXPECT_EQ(board(), u"o.-...-....."_s);
 }
 
 TEST_F(MemoryAnimation, is_ended_by_a_new_game) {
@@ -208,7 +210,7 @@ TEST_F(MemoryAnimation, is_ended_by_a_new_game) {
         expect_clean_new_deal(20);
         EXPECT_LE(steps_ - steps_before, step + 1) << step;
         find_a_pair();
-        EXPECT_EQ(progress(), QStringLiteral("1/10"));
+        EXPECT_EQ(progress(), u"1/10"_s);
     }
 }
 
@@ -218,7 +220,7 @@ TEST_F(MemoryAnimation, is_ended_by_another_board) {
             start();
             at_step(step, [&] {
                 in_settings([&](frm_memory_beáll &settings) {
-                    control<QRadioButton>(settings, QStringLiteral("Option_méret(%1)").arg(size))->setChecked(true);
+                    control<QRadioButton>(settings, u"Option_méret(%1)"_s.arg(size))->setChecked(true);
                     click(settings, "cmd_ok");
                 });
             });
@@ -239,7 +241,7 @@ TEST_F(MemoryAnimation, goes_on_while_the_settings_are_open_and_cancelled) {
     turn(0, partner(0));
 
     EXPECT_EQ(board().count(u'-'), 2);
-    EXPECT_EQ(progress(), QStringLiteral("1/10"));
+    EXPECT_EQ(progress(), u"1/10"_s);
 }
 
 TEST_F(MemoryAnimation, is_ended_when_the_window_is_closed) {
@@ -257,7 +259,7 @@ TEST_F(MemoryAnimation, is_ended_when_the_window_is_closed) {
 
         EXPECT_EQ(steps_at_the_end, 4);
         EXPECT_EQ(steps_, 4);
-        EXPECT_EQ(progress(), QStringLiteral("0/10"));
+        EXPECT_EQ(progress(), u"0/10"_s);
         EXPECT_FALSE(step_timer()->isActive());
         EXPECT_FALSE(cover_timer()->isActive());
         EXPECT_TRUE(messages_.isEmpty());
@@ -277,7 +279,7 @@ TEST_F(MemoryAnimation, is_ended_with_another_within_it_when_the_window_is_close
     });
 
     EXPECT_EQ(steps_, 8);
-    EXPECT_EQ(progress(), QStringLiteral("0/10"));
+    EXPECT_EQ(progress(), u"0/10"_s);
     EXPECT_FALSE(step_timer()->isActive());
 }
 

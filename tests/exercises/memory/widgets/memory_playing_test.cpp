@@ -2,6 +2,8 @@
 
 #include "support/memory_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using MemoryPlaying = MemoryTest;
@@ -13,7 +15,7 @@ TEST_F(MemoryPlaying, click_turns_a_card_up) {
 
     EXPECT_EQ(board(), board_with(u'o', {3}));
     EXPECT_FALSE(cover_timer()->isActive());
-    EXPECT_EQ(progress(), QStringLiteral("0/10"));
+    EXPECT_EQ(progress(), u"0/10"_s);
 }
 
 TEST_F(MemoryPlaying, click_on_a_card_that_is_up_does_nothing) {
@@ -53,7 +55,7 @@ TEST_F(MemoryPlaying, wrong_pair_is_seen_until_the_timer_fires) {
     turn(3, other);
 
     EXPECT_EQ(board(), board_with(u'o', {3, other}));
-    EXPECT_EQ(progress(), QStringLiteral("0/10"));
+    EXPECT_EQ(progress(), u"0/10"_s);
     EXPECT_EQ(cover_timer()->interval(), 2000);
     expire(*cover_timer());
     EXPECT_EQ(board(), QString(20, u'.'));
@@ -71,8 +73,8 @@ TEST_F(MemoryPlaying, wrong_pair_is_seen_as_long_as_the_settings_say_at_that_mom
     expire(*cover_timer());
 
     for (QWidget *settings : QApplication::topLevelWidgets()) {
-        if (settings->objectName() == QStringLiteral("frm_memory_beáll"))
-            settings->findChild<QSpinBox *>(QStringLiteral("UpDown_idő"))->setValue(37);
+        if (settings->objectName() == u"frm_memory_beáll"_s)
+            settings->findChild<QSpinBox *>(u"UpDown_idő"_s)->setValue(37);
     }
     turn(3, stranger({3}));
 
@@ -91,7 +93,7 @@ TEST_F(MemoryPlaying, third_card_covers_the_wrong_pair_and_is_the_first_of_the_n
     EXPECT_EQ(board(), board_with(u'o', {third}));
     EXPECT_FALSE(cover_timer()->isActive());
     click_card(partner(third));
-    EXPECT_EQ(progress(), QStringLiteral("1/10"));
+    EXPECT_EQ(progress(), u"1/10"_s);
 }
 
 TEST_F(MemoryPlaying, click_on_a_card_of_the_wrong_pair_begins_the_next_try_with_it) {
@@ -111,13 +113,13 @@ TEST_F(MemoryPlaying, right_pair_disappears_and_counts_whichever_card_is_turned_
 
     turn(0, found);
     EXPECT_EQ(board(), board_with(u'-', {0, found}));
-    EXPECT_EQ(progress(), QStringLiteral("1/10"));
+    EXPECT_EQ(progress(), u"1/10"_s);
     EXPECT_FALSE(cover_timer()->isActive());
     EXPECT_TRUE(messages_.isEmpty());
 
     const auto next = static_cast<int>(board().indexOf(u'.'));
     turn(partner(next), next);
-    EXPECT_EQ(progress(), QStringLiteral("2/10"));
+    EXPECT_EQ(progress(), u"2/10"_s);
     EXPECT_EQ(board().count(u'-'), 4);
 }
 
@@ -158,9 +160,9 @@ TEST_F(MemoryPlaying, won_game_is_congratulated_and_followed_by_a_new_deal) {
 
     ASSERT_EQ(messages_.size(), 1);
     EXPECT_EQ(messages_[0].milliseconds, 3000);
-    EXPECT_EQ(messages_[0].lines, QStringList({QStringLiteral("Gratulálok!"), QStringLiteral("Kitűnő megoldás")}));
-    EXPECT_EQ(at_message, QStringLiteral("10/10 ") + QString(20, u'-'));
-    EXPECT_EQ(progress(), QStringLiteral("0/10"));
+    EXPECT_EQ(messages_[0].lines, QStringList({u"Gratulálok!"_s, u"Kitűnő megoldás"_s}));
+    EXPECT_EQ(at_message, u"10/10 "_s + QString(20, u'-'));
+    EXPECT_EQ(progress(), u"0/10"_s);
     EXPECT_EQ(board(), QString(20, u'.'));
     EXPECT_NE(texts(), before);
     EXPECT_TRUE(window_->isVisible());
@@ -187,44 +189,44 @@ TEST_F(MemoryPlaying, game_closed_during_the_congratulation_is_not_dealt_anew) {
     find_all_pairs();
 
     EXPECT_FALSE(window_->isVisible());
-    EXPECT_EQ(progress(), QStringLiteral("6/6"));
+    EXPECT_EQ(progress(), u"6/6"_s);
     EXPECT_EQ(board(), QString(12, u'-'));
 }
 
 TEST_F(MemoryPlaying, cards_of_equal_texts_are_interchangeable) {
     QVector<szópár> pairs = numbered_pairs(5);
-    pairs.append({QStringLiteral("dog"), QStringLiteral("kutya")});
-    pairs.append({QStringLiteral("dog"), QStringLiteral("kutya, eb")});
+    pairs.append({u"dog"_s, u"kutya"_s});
+    pairs.append({u"dog"_s, u"kutya, eb"_s});
     for (int tries = 0; tries < 20; ++tries) {
         start_small(pairs);
-        if (texts().count(QStringLiteral("dog")) == 2)
+        if (texts().count(u"dog"_s) == 2)
             break;
     }
-    const auto dog = static_cast<int>(texts().indexOf(QStringLiteral("dog")));
-    const auto other_dog = static_cast<int>(texts().lastIndexOf(QStringLiteral("dog")));
-    const auto kutya = static_cast<int>(texts().indexOf(QStringLiteral("kutya")));
-    const auto other_kutya = static_cast<int>(texts().lastIndexOf(QStringLiteral("kutya")));
+    const auto dog = static_cast<int>(texts().indexOf(u"dog"_s));
+    const auto other_dog = static_cast<int>(texts().lastIndexOf(u"dog"_s));
+    const auto kutya = static_cast<int>(texts().indexOf(u"kutya"_s));
+    const auto other_kutya = static_cast<int>(texts().lastIndexOf(u"kutya"_s));
     ASSERT_NE(dog, other_dog);
 
     turn(dog, other_dog);
-    EXPECT_EQ(progress(), QStringLiteral("0/6"));
+    EXPECT_EQ(progress(), u"0/6"_s);
     turn(dog, other_kutya);
-    EXPECT_EQ(progress(), QStringLiteral("1/6"));
+    EXPECT_EQ(progress(), u"1/6"_s);
     turn(other_dog, kutya);
-    EXPECT_EQ(progress(), QStringLiteral("2/6"));
+    EXPECT_EQ(progress(), u"2/6"_s);
 }
 
 TEST_F(MemoryPlaying, pair_with_two_equal_sides_is_found) {
     QVector<szópár> pairs;
     for (int i = 0; i < 7; ++i)
-        pairs.append({QStringLiteral("taxi"), QStringLiteral("taxi")});
+        pairs.append({u"taxi"_s, u"taxi"_s});
     start_small(pairs);
 
     for (int i = 0; i < 12; ++i)
         click_card(i);
 
     ASSERT_EQ(messages_.size(), 1);
-    EXPECT_EQ(progress(), QStringLiteral("0/6"));
+    EXPECT_EQ(progress(), u"0/6"_s);
 }
 
 TEST_F(MemoryPlaying, pair_without_hungarian_shows_the_reminder_and_is_found) {
@@ -232,7 +234,7 @@ TEST_F(MemoryPlaying, pair_without_hungarian_shows_the_reminder_and_is_found) {
     for (szópár &one : pairs)
         one.magyar.clear();
     start_small(pairs);
-    EXPECT_EQ(texts().count(QStringLiteral("Kéne írni ide valamit!")), 6);
+    EXPECT_EQ(texts().count(u"Kéne írni ide valamit!"_s), 6);
 
     find_all_pairs();
 
@@ -257,10 +259,10 @@ TEST_F(MemoryPlaying, arrows_walk_over_the_board) {
 TEST_F(MemoryPlaying, arrows_pass_over_cards_that_are_gone) {
     QVector<szópár> pairs;
     for (int i = 0; i < 7; ++i)
-        pairs.append({QStringLiteral("taxi"), QStringLiteral("taxi")});
+        pairs.append({u"taxi"_s, u"taxi"_s});
     start_small(pairs);
     turn(1, 2);
-    ASSERT_EQ(board(), QStringLiteral(".--........."));
+    ASSERT_EQ(board(), u".--........."_s);
     card(0)->setFocus();
 
     press_key(Qt::Key_Down);
@@ -284,7 +286,7 @@ TEST_F(MemoryPlaying, space_that_is_held_down_turns_one_card) {
     press_key(Qt::Key_Space);
     press_key(Qt::Key_Down);
 
-    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
     QApplication::sendEvent(window_->focusWidget(), &repeat);
 
     EXPECT_EQ(board(), board_with(u'o', {0}));
@@ -318,7 +320,7 @@ TEST_F(MemoryPlaying, tab_reaches_every_card_in_its_order) {
     start_small();
     QStringList expected;
     for (int i = 0; i < 12; ++i)
-        expected.append(QStringLiteral("pic_kártya(%1)").arg(i));
+        expected.append(u"pic_kártya(%1)"_s.arg(i));
 
     EXPECT_EQ(tab_order(*window_), expected.join(u' '));
 }
@@ -342,7 +344,7 @@ TEST_F(MemoryPlaying, whole_game_is_played_by_the_keyboard_alone) {
     }
 
     EXPECT_EQ(messages_.size(), 1);
-    EXPECT_EQ(progress(), QStringLiteral("0/6"));
+    EXPECT_EQ(progress(), u"0/6"_s);
     EXPECT_EQ(focused_card(), 0);
     press_key(Qt::Key_Escape);
     EXPECT_FALSE(window_->isVisible());

@@ -5,6 +5,8 @@
 
 #include "support/memory_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The settings window alone.
@@ -22,14 +24,14 @@ class MemorySettingsWindow : public ExerciseTest {
     }
 
     void store(const char *key, const QVariant &value) {
-        settings_.beállításment(ablak(QStringLiteral("frm_memory_beáll")), QString::fromUtf8(key), value);
+        settings_.beállításment(ablak(u"frm_memory_beáll"_s), QString::fromUtf8(key), value);
     }
     [[nodiscard]] QString stored(const char *key) const {
-        return settings_.beállításolvas(*window_, QString::fromUtf8(key), QStringLiteral("nothing")).toString();
+        return settings_.beállításolvas(*window_, QString::fromUtf8(key), u"nothing"_s).toString();
     }
 
     [[nodiscard]] QRadioButton *option(int i) const {
-        return control<QRadioButton>(*window_, QStringLiteral("Option_méret(%1)").arg(i));
+        return control<QRadioButton>(*window_, u"Option_méret(%1)"_s.arg(i));
     }
     [[nodiscard]] QSpinBox *spin() const { return control<QSpinBox>(*window_, "UpDown_idő"); }
     [[nodiscard]] QString seconds() const { return label(*window_, "label_idő"); }
@@ -56,17 +58,17 @@ class MemorySettingsWindow : public ExerciseTest {
 TEST_F(MemorySettingsWindow, has_every_control_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_memory_beáll"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Memória - Beállítások"));
+    EXPECT_EQ(window_->objectName(), u"frm_memory_beáll"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Memória - Beállítások"_s);
     const char *captions[] = {"6 pár (3*4)",  "8 pár (4*4)",  "10 pár (4*5)",
                               "12 pár (4*6)", "15 pár (5*6)", "18 pár (6*6)"};
     for (int i = 0; i < 6; ++i)
         EXPECT_EQ(option(i)->text(), QString::fromUtf8(captions[i]));
-    EXPECT_EQ(control<QGroupBox>(*window_, "Frame1")->title(), QStringLiteral("A játéktér mérete"));
-    EXPECT_EQ(control<QGroupBox>(*window_, "Frame2")->title(), QStringLiteral("Egyéb beállítások"));
-    EXPECT_EQ(label(*window_, "Label1"), QStringLiteral("A kártyák felfedési ideje"));
-    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), QStringLiteral("Ok"));
-    EXPECT_EQ(control<QPushButton>(*window_, "cmd_mégsem")->text(), QStringLiteral("Mégsem"));
+    EXPECT_EQ(control<QGroupBox>(*window_, "Frame1")->title(), u"A játéktér mérete"_s);
+    EXPECT_EQ(control<QGroupBox>(*window_, "Frame2")->title(), u"Egyéb beállítások"_s);
+    EXPECT_EQ(label(*window_, "Label1"), u"A kártyák felfedési ideje"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), u"Ok"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_mégsem")->text(), u"Mégsem"_s);
     EXPECT_TRUE(control<QLabel>(*window_, "label_idő")->autoFillBackground());
     EXPECT_FALSE(spin()->accessibleName().isEmpty());
 }
@@ -74,10 +76,10 @@ TEST_F(MemorySettingsWindow, has_every_control_under_its_name_with_its_caption) 
 TEST_F(MemorySettingsWindow, begins_with_ten_pairs_and_two_seconds) {
     start();
 
-    EXPECT_EQ(sizes(), QStringLiteral("--x---"));
+    EXPECT_EQ(sizes(), u"--x---"_s);
     EXPECT_EQ(window_->méret().kártyák(), 20);
     EXPECT_EQ(window_->felfedésiidő(), 20);
-    EXPECT_EQ(seconds(), QStringLiteral("2 mp"));
+    EXPECT_EQ(seconds(), u"2 mp"_s);
 }
 
 TEST_F(MemorySettingsWindow, selects_what_is_stored) {
@@ -91,7 +93,7 @@ TEST_F(MemorySettingsWindow, selects_what_is_stored) {
         EXPECT_EQ(window_->méret().oszlopok, boards[i].first);
         EXPECT_EQ(window_->méret().oszlopban, boards[i].second);
         EXPECT_EQ(window_->felfedésiidő(), 31);
-        EXPECT_EQ(seconds(), QStringLiteral("3.1 mp"));
+        EXPECT_EQ(seconds(), u"3.1 mp"_s);
     }
 }
 
@@ -101,14 +103,14 @@ TEST_F(MemorySettingsWindow, counts_the_time_from_one_to_four_seconds_in_tenths)
 
     for (int i = 0; i < 5; ++i)
         QTest::keyClick(spin(), Qt::Key_Up);
-    EXPECT_EQ(seconds(), QStringLiteral("2.5 mp"));
+    EXPECT_EQ(seconds(), u"2.5 mp"_s);
     EXPECT_EQ(window_->felfedésiidő(), 25);
     for (int i = 0; i < 20; ++i)
         QTest::keyClick(spin(), Qt::Key_Up);
-    EXPECT_EQ(seconds(), QStringLiteral("4 mp"));
+    EXPECT_EQ(seconds(), u"4 mp"_s);
     for (int i = 0; i < 40; ++i)
         QTest::keyClick(spin(), Qt::Key_Down);
-    EXPECT_EQ(seconds(), QStringLiteral("1 mp"));
+    EXPECT_EQ(seconds(), u"1 mp"_s);
     EXPECT_EQ(window_->felfedésiidő(), 10);
 }
 
@@ -122,18 +124,16 @@ TEST_F(MemorySettingsWindow, counts_the_time_with_the_mouse_on_its_arrows) {
     };
 
     QTest::mouseClick(spin(), Qt::LeftButton, {}, middle_of(QStyle::SC_SpinBoxUp));
-    EXPECT_EQ(seconds(), QStringLiteral("2.1 mp"));
+    EXPECT_EQ(seconds(), u"2.1 mp"_s);
     QTest::mouseClick(spin(), Qt::LeftButton, {}, middle_of(QStyle::SC_SpinBoxDown));
     QTest::mouseClick(spin(), Qt::LeftButton, {}, middle_of(QStyle::SC_SpinBoxDown));
-    EXPECT_EQ(seconds(), QStringLiteral("1.9 mp"));
+    EXPECT_EQ(seconds(), u"1.9 mp"_s);
 }
 
 TEST_F(MemorySettingsWindow, offers_only_boards_for_which_there_are_pairs) {
-    const std::pair<int, QString> all[] = {
-        {7, QStringLiteral("x.....")},  {8, QStringLiteral("-x....")},  {9, QStringLiteral("-x....")},
-        {10, QStringLiteral("--x...")}, {11, QStringLiteral("--x...")}, {12, QStringLiteral("--x-..")},
-        {14, QStringLiteral("--x-..")}, {15, QStringLiteral("--x--.")}, {17, QStringLiteral("--x--.")},
-        {18, QStringLiteral("--x---")}, {6, QStringLiteral("x.....")}};
+    const std::pair<int, QString> all[] = {{7, u"x....."_s},  {8, u"-x...."_s},  {9, u"-x...."_s},  {10, u"--x..."_s},
+                                           {11, u"--x..."_s}, {12, u"--x-.."_s}, {14, u"--x-.."_s}, {15, u"--x--."_s},
+                                           {17, u"--x--."_s}, {18, u"--x---"_s}, {6, u"x....."_s}};
     for (const auto &[pairs, expected] : all) {
         load(pairs);
         EXPECT_EQ(sizes(), expected) << pairs;
@@ -147,21 +147,18 @@ TEST_F(MemorySettingsWindow, lowers_a_stored_board_that_is_too_large) {
         load(pairs);
         EXPECT_EQ(window_->méret().kártyák(), cards) << pairs;
     }
-    EXPECT_EQ(stored("méret"), QStringLiteral("5"));
+    EXPECT_EQ(stored("méret"), u"5"_s);
 }
 
 TEST_F(MemorySettingsWindow, keeps_to_its_defaults_and_ranges_when_what_is_stored_is_nonsense) {
-    const std::tuple<QVariant, QVariant, int> all[] = {{-1, 9, 10},
-                                                       {6, 41, 40},
-                                                       {1000, -5, 10},
-                                                       {QStringLiteral("nonsense"), QStringLiteral("nonsense"), 20},
-                                                       {QString(), QString(), 20}};
+    const std::tuple<QVariant, QVariant, int> all[] = {
+        {-1, 9, 10}, {6, 41, 40}, {1000, -5, 10}, {u"nonsense"_s, u"nonsense"_s, 20}, {QString(), QString(), 20}};
     for (const auto &[size, time, expected_time] : all) {
         store("méret", size);
         store("felfedésiidő", time);
         load();
 
-        EXPECT_EQ(sizes(), QStringLiteral("--x---")) << size.toString().toStdString();
+        EXPECT_EQ(sizes(), u"--x---"_s) << size.toString().toStdString();
         EXPECT_EQ(window_->felfedésiidő(), expected_time) << time.toString().toStdString();
     }
 }
@@ -170,8 +167,8 @@ TEST_F(MemorySettingsWindow, ok_stores_closes_and_then_deals) {
     start();
     choose();
     during_deal_ = [this] {
-        EXPECT_EQ(stored("méret"), QStringLiteral("0"));
-        EXPECT_EQ(stored("felfedésiidő"), QStringLiteral("23"));
+        EXPECT_EQ(stored("méret"), u"0"_s);
+        EXPECT_EQ(stored("felfedésiidő"), u"23"_s);
         EXPECT_EQ(window_->méret().kártyák(), 12);
         EXPECT_FALSE(window_->isVisible());
     };
@@ -180,7 +177,7 @@ TEST_F(MemorySettingsWindow, ok_stores_closes_and_then_deals) {
 
     EXPECT_EQ(deals_, 1);
     load();
-    EXPECT_EQ(sizes(), QStringLiteral("x-----"));
+    EXPECT_EQ(sizes(), u"x-----"_s);
     EXPECT_EQ(window_->felfedésiidő(), 23);
 }
 
@@ -190,8 +187,8 @@ TEST_F(MemorySettingsWindow, enter_stores_closes_and_deals) {
     QTest::keyClick(spin(), Qt::Key_Return);
 
     EXPECT_EQ(deals_, 1);
-    EXPECT_EQ(stored("méret"), QStringLiteral("2"));
-    EXPECT_EQ(stored("felfedésiidő"), QStringLiteral("20"));
+    EXPECT_EQ(stored("méret"), u"2"_s);
+    EXPECT_EQ(stored("felfedésiidő"), u"20"_s);
     EXPECT_FALSE(window_->isVisible());
 }
 
@@ -205,15 +202,15 @@ TEST_F(MemorySettingsWindow, mégsem_escape_and_the_frame_bring_back_what_was_st
         load();
         show_modally(*window_, [&] {
             choose();
-            EXPECT_EQ(sizes(), QStringLiteral("x-----"));
+            EXPECT_EQ(sizes(), u"x-----"_s);
             leave();
         });
 
-        EXPECT_EQ(sizes(), QStringLiteral("----x-"));
+        EXPECT_EQ(sizes(), u"----x-"_s);
         EXPECT_EQ(window_->felfedésiidő(), 33);
-        EXPECT_EQ(seconds(), QStringLiteral("3.3 mp"));
-        EXPECT_EQ(stored("méret"), QStringLiteral("4"));
-        EXPECT_EQ(stored("felfedésiidő"), QStringLiteral("33"));
+        EXPECT_EQ(seconds(), u"3.3 mp"_s);
+        EXPECT_EQ(stored("méret"), u"4"_s);
+        EXPECT_EQ(stored("felfedésiidő"), u"33"_s);
     }
     EXPECT_EQ(deals_, 0);
 }
@@ -242,7 +239,7 @@ TEST_F(MemorySettingsWindow, is_reached_by_tab_from_control_to_control) {
     start();
     option(2)->setFocus();
 
-    EXPECT_EQ(tab_order(*window_), QStringLiteral("Option_méret(2) UpDown_idő cmd_ok cmd_mégsem"));
+    EXPECT_EQ(tab_order(*window_), u"Option_méret(2) UpDown_idő cmd_ok cmd_mégsem"_s);
 }
 
 /// The settings window of a game.
@@ -251,7 +248,7 @@ class MemorySettings : public MemoryTest {
     void choose_board(int size) {
         in_settings([&](frm_memory_beáll &settings) {
             EXPECT_EQ(settings.windowModality(), Qt::ApplicationModal);
-            click(settings, qUtf8Printable(QStringLiteral("Option_méret(%1)").arg(size)));
+            click(settings, qUtf8Printable(u"Option_méret(%1)"_s.arg(size)));
             click(settings, "cmd_ok");
         });
     }
@@ -270,7 +267,7 @@ TEST_F(MemorySettings, of_the_same_board_deal_anew_on_the_cards_that_lie) {
     EXPECT_EQ(places(), lying);
     EXPECT_NE(texts(), dealt);
     EXPECT_EQ(board(), QString(20, u'.'));
-    EXPECT_EQ(progress(), QStringLiteral("0/10"));
+    EXPECT_EQ(progress(), u"0/10"_s);
 }
 
 TEST_F(MemorySettings, of_another_board_lay_it_out_and_deal) {
@@ -282,12 +279,12 @@ TEST_F(MemorySettings, of_another_board_lay_it_out_and_deal) {
 
         ASSERT_EQ(cards().size(), columns * in_column);
         EXPECT_EQ(board(), QString(columns * in_column, u'.'));
-        EXPECT_EQ(progress(), QStringLiteral("0/%1").arg(columns * in_column / 2));
-        EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Memória"));
-        EXPECT_EQ(label(*window_, "Label_feladat"), QStringLiteral("Keresd meg az összetartozó párokat!"));
+        EXPECT_EQ(progress(), u"0/%1"_s.arg(columns * in_column / 2));
+        EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Memória"_s);
+        EXPECT_EQ(label(*window_, "Label_feladat"), u"Keresd meg az összetartozó párokat!"_s);
         expect_no_overlap(*window_);
-        expect_whole_caption(*window_, QStringLiteral("Label_feladat"));
-        expect_whole_caption(*window_, QStringLiteral("Label_info"));
+        expect_whole_caption(*window_, u"Label_feladat"_s);
+        expect_whole_caption(*window_, u"Label_info"_s);
         const double share = std::max(window_->szélesség() / screen_.width(), window_->magasság() / screen_.height());
         EXPECT_NEAR(share, 0.9, 0.03);
         EXPECT_EQ(focused_card(), 0);
@@ -308,8 +305,8 @@ TEST_F(MemorySettings, of_another_board_leave_no_difference_to_one_that_was_ther
 
     EXPECT_EQ(places(), expected);
     EXPECT_EQ(window_->size(), size);
-    EXPECT_TRUE(tab_order(*window_).startsWith(
-        QStringLiteral("pic_kártya(0) pic_kártya(1) pic_kártya(2) pic_kártya(3) pic_kártya(4)")));
+    EXPECT_TRUE(
+        tab_order(*window_).startsWith(u"pic_kártya(0) pic_kártya(1) pic_kártya(2) pic_kártya(3) pic_kártya(4)"_s));
     find_all_pairs();
     EXPECT_EQ(messages_.size(), 1);
 }
@@ -327,7 +324,7 @@ TEST_F(MemorySettings, cancelled_leave_the_game_as_it_is) {
     });
 
     EXPECT_EQ(board(), before);
-    EXPECT_EQ(progress(), QStringLiteral("1/10"));
+    EXPECT_EQ(progress(), u"1/10"_s);
     trigger("mnu_fájl_újjáték");
     EXPECT_EQ(cards().size(), 20);
 }

@@ -5,6 +5,8 @@
 
 #include "support/memory_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MemoryWindow : public MemoryTest {
@@ -34,7 +36,7 @@ class MemoryWindow : public MemoryTest {
         for (int i = 0; i < cards().size(); ++i) {
             look_at(i, [&] {
                 sizes.insert(fonts::points(card(i)->font()));
-                expect_text_inside(*window_, QStringLiteral("pic_kártya(%1)").arg(i));
+                expect_text_inside(*window_, u"pic_kártya(%1)"_s.arg(i));
             });
         }
         return sizes;
@@ -44,10 +46,10 @@ class MemoryWindow : public MemoryTest {
 TEST_F(MemoryWindow, has_every_control_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("frm_memory"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Memória"));
-    EXPECT_EQ(label(*window_, "Label_feladat"), QStringLiteral("Keresd meg az összetartozó párokat!"));
-    EXPECT_EQ(progress(), QStringLiteral("0/10"));
+    EXPECT_EQ(window_->objectName(), u"frm_memory"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Memória"_s);
+    EXPECT_EQ(label(*window_, "Label_feladat"), u"Keresd meg az összetartozó párokat!"_s);
+    EXPECT_EQ(progress(), u"0/10"_s);
     EXPECT_EQ(cards().size(), 20);
     EXPECT_FALSE(pattern()->isVisible());
     for (const char *timer : {"Timer_lefed", "Timer_várj", "Timer_kiléptető"})
@@ -57,10 +59,9 @@ TEST_F(MemoryWindow, has_every_control_under_its_name_with_its_caption) {
 TEST_F(MemoryWindow, has_every_menu_item_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(control<QMenu>(*window_, "mnu_fájl")->title(), QStringLiteral("&Fájl"));
-    EXPECT_EQ(menu_items(),
-              QStringList({QStringLiteral("mnu_fájl_újjáték &Új játék"), QStringLiteral("mnu_fájl_beáll &Beállítások"),
-                           QStringLiteral("mnu_fájl_elv"), QStringLiteral("mnu_fájl_kilép &Kilép")}));
+    EXPECT_EQ(control<QMenu>(*window_, "mnu_fájl")->title(), u"&Fájl"_s);
+    EXPECT_EQ(menu_items(), QStringList({u"mnu_fájl_újjáték &Új játék"_s, u"mnu_fájl_beáll &Beállítások"_s,
+                                         u"mnu_fájl_elv"_s, u"mnu_fájl_kilép &Kilép"_s}));
 }
 
 TEST_F(MemoryWindow, lays_every_board_out_in_columns_of_equal_cards_on_every_screen) {
@@ -71,10 +72,10 @@ TEST_F(MemoryWindow, lays_every_board_out_in_columns_of_equal_cards_on_every_scr
             use_screen(pixels);
             store("méret", size);
             start();
-            SCOPED_TRACE(QStringLiteral("board %1 of %2").arg(size).arg(pixels.width()).toStdString());
+            SCOPED_TRACE(u"board %1 of %2"_s.arg(size).arg(pixels.width()).toStdString());
 
             ASSERT_EQ(cards().size(), columns * in_column);
-            EXPECT_EQ(progress(), QStringLiteral("0/%1").arg(columns * in_column / 2));
+            EXPECT_EQ(progress(), u"0/%1"_s.arg(columns * in_column / 2));
             const QRectF first = window_->hely(card(0));
             const double gap = first.width() / 1695 * 120;
             EXPECT_NEAR(first.height() / first.width(), 855.0 / 1695, 0.001);
@@ -92,8 +93,8 @@ TEST_F(MemoryWindow, lays_every_board_out_in_columns_of_equal_cards_on_every_scr
             EXPECT_NEAR(window_->hely(control<QLabel>(*window_, "Label_info")).right(), last.right(), 0.01);
             EXPECT_NEAR(window_->hely(control<QLabel>(*window_, "Label_info")).top(), last.bottom() + gap, 0.01);
             expect_no_overlap(*window_);
-            expect_whole_caption(*window_, QStringLiteral("Label_feladat"));
-            expect_whole_caption(*window_, QStringLiteral("Label_info"));
+            expect_whole_caption(*window_, u"Label_feladat"_s);
+            expect_whole_caption(*window_, u"Label_info"_s);
             const double share =
                 std::max(window_->szélesség() / screen_.width(), window_->magasság() / screen_.height());
             EXPECT_NEAR(share, 0.9, 0.03);
@@ -106,8 +107,7 @@ TEST_F(MemoryWindow, refuses_six_pairs_and_closes_by_itself) {
     ASSERT_EQ(messages_.size(), 1);
     EXPECT_EQ(messages_[0].milliseconds, 3000);
     EXPECT_EQ(messages_[0].lines,
-              QStringList({QStringLiteral("Sajnos ehhez a játékhoz"), QStringLiteral("legalább hat szópárra"),
-                           QStringLiteral("van szükség!")}));
+              QStringList({u"Sajnos ehhez a játékhoz"_s, u"legalább hat szópárra"_s, u"van szükség!"_s}));
 
     window_->mutatmodálisan();
 
@@ -130,8 +130,8 @@ TEST_F(MemoryWindow, plays_seven_pairs_on_the_smallest_board) {
     start(7);
 
     EXPECT_EQ(cards().size(), 12);
-    EXPECT_EQ(progress(), QStringLiteral("0/6"));
-    EXPECT_EQ(board(), QStringLiteral("............"));
+    EXPECT_EQ(progress(), u"0/6"_s);
+    EXPECT_EQ(board(), u"............"_s);
     EXPECT_TRUE(messages_.isEmpty());
 }
 
@@ -140,7 +140,7 @@ TEST_F(MemoryWindow, deals_both_words_of_different_pairs) {
     const QStringList dealt = texts();
 
     EXPECT_EQ(QSet<QString>(dealt.begin(), dealt.end()).size(), 20);
-    EXPECT_EQ(dealt.filter(QStringLiteral("word")).size(), 10);
+    EXPECT_EQ(dealt.filter(u"word"_s).size(), 10);
     for (int i = 0; i < dealt.size(); ++i)
         EXPECT_NE(partner(i), i);
 }
@@ -148,19 +148,19 @@ TEST_F(MemoryWindow, deals_both_words_of_different_pairs) {
 TEST_F(MemoryWindow, prints_a_translation_up_to_its_first_comma_and_the_whole_english) {
     QVector<szópár> pairs;
     for (int i = 0; i < 7; ++i)
-        pairs.append({QStringLiteral("deer, roe %1").arg(i), QStringLiteral("őz %1, szarvas,vad").arg(i)});
+        pairs.append({u"deer, roe %1"_s.arg(i), u"őz %1, szarvas,vad"_s.arg(i)});
     start_small(pairs);
 
     const QStringList dealt = texts();
 
-    EXPECT_EQ(dealt.filter(QStringLiteral("deer, roe ")).size(), 6);
-    EXPECT_EQ(dealt.filter(QStringLiteral("őz ")).size(), 6);
-    EXPECT_TRUE(dealt.filter(QStringLiteral("szarvas")).isEmpty());
+    EXPECT_EQ(dealt.filter(u"deer, roe "_s).size(), 6);
+    EXPECT_EQ(dealt.filter(u"őz "_s).size(), 6);
+    EXPECT_TRUE(dealt.filter(u"szarvas"_s).isEmpty());
 }
 
 TEST_F(MemoryWindow, prints_all_cards_in_the_smallest_size_that_one_of_them_needs) {
     QVector<szópár> pairs = numbered_pairs(6);
-    pairs.append({QStringLiteral("electroencephalographically"), QStringLiteral("ló")});
+    pairs.append({u"electroencephalographically"_s, u"ló"_s});
     for (int i = 0; i < 3; ++i) {
         start_small(pairs);
 
@@ -179,7 +179,7 @@ TEST_F(MemoryWindow, prints_all_cards_in_the_smallest_size_that_one_of_them_need
 TEST_F(MemoryWindow, prints_larger_letters_in_a_deal_of_shorter_words) {
     QVector<szópár> pairs = numbered_pairs(7);
     for (szópár &one : pairs)
-        one.angol += QStringLiteral(" electroencephalographically");
+        one.angol += u" electroencephalographically"_s;
     start_small(pairs);
     double small = 0;
     look_at(0, [&] { small = fonts::points(card(0)->font()); });
@@ -192,16 +192,16 @@ TEST_F(MemoryWindow, prints_larger_letters_in_a_deal_of_shorter_words) {
 TEST_F(MemoryWindow, keeps_the_texts_inside_their_cards_on_every_board_and_screen) {
     QVector<szópár> pairs = numbered_pairs(20);
     for (int i = 0; i < 20; ++i) {
-        pairs[i].angol = QStringLiteral("%1 to look forward to something very pleasant").arg(i);
+        pairs[i].angol = u"%1 to look forward to something very pleasant"_s.arg(i);
         if (i % 5 == 0)
-            pairs[i].magyar = QString::number(i) + QStringLiteral("megszentségteleníthetetlenségeskedéseitekért");
+            pairs[i].magyar = QString::number(i) + u"megszentségteleníthetetlenségeskedéseitekért"_s;
     }
     for (const QSize &pixels : screens) {
         for (const int size : {0, 2, 5}) {
             use_screen(pixels);
             store("méret", size);
             start(pairs);
-            SCOPED_TRACE(QStringLiteral("board %1 of %2").arg(size).arg(pixels.width()).toStdString());
+            SCOPED_TRACE(u"board %1 of %2"_s.arg(size).arg(pixels.width()).toStdString());
 
             EXPECT_EQ(printed_sizes().size(), 1);
         }
@@ -216,7 +216,7 @@ TEST_F(MemoryWindow, keeps_a_text_of_two_hundred_letters_inside_its_card) {
                 one.angol = text.left(199) + one.angol.back();
             use_screen(pixels);
             start_small(pairs);
-            SCOPED_TRACE(QStringLiteral("%1: %2").arg(pixels.width()).arg(text).toStdString());
+            SCOPED_TRACE(u"%1: %2"_s.arg(pixels.width()).arg(text).toStdString());
 
             EXPECT_EQ(printed_sizes().size(), 1);
         }
@@ -226,8 +226,8 @@ TEST_F(MemoryWindow, keeps_a_text_of_two_hundred_letters_inside_its_card) {
 TEST_F(MemoryWindow, prints_a_text_of_several_words_in_lines) {
     QVector<szópár> pairs;
     for (int i = 0; i < 7; ++i)
-        pairs.append({QStringLiteral("to look forward to something very pleasant %1").arg(i),
-                      QStringLiteral("előre örül valami nagyon kellemesnek %1").arg(i)});
+        pairs.append({u"to look forward to something very pleasant %1"_s.arg(i),
+                      u"előre örül valami nagyon kellemesnek %1"_s.arg(i)});
     start_small(pairs);
 
     look_at(3, [this] {
@@ -293,7 +293,7 @@ TEST_F(MemoryWindow, deals_anew_by_the_menu) {
 
     trigger("mnu_fájl_újjáték");
 
-    EXPECT_EQ(progress(), QStringLiteral("0/10"));
+    EXPECT_EQ(progress(), u"0/10"_s);
     EXPECT_EQ(board(), QString(20, u'.'));
     EXPECT_FALSE(cover_timer()->isActive());
     EXPECT_NE(texts(), before);
@@ -329,16 +329,16 @@ TEST_F(MemoryWindow, reads_the_list_once_and_leaves_it_alone) {
 
     list_.pairs.clear();
     trigger("mnu_fájl_újjáték");
-    EXPECT_EQ(texts().filter(QStringLiteral("word")).size(), 10);
+    EXPECT_EQ(texts().filter(u"word"_s).size(), 10);
 }
 
 TEST_F(MemoryWindow, opens_a_list_of_five_thousand_pairs) {
     store("méret", 5);
     start(5000);
 
-    EXPECT_EQ(progress(), QStringLiteral("0/18"));
+    EXPECT_EQ(progress(), u"0/18"_s);
     find_a_pair();
-    EXPECT_EQ(progress(), QStringLiteral("1/18"));
+    EXPECT_EQ(progress(), u"1/18"_s);
 }
 
 }  // namespace

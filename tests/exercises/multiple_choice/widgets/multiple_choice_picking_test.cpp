@@ -6,6 +6,8 @@
 
 #include "support/multiple_choice_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using MultipleChoicePicking = MultipleChoiceTest;
@@ -19,10 +21,10 @@ TEST_F(MultipleChoicePicking, click_on_a_candidate_moves_it_into_the_frame_and_s
 
     EXPECT_EQ(answer(), picked);
     EXPECT_FALSE(frame()->printed_area().isEmpty());
-    EXPECT_EQ(seen(), QStringLiteral("xx-xx"));
+    EXPECT_EQ(seen(), u"xx-xx"_s);
     EXPECT_EQ(timer()->interval(), 1400);
     EXPECT_TRUE(timer()->isActive());
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
 }
 
 TEST_F(MultipleChoicePicking, second_pick_returns_the_first_to_its_place) {
@@ -32,7 +34,7 @@ TEST_F(MultipleChoicePicking, second_pick_returns_the_first_to_its_place) {
 
     pick(3);
 
-    EXPECT_EQ(seen(), QStringLiteral("xxx-x"));
+    EXPECT_EQ(seen(), u"xxx-x"_s);
     EXPECT_EQ(answer(), second);
     EXPECT_TRUE(timer()->isActive());
 }
@@ -43,7 +45,7 @@ TEST_F(MultipleChoicePicking, click_on_the_frame_returns_the_answer_and_stops_th
 
     QTest::mouseClick(frame(), Qt::LeftButton);
 
-    EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+    EXPECT_EQ(seen(), u"xxxxx"_s);
     EXPECT_EQ(answer(), QString());
     EXPECT_TRUE(frame()->printed_area().isEmpty());
     EXPECT_FALSE(timer()->isActive());
@@ -60,21 +62,19 @@ TEST_F(MultipleChoicePicking, click_on_the_empty_frame_only_stops_the_timer) {
     EXPECT_FALSE(timer()->isActive());
     EXPECT_EQ(offer(), words);
     EXPECT_EQ(question(), asked);
-    EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+    EXPECT_EQ(seen(), u"xxxxx"_s);
     answer_all_rightly();
-    EXPECT_EQ(messages_.back().lines.back(), QStringLiteral("Hibaarány:  0%"));
+    EXPECT_EQ(messages_.back().lines.back(), u"Hibaarány:  0%"_s);
 }
 
 TEST_F(MultipleChoicePicking, of_two_equal_candidates_returns_the_one_that_was_picked) {
-    start({{QStringLiteral("one"), QStringLiteral("a")},
-           {QStringLiteral("same"), QStringLiteral("b")},
-           {QStringLiteral("same"), QStringLiteral("c")}});
-    const int last = static_cast<int>(offer().lastIndexOf(QStringLiteral("same")));
+    start({{u"one"_s, u"a"_s}, {u"same"_s, u"b"_s}, {u"same"_s, u"c"_s}});
+    const int last = static_cast<int>(offer().lastIndexOf(u"same"_s));
 
     pick(last);
     QTest::mouseClick(frame(), Qt::LeftButton);
 
-    EXPECT_EQ(seen(), QStringLiteral("xxx"));
+    EXPECT_EQ(seen(), u"xxx"_s);
 }
 
 TEST_F(MultipleChoicePicking, drag_into_the_frame_picks_when_answers_are_dragged) {
@@ -85,7 +85,7 @@ TEST_F(MultipleChoicePicking, drag_into_the_frame_picks_when_answers_are_dragged
     drag(3, middle_of(frame()));
 
     EXPECT_EQ(answer(), picked);
-    EXPECT_EQ(seen(), QStringLiteral("xxx-x"));
+    EXPECT_EQ(seen(), u"xxx-x"_s);
     EXPECT_EQ(timer()->interval(), 1400);
     EXPECT_TRUE(timer()->isActive());
 }
@@ -99,7 +99,7 @@ TEST_F(MultipleChoicePicking, second_drag_returns_the_first_to_its_place) {
     drag(0, middle_of(frame()));
 
     EXPECT_EQ(answer(), picked);
-    EXPECT_EQ(seen(), QStringLiteral("-xxxx"));
+    EXPECT_EQ(seen(), u"-xxxx"_s);
 }
 
 TEST_F(MultipleChoicePicking, drop_outside_the_frame_does_nothing) {
@@ -112,7 +112,7 @@ TEST_F(MultipleChoicePicking, drop_outside_the_frame_does_nothing) {
 
     for (const QPoint &to : outside) {
         drag(1, to);
-        EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+        EXPECT_EQ(seen(), u"xxxxx"_s);
         EXPECT_EQ(answer(), QString());
         EXPECT_FALSE(timer()->isActive());
         EXPECT_EQ(ghosts(), 0);
@@ -126,7 +126,7 @@ TEST_F(MultipleChoicePicking, drop_just_inside_the_frame_picks) {
 
     drag(1, frame()->mapTo(window_.get(), QPoint(0, 0)));
 
-    EXPECT_EQ(seen(), QStringLiteral("x-xxx"));
+    EXPECT_EQ(seen(), u"x-xxx"_s);
 }
 
 TEST_F(MultipleChoicePicking, picture_of_a_dragged_candidate_follows_the_mouse_until_it_is_let_go) {
@@ -197,7 +197,7 @@ TEST_F(MultipleChoicePicking, drag_under_way_comes_to_nothing_when_the_question_
     check();
     release_at(middle_of(frame()));
 
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    EXPECT_EQ(counter(), u" 2/ 10"_s);
     EXPECT_EQ(ghosts(), 0);
     EXPECT_EQ(answer(), QString());
 }
@@ -206,7 +206,7 @@ TEST_F(MultipleChoicePicking, drag_ends_when_the_mouse_button_may_be_let_go_unse
     store("katt", true);
     QMessageBox message;
     message.setWindowModality(Qt::ApplicationModal);
-    ablak another(QStringLiteral("another"));
+    ablak another(u"another"_s);
     const std::function<void()> ways[] = {
         [this] { window_->menüsor()->actions().front()->menu()->popup(window_->pos()); }, [&] { message.show(); },
         [&] { show(another); },
@@ -252,7 +252,7 @@ TEST_F(MultipleChoicePicking, space_that_is_held_down_picks_once) {
     candidate(0)->setFocus();
     QTest::keyClick(candidate(0), Qt::Key_Space);
 
-    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
     QApplication::sendEvent(candidate(1), &repeat);
 
     EXPECT_EQ(answer(), first);
@@ -262,9 +262,9 @@ TEST_F(MultipleChoicePicking, digit_that_is_held_down_picks_once) {
     start();
     QTest::keyClick(window_.get(), static_cast<Qt::Key>(Qt::Key_1 + right()));
     check();
-    ASSERT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    ASSERT_EQ(counter(), u" 2/ 10"_s);
 
-    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, QStringLiteral("1"), true);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, u"1"_s, true);
     QApplication::sendEvent(window_.get(), &repeat);
 
     EXPECT_EQ(answer(), QString());
@@ -288,7 +288,7 @@ TEST_F(MultipleChoicePicking, click_picks_nothing_when_answers_are_dragged) {
     EXPECT_EQ(ghosts(), 0);
     release_at(middle + QPoint(1, 1));
 
-    EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+    EXPECT_EQ(seen(), u"xxxxx"_s);
     EXPECT_EQ(answer(), QString());
 }
 
@@ -297,7 +297,7 @@ TEST_F(MultipleChoicePicking, drag_picks_nothing_when_answers_are_clicked) {
 
     drag(1, middle_of(frame()));
 
-    EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+    EXPECT_EQ(seen(), u"xxxxx"_s);
     EXPECT_EQ(answer(), QString());
     EXPECT_EQ(ghosts(), 0);
 }
@@ -306,8 +306,7 @@ TEST_F(MultipleChoicePicking, keys_from_one_to_five_pick_in_both_ways_of_answeri
     for (const bool dragged : {false, true}) {
         store("katt", dragged);
         start();
-        const QString expected[] = {QStringLiteral("-xxxx"), QStringLiteral("x-xxx"), QStringLiteral("xx-xx"),
-                                    QStringLiteral("xxx-x"), QStringLiteral("xxxx-")};
+        const QString expected[] = {u"-xxxx"_s, u"x-xxx"_s, u"xx-xx"_s, u"xxx-x"_s, u"xxxx-"_s};
         for (int k = 0; k < 5; ++k) {
             const QString picked = text(k);
             QTest::keyClick(window_->focusWidget(), static_cast<Qt::Key>(Qt::Key_1 + k));
@@ -329,7 +328,7 @@ TEST_F(MultipleChoicePicking, keys_without_a_candidate_pick_nothing) {
     const QString picked = answer();
     QTest::keyClick(window_.get(), Qt::Key_2);
     EXPECT_EQ(answer(), picked);
-    EXPECT_EQ(seen(), QStringLiteral("x-x"));
+    EXPECT_EQ(seen(), u"x-x"_s);
 }
 
 TEST_F(MultipleChoicePicking, space_picks_the_candidate_that_tab_has_reached) {
@@ -338,14 +337,14 @@ TEST_F(MultipleChoicePicking, space_picks_the_candidate_that_tab_has_reached) {
         start();
         ASSERT_TRUE(candidate(0)->hasFocus());
         EXPECT_EQ(tab_order(*window_),
-                  QStringLiteral("pic_kínálat(0) pic_kínálat(1) pic_kínálat(2) pic_kínálat(3) pic_kínálat(4) cmd_ok "
-                                 "cmd_kilép"));
+                  u"pic_kínálat(0) pic_kínálat(1) pic_kínálat(2) pic_kínálat(3) pic_kínálat(4) cmd_ok "
+                  "cmd_kilép"_s);
 
         QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
         QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
         QTest::keyClick(window_->focusWidget(), Qt::Key_Space);
 
-        EXPECT_EQ(seen(), QStringLiteral("xx-xx"));
+        EXPECT_EQ(seen(), u"xx-xx"_s);
     }
 }
 
@@ -358,7 +357,7 @@ TEST_F(MultipleChoicePicking, whole_game_is_played_by_the_keyboard_alone) {
     }
 
     ASSERT_EQ(messages_.size(), 1);
-    EXPECT_EQ(messages_[0].lines.back(), QStringLiteral("Hibaarány:  0%"));
+    EXPECT_EQ(messages_[0].lines.back(), u"Hibaarány:  0%"_s);
     EXPECT_TRUE(window_->isVisible());
 }
 
@@ -391,13 +390,13 @@ TEST_F(MultipleChoicePicking, after_the_result_nothing_is_picked_or_checked_unti
         EXPECT_EQ(offer(), words);
         EXPECT_EQ(answer(), last_answer);
         EXPECT_EQ(seen(), last_seen);
-        EXPECT_EQ(counter(), QStringLiteral(" 10/ 10"));
+        EXPECT_EQ(counter(), u" 10/ 10"_s);
         EXPECT_FALSE(timer()->isActive());
         EXPECT_EQ(messages_.size(), 1);
 
         trigger("mnu_fájl_újrakezd");
-        EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
-        EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+        EXPECT_EQ(counter(), u" 1/ 10"_s);
+        EXPECT_EQ(seen(), u"xxxxx"_s);
         EXPECT_EQ(answer(), QString());
         QTest::keyClick(window_.get(), Qt::Key_1);
         EXPECT_FALSE(answer().isEmpty());

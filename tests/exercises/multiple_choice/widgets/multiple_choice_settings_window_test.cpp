@@ -4,6 +4,8 @@
 
 #include "support/exercise_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class MultipleChoiceSettingsWindow : public ExerciseTest {
@@ -24,7 +26,7 @@ class MultipleChoiceSettingsWindow : public ExerciseTest {
     [[nodiscard]] QSlider *slider() const { return control<QSlider>(*window_, "Slider_választékszám"); }
     [[nodiscard]] bool checked(const char *name) const { return control<QRadioButton>(*window_, name)->isChecked(); }
     [[nodiscard]] QString stored(const char *key) const {
-        return settings_.beállításolvas(*window_, QString::fromUtf8(key), QStringLiteral("nothing")).toString();
+        return settings_.beállításolvas(*window_, QString::fromUtf8(key), u"nothing"_s).toString();
     }
 
     /// Chooses with mouse and keys: from English, three candidates, by dragging.
@@ -37,10 +39,9 @@ class MultipleChoiceSettingsWindow : public ExerciseTest {
     }
 
     [[nodiscard]] QString choice() const {
-        return QStringLiteral("%1 %2 %3")
-            .arg(static_cast<int>(window_->merre()))
+        return u"%1 %2 %3"_s.arg(static_cast<int>(window_->merre()))
             .arg(window_->választék())
-            .arg(window_->húzással() ? QStringLiteral("drag") : QStringLiteral("click"));
+            .arg(window_->húzással() ? u"drag"_s : u"click"_s);
     }
 
     int restarts_ = 0;
@@ -51,21 +52,21 @@ class MultipleChoiceSettingsWindow : public ExerciseTest {
 TEST_F(MultipleChoiceSettingsWindow, has_every_control_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("választás_beáll"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Választás Beállítások"));
+    EXPECT_EQ(window_->objectName(), u"választás_beáll"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Választás Beállítások"_s);
     const std::pair<const char *, QString> captions[] = {
-        {"nyelvoptb(0)", QStringLiteral("Angolról-Magyarra")},
-        {"nyelvoptb(1)", QStringLiteral("Magyarról - Angolra")},
-        {"nyelvoptb(2)", QStringLiteral("Változó nyelv")},
-        {"Opt_megoldástípus(0)", QStringLiteral("Megoldás a szóra való kattintással")},
-        {"Opt_megoldástípus(1)", QStringLiteral("Megoldás a szó keretbe helyezésével")},
-        {"cmd_ok", QStringLiteral("Ok")},
-        {"cmd_mégsem", QStringLiteral("Mégsem")}};
+        {"nyelvoptb(0)", u"Angolról-Magyarra"_s},
+        {"nyelvoptb(1)", u"Magyarról - Angolra"_s},
+        {"nyelvoptb(2)", u"Változó nyelv"_s},
+        {"Opt_megoldástípus(0)", u"Megoldás a szóra való kattintással"_s},
+        {"Opt_megoldástípus(1)", u"Megoldás a szó keretbe helyezésével"_s},
+        {"cmd_ok", u"Ok"_s},
+        {"cmd_mégsem", u"Mégsem"_s}};
     for (const auto &[name, caption] : captions)
         EXPECT_EQ(control<QAbstractButton>(*window_, name)->text(), caption);
-    EXPECT_EQ(control<QGroupBox>(*window_, "keret_nyelv")->title(), QStringLiteral("A kikérdezés nyelve"));
-    EXPECT_EQ(control<QGroupBox>(*window_, "keret_egyéb")->title(), QStringLiteral("Egyéb beállítások"));
-    EXPECT_EQ(label(*window_, "Label_választék"), QStringLiteral("A kiválasztható szavak száma:"));
+    EXPECT_EQ(control<QGroupBox>(*window_, "keret_nyelv")->title(), u"A kikérdezés nyelve"_s);
+    EXPECT_EQ(control<QGroupBox>(*window_, "keret_egyéb")->title(), u"Egyéb beállítások"_s);
+    EXPECT_EQ(label(*window_, "Label_választék"), u"A kiválasztható szavak száma:"_s);
     EXPECT_EQ(slider()->minimum(), 2);
     EXPECT_EQ(slider()->maximum(), 5);
 }
@@ -73,11 +74,11 @@ TEST_F(MultipleChoiceSettingsWindow, has_every_control_under_its_name_with_its_c
 TEST_F(MultipleChoiceSettingsWindow, begins_from_hungarian_with_five_candidates_by_clicking) {
     start();
 
-    EXPECT_EQ(choice(), QStringLiteral("1 5 click"));
+    EXPECT_EQ(choice(), u"1 5 click"_s);
     EXPECT_TRUE(checked("nyelvoptb(1)"));
     EXPECT_TRUE(checked("Opt_megoldástípus(0)"));
     EXPECT_FALSE(checked("Opt_megoldástípus(1)"));
-    EXPECT_EQ(label(*window_, "Label_választék_száma"), QStringLiteral("5"));
+    EXPECT_EQ(label(*window_, "Label_választék_száma"), u"5"_s);
 }
 
 TEST_F(MultipleChoiceSettingsWindow, shows_the_number_that_the_slider_stands_at) {
@@ -85,9 +86,9 @@ TEST_F(MultipleChoiceSettingsWindow, shows_the_number_that_the_slider_stands_at)
     slider()->setFocus();
 
     QTest::keyClick(slider(), Qt::Key_Left);
-    EXPECT_EQ(label(*window_, "Label_választék_száma"), QStringLiteral("4"));
+    EXPECT_EQ(label(*window_, "Label_választék_száma"), u"4"_s);
     QTest::keyClick(slider(), Qt::Key_Home);
-    EXPECT_EQ(label(*window_, "Label_választék_száma"), QStringLiteral("2"));
+    EXPECT_EQ(label(*window_, "Label_választék_száma"), u"2"_s);
     QTest::keyClick(slider(), Qt::Key_Left);
     EXPECT_EQ(slider()->value(), 2);
 }
@@ -97,7 +98,7 @@ TEST_F(MultipleChoiceSettingsWindow, chooses_direction_and_way_of_answering_apar
 
     choose();
 
-    EXPECT_EQ(choice(), QStringLiteral("0 3 drag"));
+    EXPECT_EQ(choice(), u"0 3 drag"_s);
     EXPECT_TRUE(checked("nyelvoptb(0)"));
     EXPECT_FALSE(checked("Opt_megoldástípus(0)"));
 }
@@ -113,11 +114,11 @@ TEST_F(MultipleChoiceSettingsWindow, ok_saves_then_restarts_the_game_and_then_hi
 
     click(*window_, "cmd_ok");
 
-    EXPECT_EQ(at_restart, QStringLiteral("03true"));
+    EXPECT_EQ(at_restart, u"03true"_s);
     EXPECT_EQ(restarts_, 1);
     EXPECT_FALSE(window_->isVisible());
     load();
-    EXPECT_EQ(choice(), QStringLiteral("0 3 drag"));
+    EXPECT_EQ(choice(), u"0 3 drag"_s);
 }
 
 TEST_F(MultipleChoiceSettingsWindow, keeps_clicking_as_false_because_the_key_tells_of_dragging) {
@@ -125,9 +126,9 @@ TEST_F(MultipleChoiceSettingsWindow, keeps_clicking_as_false_because_the_key_tel
 
     click(*window_, "cmd_ok");
 
-    EXPECT_EQ(stored("nyelv"), QStringLiteral("1"));
-    EXPECT_EQ(stored("valasztekszam"), QStringLiteral("5"));
-    EXPECT_EQ(stored("katt"), QStringLiteral("false"));
+    EXPECT_EQ(stored("nyelv"), u"1"_s);
+    EXPECT_EQ(stored("valasztekszam"), u"5"_s);
+    EXPECT_EQ(stored("katt"), u"false"_s);
 }
 
 TEST_F(MultipleChoiceSettingsWindow, mégsem_escape_and_the_frame_bring_back_what_was_stored) {
@@ -142,11 +143,11 @@ TEST_F(MultipleChoiceSettingsWindow, mégsem_escape_and_the_frame_bring_back_wha
         });
 
         EXPECT_FALSE(window_->isVisible());
-        EXPECT_EQ(choice(), QStringLiteral("1 5 click"));
-        EXPECT_EQ(label(*window_, "Label_választék_száma"), QStringLiteral("5"));
-        EXPECT_EQ(stored("nyelv"), QStringLiteral("nothing"));
-        EXPECT_EQ(stored("valasztekszam"), QStringLiteral("nothing"));
-        EXPECT_EQ(stored("katt"), QStringLiteral("nothing"));
+        EXPECT_EQ(choice(), u"1 5 click"_s);
+        EXPECT_EQ(label(*window_, "Label_választék_száma"), u"5"_s);
+        EXPECT_EQ(stored("nyelv"), u"nothing"_s);
+        EXPECT_EQ(stored("valasztekszam"), u"nothing"_s);
+        EXPECT_EQ(stored("katt"), u"nothing"_s);
     }
     EXPECT_EQ(restarts_, 0);
 }
@@ -164,7 +165,7 @@ TEST_F(MultipleChoiceSettingsWindow, saves_with_enter) {
 TEST_F(MultipleChoiceSettingsWindow, lowers_the_slider_to_the_number_of_pairs) {
     load(3);
     EXPECT_EQ(window_->választék(), 3);
-    EXPECT_EQ(label(*window_, "Label_választék_száma"), QStringLiteral("3"));
+    EXPECT_EQ(label(*window_, "Label_választék_száma"), u"3"_s);
 
     load(5);
     EXPECT_EQ(window_->választék(), 5);
@@ -175,16 +176,16 @@ TEST_F(MultipleChoiceSettingsWindow, lowers_the_slider_to_the_number_of_pairs) {
 }
 
 TEST_F(MultipleChoiceSettingsWindow, stays_within_its_range_when_what_is_stored_does_not) {
-    const ablak section(QStringLiteral("választás_beáll"));
-    settings_.beállításment(section, QStringLiteral("nyelv"), -4);
-    settings_.beállításment(section, QStringLiteral("valasztekszam"), 1000);
-    settings_.beállításment(section, QStringLiteral("katt"), QStringLiteral("nonsense"));
+    const ablak section(u"választás_beáll"_s);
+    settings_.beállításment(section, u"nyelv"_s, -4);
+    settings_.beállításment(section, u"valasztekszam"_s, 1000);
+    settings_.beállításment(section, u"katt"_s, u"nonsense"_s);
     load(2000);
     EXPECT_TRUE(checked("nyelvoptb(1)"));
     EXPECT_EQ(window_->választék(), 5);
     EXPECT_NE(checked("Opt_megoldástípus(0)"), checked("Opt_megoldástípus(1)"));
 
-    settings_.beállításment(section, QStringLiteral("valasztekszam"), QStringLiteral("nonsense"));
+    settings_.beállításment(section, u"valasztekszam"_s, u"nonsense"_s);
     load();
     EXPECT_EQ(window_->választék(), 2);
 }
@@ -212,8 +213,7 @@ TEST_F(MultipleChoiceSettingsWindow, is_reached_by_tab_from_control_to_control) 
     control<QRadioButton>(*window_, "nyelvoptb(1)")->setFocus();
 
     // The arrow keys lead from one option button to the next.
-    EXPECT_EQ(tab_order(*window_),
-              QStringLiteral("nyelvoptb(1) Slider_választékszám Opt_megoldástípus(0) cmd_ok cmd_mégsem"));
+    EXPECT_EQ(tab_order(*window_), u"nyelvoptb(1) Slider_választékszám Opt_megoldástípus(0) cmd_ok cmd_mégsem"_s);
 }
 
 }  // namespace

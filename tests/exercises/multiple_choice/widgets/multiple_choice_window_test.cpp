@@ -5,6 +5,8 @@
 
 #include "support/multiple_choice_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using MultipleChoiceWindow = MultipleChoiceTest;
@@ -12,16 +14,16 @@ using MultipleChoiceWindow = MultipleChoiceTest;
 TEST_F(MultipleChoiceWindow, has_every_control_under_its_name_with_its_caption) {
     start();
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("választás"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Választás"));
-    EXPECT_EQ(label(*window_, "label_felirat"), QStringLiteral("Válaszd ki a megoldást, és helyezd a keretbe!"));
-    EXPECT_EQ(shown(*window_, "pic_kötőjel"), QStringLiteral("-"));
+    EXPECT_EQ(window_->objectName(), u"választás"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Választás"_s);
+    EXPECT_EQ(label(*window_, "label_felirat"), u"Válaszd ki a megoldást, és helyezd a keretbe!"_s);
+    EXPECT_EQ(shown(*window_, "pic_kötőjel"), u"-"_s);
     EXPECT_EQ(control<PictureBox>(*window_, "pic_kötőjel")->palette().color(QPalette::Window), QColor(Qt::cyan));
-    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), QStringLiteral("Ok"));
-    EXPECT_EQ(control<QPushButton>(*window_, "cmd_kilép")->text(), QStringLiteral("Kilép"));
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), u"Ok"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_kilép")->text(), u"Kilép"_s);
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
     EXPECT_EQ(candidates(), 5);
-    EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+    EXPECT_EQ(seen(), u"xxxxx"_s);
     EXPECT_EQ(answer(), QString());
 }
 
@@ -29,13 +31,12 @@ TEST_F(MultipleChoiceWindow, has_every_menu_item_under_its_name_with_its_caption
     start();
 
     auto *menu = control<QMenu>(*window_, "mnu_fájl");
-    EXPECT_EQ(menu->title(), QStringLiteral("&Fájl"));
+    EXPECT_EQ(menu->title(), u"&Fájl"_s);
     QStringList items;
     for (const QAction *one : menu->actions())
-        items.append(one->isSeparator() ? QStringLiteral("-") : one->objectName() + u' ' + one->text());
-    EXPECT_EQ(items,
-              QStringList({QStringLiteral("mnu_fájl_újrakezd &Újrakezd"), QStringLiteral("mnu_fájl_beáll &Beállítások"),
-                           QStringLiteral("-"), QStringLiteral("mnu_fájl_kilép &Kilép")}));
+        items.append(one->isSeparator() ? u"-"_s : one->objectName() + u' ' + one->text());
+    EXPECT_EQ(items, QStringList({u"mnu_fájl_újrakezd &Újrakezd"_s, u"mnu_fájl_beáll &Beállítások"_s, u"-"_s,
+                                  u"mnu_fájl_kilép &Kilép"_s}));
 }
 
 TEST_F(MultipleChoiceWindow, stacks_the_candidates_a_hundred_and_twenty_twips_apart) {
@@ -54,11 +55,11 @@ TEST_F(MultipleChoiceWindow, offers_distinct_words_of_the_other_language_with_th
     QSet<QString> asked;
 
     for (int i = 0; i < 7; ++i) {
-        EXPECT_TRUE(question().startsWith(QStringLiteral("szó")));
+        EXPECT_TRUE(question().startsWith(u"szó"_s));
         const QStringList words = offer();
         EXPECT_EQ(QSet<QString>(words.begin(), words.end()).size(), 5);
-        EXPECT_TRUE(words.contains(QStringLiteral("word") + question().mid(3)));
-        EXPECT_EQ(words.filter(QStringLiteral("word")).size(), 5);
+        EXPECT_TRUE(words.contains(u"word"_s + question().mid(3)));
+        EXPECT_EQ(words.filter(u"word"_s).size(), 5);
         asked.insert(question());
         answer_with(right());
     }
@@ -67,18 +68,17 @@ TEST_F(MultipleChoiceWindow, offers_distinct_words_of_the_other_language_with_th
 }
 
 TEST_F(MultipleChoiceWindow, asks_and_offers_only_the_first_of_several_meanings_and_cuts_no_english) {
-    const QVector<szópár> pairs{{QStringLiteral("deer, roe"), QStringLiteral("őz, szarvas")},
-                                {QStringLiteral("tree"), QStringLiteral("fa,erdő, bot")}};
+    const QVector<szópár> pairs{{u"deer, roe"_s, u"őz, szarvas"_s}, {u"tree"_s, u"fa,erdő, bot"_s}};
     start(pairs);
-    EXPECT_TRUE(question() == QStringLiteral("őz") || question() == QStringLiteral("fa"));
-    EXPECT_TRUE(offer().contains(QStringLiteral("deer, roe")));
+    EXPECT_TRUE(question() == u"őz"_s || question() == u"fa"_s);
+    EXPECT_TRUE(offer().contains(u"deer, roe"_s));
 
     store("nyelv", 0);
     start(pairs);
-    EXPECT_TRUE(offer().contains(QStringLiteral("őz")));
-    EXPECT_TRUE(offer().contains(QStringLiteral("fa")));
+    EXPECT_TRUE(offer().contains(u"őz"_s));
+    EXPECT_TRUE(offer().contains(u"fa"_s));
     answer_with(right());
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 2"));
+    EXPECT_EQ(counter(), u" 2/ 2"_s);
 }
 
 TEST_F(MultipleChoiceWindow, asks_on_when_the_timer_fires_on_a_right_answer) {
@@ -88,9 +88,9 @@ TEST_F(MultipleChoiceWindow, asks_on_when_the_timer_fires_on_a_right_answer) {
 
     timer()->setInterval(1);
 
-    ASSERT_TRUE(QTest::qWaitFor([this] { return counter() == QStringLiteral(" 2/ 10"); }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return counter() == u" 2/ 10"_s; }));
     EXPECT_NE(question(), first);
-    EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+    EXPECT_EQ(seen(), u"xxxxx"_s);
     EXPECT_EQ(answer(), QString());
     EXPECT_TRUE(frame()->printed_area().isEmpty());
     EXPECT_FALSE(timer()->isActive());
@@ -107,8 +107,8 @@ TEST_F(MultipleChoiceWindow, puts_a_wrong_answer_back_when_the_timer_fires_and_k
     ASSERT_TRUE(QTest::qWaitFor([this] { return answer().isEmpty(); }));
     EXPECT_EQ(question(), first);
     EXPECT_EQ(offer(), words);
-    EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(seen(), u"xxxxx"_s);
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
     EXPECT_FALSE(timer()->isActive());
     EXPECT_EQ(boxes_.beeps, 0);
     EXPECT_TRUE(messages_.isEmpty());
@@ -118,12 +118,12 @@ TEST_F(MultipleChoiceWindow, ok_and_enter_check_at_once) {
     start();
     pick(right());
     check();
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    EXPECT_EQ(counter(), u" 2/ 10"_s);
     EXPECT_FALSE(timer()->isActive());
 
     pick(right());
     QTest::keyClick(window_.get(), Qt::Key_Return);
-    EXPECT_EQ(counter(), QStringLiteral(" 3/ 10"));
+    EXPECT_EQ(counter(), u" 3/ 10"_s);
     EXPECT_FALSE(timer()->isActive());
 }
 
@@ -134,8 +134,7 @@ TEST_F(MultipleChoiceWindow, reports_the_result_in_three_lines_and_stays_open) {
 
     ASSERT_EQ(messages_.size(), 1);
     EXPECT_EQ(messages_[0].milliseconds, 3000);
-    EXPECT_EQ(messages_[0].lines,
-              QStringList({QStringLiteral("Gratulálok!"), QStringLiteral(" "), QStringLiteral("Hibaarány:  0%")}));
+    EXPECT_EQ(messages_[0].lines, QStringList({u"Gratulálok!"_s, u" "_s, u"Hibaarány:  0%"_s}));
     EXPECT_TRUE(window_->isVisible());
 }
 
@@ -147,7 +146,7 @@ TEST_F(MultipleChoiceWindow, counts_a_pair_once_however_often_it_was_answered_wr
 
     answer_all_rightly();
 
-    EXPECT_EQ(messages_.back().lines.back(), QStringLiteral("Hibaarány:  11%"));
+    EXPECT_EQ(messages_.back().lines.back(), u"Hibaarány:  11%"_s);
 }
 
 TEST_F(MultipleChoiceWindow, check_of_the_empty_frame_is_a_wrong_answer) {
@@ -155,22 +154,22 @@ TEST_F(MultipleChoiceWindow, check_of_the_empty_frame_is_a_wrong_answer) {
 
     check();
 
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
     answer_all_rightly();
-    EXPECT_EQ(messages_.back().lines.back(), QStringLiteral("Hibaarány:  11%"));
+    EXPECT_EQ(messages_.back().lines.back(), u"Hibaarány:  11%"_s);
 }
 
 TEST_F(MultipleChoiceWindow, of_one_pair_offers_it_alone_and_ends_with_nought_or_a_hundred_percent) {
     start(1);
     EXPECT_EQ(candidates(), 1);
-    EXPECT_EQ(text(0), QStringLiteral("word0"));
+    EXPECT_EQ(text(0), u"word0"_s);
     answer_with(0);
-    EXPECT_EQ(messages_.back().lines.back(), QStringLiteral("Hibaarány:  0%"));
+    EXPECT_EQ(messages_.back().lines.back(), u"Hibaarány:  0%"_s);
 
     start(1);
     check();
     answer_with(0);
-    EXPECT_EQ(messages_.back().lines.back(), QStringLiteral("Hibaarány:  100%"));
+    EXPECT_EQ(messages_.back().lines.back(), u"Hibaarány:  100%"_s);
 }
 
 TEST_F(MultipleChoiceWindow, of_an_empty_list_closes_at_once) {
@@ -193,13 +192,13 @@ TEST_F(MultipleChoiceWindow, újrakezd_begins_anew_in_the_middle_of_a_game) {
 
     trigger("mnu_fájl_újrakezd");
 
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
-    EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
+    EXPECT_EQ(seen(), u"xxxxx"_s);
     EXPECT_EQ(answer(), QString());
     EXPECT_FALSE(timer()->isActive());
     EXPECT_EQ(candidates(), 5);
     answer_all_rightly();
-    EXPECT_EQ(messages_.back().lines.back(), QStringLiteral("Hibaarány:  0%"));
+    EXPECT_EQ(messages_.back().lines.back(), u"Hibaarány:  0%"_s);
 }
 
 TEST_F(MultipleChoiceWindow, saved_settings_begin_a_new_game_at_once) {
@@ -213,9 +212,9 @@ TEST_F(MultipleChoiceWindow, saved_settings_begin_a_new_game_at_once) {
         click(settings, "cmd_ok");
     });
 
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
     EXPECT_EQ(candidates(), 3);
-    EXPECT_TRUE(question().startsWith(QStringLiteral("word")));
+    EXPECT_TRUE(question().startsWith(u"word"_s));
     pick(0);
     EXPECT_EQ(answer(), QString());
     const QString picked = text(2);
@@ -234,15 +233,15 @@ TEST_F(MultipleChoiceWindow, more_candidates_are_as_good_as_the_first_ones) {
     });
 
     EXPECT_EQ(candidates(), 5);
-    EXPECT_EQ(seen(), QStringLiteral("xxxxx"));
+    EXPECT_EQ(seen(), u"xxxxx"_s);
     for (int k = 1; k < 5; ++k)
         EXPECT_EQ(candidate(k)->palette().color(QPalette::Window), candidate(0)->palette().color(QPalette::Window));
     candidate(0)->setFocus();
     EXPECT_EQ(tab_order(*window_),
-              QStringLiteral("pic_kínálat(0) pic_kínálat(1) pic_kínálat(2) pic_kínálat(3) pic_kínálat(4) cmd_ok "
-                             "cmd_kilép"));
+              u"pic_kínálat(0) pic_kínálat(1) pic_kínálat(2) pic_kínálat(3) pic_kínálat(4) cmd_ok "
+              "cmd_kilép"_s);
     pick(4);
-    EXPECT_EQ(seen(), QStringLiteral("xxxx-"));
+    EXPECT_EQ(seen(), u"xxxx-"_s);
 }
 
 TEST_F(MultipleChoiceWindow, cancelled_settings_leave_the_game_as_it_is) {
@@ -256,11 +255,11 @@ TEST_F(MultipleChoiceWindow, cancelled_settings_leave_the_game_as_it_is) {
         click(settings, "cmd_mégsem");
     });
 
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    EXPECT_EQ(counter(), u" 2/ 10"_s);
     EXPECT_EQ(question(), asked);
     trigger("mnu_fájl_újrakezd");
     EXPECT_EQ(candidates(), 5);
-    EXPECT_TRUE(question().startsWith(QStringLiteral("szó")));
+    EXPECT_TRUE(question().startsWith(u"szó"_s));
 }
 
 TEST_F(MultipleChoiceWindow, keeps_its_settings_for_the_next_opening_apart_from_the_quiz) {
@@ -276,9 +275,9 @@ TEST_F(MultipleChoiceWindow, keeps_its_settings_for_the_next_opening_apart_from_
     start();
 
     EXPECT_EQ(candidates(), 4);
-    EXPECT_TRUE(question().startsWith(QStringLiteral("word")));
+    EXPECT_TRUE(question().startsWith(u"word"_s));
     EXPECT_EQ(candidate(0)->drag_mode(), ChoosablePicture::DragMode::automatic);
-    EXPECT_EQ(settings_.beállításolvas(ablak(QStringLiteral("kikérdező")), QStringLiteral("nyelv"), 7), 7);
+    EXPECT_EQ(settings_.beállításolvas(ablak(u"kikérdező"_s), u"nyelv"_s, 7), 7);
 }
 
 TEST_F(MultipleChoiceWindow, offers_no_more_candidates_than_there_are_pairs) {
@@ -305,16 +304,16 @@ TEST_F(MultipleChoiceWindow, draws_the_changing_direction_for_every_question) {
     int english = 0;
 
     for (int i = 0; i < 39; ++i) {
-        const bool from_english = question().startsWith(QStringLiteral("word"));
+        const bool from_english = question().startsWith(u"word"_s);
         english += from_english ? 1 : 0;
-        const QString other = from_english ? QStringLiteral("szó") : QStringLiteral("word");
+        const QString other = from_english ? u"szó"_s : u"word"_s;
         EXPECT_EQ(offer().filter(other).size(), 5);
         answer_with(right());
     }
 
     EXPECT_GT(english, 8);
     EXPECT_LT(english, 31);
-    EXPECT_EQ(counter(), QStringLiteral(" 40/ 40"));
+    EXPECT_EQ(counter(), u" 40/ 40"_s);
 }
 
 TEST_F(MultipleChoiceWindow, ends_its_modal_display_with_kilép_escape_menu_and_frame) {
@@ -335,7 +334,7 @@ TEST_F(MultipleChoiceWindow, ends_its_modal_display_with_kilép_escape_menu_and_
         EXPECT_FALSE(window_->isVisible());
         EXPECT_FALSE(timer()->isActive());
         for (const QWidget *left : QApplication::topLevelWidgets())
-            EXPECT_NE(left->objectName(), QStringLiteral("választás_beáll"));
+            EXPECT_NE(left->objectName(), u"választás_beáll"_s);
     }
 }
 
@@ -346,9 +345,9 @@ TEST_F(MultipleChoiceWindow, reads_the_list_once_and_leaves_it_alone) {
     answer_all_rightly();
     EXPECT_EQ(list_.pairs, before);
 
-    list_.pairs.append({QStringLiteral("late"), QStringLiteral("késő")});
+    list_.pairs.append({u"late"_s, u"késő"_s});
     trigger("mnu_fájl_újrakezd");
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+    EXPECT_EQ(counter(), u" 1/ 3"_s);
 }
 
 TEST_F(MultipleChoiceWindow, takes_nine_tenths_of_the_screen_with_every_caption_whole) {
@@ -376,10 +375,10 @@ TEST_F(MultipleChoiceWindow, keeps_texts_of_two_hundred_letters_inside_their_pla
             start(pairs);
             pick(0);
 
-            expect_text_inside(*window_, QStringLiteral("pic_feladat"));
-            expect_text_inside(*window_, QStringLiteral("pic_megoldás"));
+            expect_text_inside(*window_, u"pic_feladat"_s);
+            expect_text_inside(*window_, u"pic_megoldás"_s);
             for (int k = 1; k < 5; ++k)
-                expect_text_inside(*window_, QStringLiteral("pic_kínálat(%1)").arg(k));
+                expect_text_inside(*window_, u"pic_kínálat(%1)"_s.arg(k));
         }
     }
 }
@@ -387,10 +386,10 @@ TEST_F(MultipleChoiceWindow, keeps_texts_of_two_hundred_letters_inside_their_pla
 TEST_F(MultipleChoiceWindow, opens_a_list_of_five_thousand_pairs) {
     start(5000);
 
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 5000"));
+    EXPECT_EQ(counter(), u" 1/ 5000"_s);
     answer_with(right());
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 5000"));
-    expect_whole_caption(*window_, QStringLiteral("Label_info"));
+    EXPECT_EQ(counter(), u" 2/ 5000"_s);
+    expect_whole_caption(*window_, u"Label_info"_s);
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include "support/exercise_fixture.h"
 #include "ui/drawing/fonts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class TypedQuizWindow : public ExerciseTest {
@@ -31,7 +33,7 @@ class TypedQuizWindow : public ExerciseTest {
             if (pair.magyar == question())
                 return pair.angol;
         }
-        return QStringLiteral("(not in the list)");
+        return u"(not in the list)"_s;
     }
 
     void answer(const QString &text) {
@@ -46,9 +48,9 @@ class TypedQuizWindow : public ExerciseTest {
     }
 
     [[nodiscard]] QRadioButton *direction(int i) const {
-        return control<QRadioButton>(*window_, QStringLiteral("nyelvoptb(%1)").arg(i));
+        return control<QRadioButton>(*window_, u"nyelvoptb(%1)"_s.arg(i));
     }
-    void choose_direction(int i) { click(*window_, qUtf8Printable(QStringLiteral("nyelvoptb(%1)").arg(i))); }
+    void choose_direction(int i) { click(*window_, qUtf8Printable(u"nyelvoptb(%1)"_s.arg(i))); }
 
     /// The last message's line with the error ratio.
     [[nodiscard]] QString ratio() const { return messages_.isEmpty() ? QString() : messages_.back().lines.back(); }
@@ -59,15 +61,15 @@ class TypedQuizWindow : public ExerciseTest {
 TEST_F(TypedQuizWindow, has_every_control_under_its_name_with_its_caption) {
     start(numbered_pairs(10));
 
-    EXPECT_EQ(window_->objectName(), QStringLiteral("kikérdező"));
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Zimbora Angol-Magyar Szótár - Kikérdezés"));
-    EXPECT_EQ(label(*window_, "Label_felirat"), QStringLiteral("Mi a párja? Gépeld be a megoldást!"));
-    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), QStringLiteral("Ok"));
-    EXPECT_EQ(control<QPushButton>(*window_, "cmd_kilép")->text(), QStringLiteral("Kilép"));
-    EXPECT_EQ(direction(0)->text(), QStringLiteral("Angolról-Magyarra"));
-    EXPECT_EQ(direction(1)->text(), QStringLiteral("Magyarról - Angolra"));
-    EXPECT_EQ(direction(2)->text(), QStringLiteral("Változó nyelv"));
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
+    EXPECT_EQ(window_->objectName(), u"kikérdező"_s);
+    EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-Magyar Szótár - Kikérdezés"_s);
+    EXPECT_EQ(label(*window_, "Label_felirat"), u"Mi a párja? Gépeld be a megoldást!"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_ok")->text(), u"Ok"_s);
+    EXPECT_EQ(control<QPushButton>(*window_, "cmd_kilép")->text(), u"Kilép"_s);
+    EXPECT_EQ(direction(0)->text(), u"Angolról-Magyarra"_s);
+    EXPECT_EQ(direction(1)->text(), u"Magyarról - Angolra"_s);
+    EXPECT_EQ(direction(2)->text(), u"Változó nyelv"_s);
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
     EXPECT_FALSE(text_box()->accessibleName().isEmpty());
 }
 
@@ -75,7 +77,7 @@ TEST_F(TypedQuizWindow, asks_for_english_first_with_the_answer_in_the_hidden_tag
     start(numbered_pairs(10));
 
     EXPECT_TRUE(direction(1)->isChecked());
-    EXPECT_TRUE(question().startsWith(QStringLiteral("szó")));
+    EXPECT_TRUE(question().startsWith(u"szó"_s));
     EXPECT_EQ(text_box()->property("tag").toString(), right_answer());
     EXPECT_EQ(text_box()->text(), QString());
     EXPECT_TRUE(text_box()->hasFocus());
@@ -87,7 +89,7 @@ TEST_F(TypedQuizWindow, goes_on_after_a_right_answer_without_a_word) {
 
     answer_rightly();
 
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    EXPECT_EQ(counter(), u" 2/ 10"_s);
     EXPECT_NE(question(), first);
     EXPECT_EQ(text_box()->text(), QString());
     EXPECT_TRUE(text_box()->hasFocus());
@@ -101,13 +103,13 @@ TEST_F(TypedQuizWindow, checks_with_enter_what_was_typed) {
     QTest::keyClicks(text_box(), right_answer());
     QTest::keyClick(text_box(), Qt::Key_Return);
 
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    EXPECT_EQ(counter(), u" 2/ 10"_s);
 }
 
 TEST_F(TypedQuizWindow, takes_only_the_whole_and_exact_answer) {
-    const QString exact = QStringLiteral("Őz, szarvas");
-    settings_.beállításment(*std::make_unique<ablak>(QStringLiteral("kikérdező")), QStringLiteral("nyelv"), 0);
-    start({{QStringLiteral("deer"), exact}, {QStringLiteral("roe"), exact}});
+    const QString exact = u"Őz, szarvas"_s;
+    settings_.beállításment(*std::make_unique<ablak>(u"kikérdező"_s), u"nyelv"_s, 0);
+    start({{u"deer"_s, exact}, {u"roe"_s, exact}});
 
     for (const char16_t *close :
          {u"őz, szarvas", u"ŐZ, SZARVAS", u"Őz, szarvas ", u" Őz, szarvas", u"Öz, szarvas", u"Oz, szarvas",
@@ -115,20 +117,20 @@ TEST_F(TypedQuizWindow, takes_only_the_whole_and_exact_answer) {
         const auto before = messages_.size();
         answer(QString::fromUtf16(close));
         EXPECT_EQ(messages_.size(), before + 1) << QString::fromUtf16(close).toStdString();
-        EXPECT_EQ(counter(), QStringLiteral(" 1/ 2")) << QString::fromUtf16(close).toStdString();
+        EXPECT_EQ(counter(), u" 1/ 2"_s) << QString::fromUtf16(close).toStdString();
     }
     answer(exact);
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 2"));
+    EXPECT_EQ(counter(), u" 2/ 2"_s);
 }
 
 TEST_F(TypedQuizWindow, after_a_wrong_answer_beeps_shows_the_pair_and_asks_under_the_same_number) {
     start(numbered_pairs(10));
     answer_rightly();
-    const QString pair = question() + QStringLiteral(" - ") + right_answer();
+    const QString pair = question() + u" - "_s + right_answer();
     int beeps_before_message = 0;
     during_message_ = [&] { beeps_before_message = boxes_.beeps; };
 
-    answer(QStringLiteral("wrong"));
+    answer(u"wrong"_s);
 
     EXPECT_EQ(beeps_before_message, 1);
     EXPECT_EQ(boxes_.beeps, 1);
@@ -137,7 +139,7 @@ TEST_F(TypedQuizWindow, after_a_wrong_answer_beeps_shows_the_pair_and_asks_under
     EXPECT_EQ(messages_[0].lines, QStringList{pair});
     EXPECT_EQ(text_box()->text(), QString());
     EXPECT_TRUE(text_box()->hasFocus());
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 10"));
+    EXPECT_EQ(counter(), u" 2/ 10"_s);
     EXPECT_TRUE(window_->isVisible());
 }
 
@@ -148,19 +150,19 @@ TEST_F(TypedQuizWindow, asks_a_failed_pair_again_at_once_or_later) {
 
     for (int i = 0; i < 40; ++i) {
         const QString failed = question();
-        answer(QStringLiteral("wrong"));
+        answer(u"wrong"_s);
         (question() == failed ? at_once : later) = true;
     }
 
     EXPECT_TRUE(at_once);
     EXPECT_TRUE(later);
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 3"));
+    EXPECT_EQ(counter(), u" 1/ 3"_s);
 }
 
 TEST_F(TypedQuizWindow, asks_every_pair_once_and_the_failed_one_again) {
     start(numbered_pairs(10));
     QStringList answered;
-    answer(QStringLiteral("wrong"));
+    answer(u"wrong"_s);
 
     for (int i = 0; window_->isVisible() && i < 100; ++i) {
         answered.append(question());
@@ -182,8 +184,7 @@ TEST_F(TypedQuizWindow, reports_the_result_in_three_lines_and_closes) {
     EXPECT_TRUE(open_during_message);
     ASSERT_EQ(messages_.size(), 1);
     EXPECT_EQ(messages_[0].milliseconds, 3000);
-    EXPECT_EQ(messages_[0].lines, QStringList({QStringLiteral("Gratulálok! Sikerült!"), QStringLiteral(" "),
-                                               QStringLiteral("Hibaarány:  0%")}));
+    EXPECT_EQ(messages_[0].lines, QStringList({u"Gratulálok! Sikerült!"_s, u" "_s, u"Hibaarány:  0%"_s}));
 }
 
 TEST_F(TypedQuizWindow, counts_a_pair_that_failed_three_times_once) {
@@ -191,7 +192,7 @@ TEST_F(TypedQuizWindow, counts_a_pair_that_failed_three_times_once) {
     const QString victim = question();
     for (int failures = 0, i = 0; window_->isVisible() && i < 1000; ++i) {
         if (question() == victim && failures < 3) {
-            answer(QStringLiteral("wrong"));
+            answer(u"wrong"_s);
             ++failures;
         } else {
             answer_rightly();
@@ -199,22 +200,22 @@ TEST_F(TypedQuizWindow, counts_a_pair_that_failed_three_times_once) {
     }
 
     EXPECT_EQ(boxes_.beeps, 3);
-    EXPECT_EQ(ratio(), QStringLiteral("Hibaarány:  11%"));
+    EXPECT_EQ(ratio(), u"Hibaarány:  11%"_s);
 }
 
 TEST_F(TypedQuizWindow, of_one_pair_ends_with_nought_or_a_hundred_percent) {
     start(numbered_pairs(1));
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 1"));
+    EXPECT_EQ(counter(), u" 1/ 1"_s);
     answer_rightly();
     EXPECT_FALSE(window_->isVisible());
-    EXPECT_EQ(ratio(), QStringLiteral("Hibaarány:  0%"));
+    EXPECT_EQ(ratio(), u"Hibaarány:  0%"_s);
 
     start(numbered_pairs(1));
-    answer(QStringLiteral("wrong"));
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 1"));
+    answer(u"wrong"_s);
+    EXPECT_EQ(counter(), u" 1/ 1"_s);
     answer_rightly();
     EXPECT_FALSE(window_->isVisible());
-    EXPECT_EQ(ratio(), QStringLiteral("Hibaarány:  100%"));
+    EXPECT_EQ(ratio(), u"Hibaarány:  100%"_s);
 }
 
 TEST_F(TypedQuizWindow, of_an_empty_list_closes_at_once) {
@@ -230,21 +231,21 @@ TEST_F(TypedQuizWindow, of_an_empty_list_closes_at_once) {
 
 TEST_F(TypedQuizWindow, begins_anew_when_the_direction_is_changed) {
     start(numbered_pairs(10));
-    answer(QStringLiteral("wrong"));
+    answer(u"wrong"_s);
     answer_rightly();
     answer_rightly();
-    text_box()->setText(QStringLiteral("half an ans"));
+    text_box()->setText(u"half an ans"_s);
 
     choose_direction(0);
 
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 10"));
-    EXPECT_TRUE(question().startsWith(QStringLiteral("word")));
+    EXPECT_EQ(counter(), u" 1/ 10"_s);
+    EXPECT_TRUE(question().startsWith(u"word"_s));
     EXPECT_EQ(text_box()->text(), QString());
     EXPECT_TRUE(QTest::qWaitFor([this] { return text_box()->hasFocus(); }));
     messages_.clear();
     answer_all_rightly();
     ASSERT_EQ(messages_.size(), 1);
-    EXPECT_EQ(ratio(), QStringLiteral("Hibaarány:  0%"));
+    EXPECT_EQ(ratio(), u"Hibaarány:  0%"_s);
 }
 
 TEST_F(TypedQuizWindow, changes_the_direction_by_the_arrow_keys_too) {
@@ -254,19 +255,19 @@ TEST_F(TypedQuizWindow, changes_the_direction_by_the_arrow_keys_too) {
     QTest::keyClick(direction(1), Qt::Key_Up);
 
     EXPECT_TRUE(direction(0)->isChecked());
-    EXPECT_TRUE(question().startsWith(QStringLiteral("word")));
+    EXPECT_TRUE(question().startsWith(u"word"_s));
     EXPECT_TRUE(QTest::qWaitFor([this] { return text_box()->hasFocus(); }));
 }
 
 TEST_F(TypedQuizWindow, of_one_pair_stays_as_it_is_when_the_direction_is_changed) {
     start(numbered_pairs(1));
-    text_box()->setText(QStringLiteral("half an ans"));
+    text_box()->setText(u"half an ans"_s);
 
     choose_direction(0);
 
-    EXPECT_EQ(question(), QStringLiteral("szó0"));
-    EXPECT_EQ(text_box()->text(), QStringLiteral("half an ans"));
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 1"));
+    EXPECT_EQ(question(), u"szó0"_s);
+    EXPECT_EQ(text_box()->text(), u"half an ans"_s);
+    EXPECT_EQ(counter(), u" 1/ 1"_s);
 }
 
 TEST_F(TypedQuizWindow, has_the_focus_in_the_text_box_after_a_click_on_any_direction) {
@@ -290,7 +291,7 @@ TEST_F(TypedQuizWindow, draws_the_changing_direction_for_every_question) {
 
     for (int i = 0; i < 59; ++i) {
         const QString side = question().left(3);
-        english += side == QStringLiteral("wor") ? 1 : 0;
+        english += side == u"wor"_s ? 1 : 0;
         turns += side != last ? 1 : 0;
         last = side;
         answer_rightly();
@@ -326,13 +327,13 @@ TEST_F(TypedQuizWindow, keeps_the_direction_under_its_own_name) {
     choose_direction(2);
     click(*window_, "cmd_kilép");
 
-    const QString key = QStringLiteral("nyelv");
-    EXPECT_EQ(settings_.beállításolvas(*window_, key, 7).toString(), QStringLiteral("2"));
-    EXPECT_EQ(settings_.beállításolvas(ablak(QStringLiteral("választás_beáll")), key, 7), 7);
+    const QString key = u"nyelv"_s;
+    EXPECT_EQ(settings_.beállításolvas(*window_, key, 7).toString(), u"2"_s);
+    EXPECT_EQ(settings_.beállításolvas(ablak(u"választás_beáll"_s), key, 7), 7);
 }
 
 TEST_F(TypedQuizWindow, asks_for_english_when_what_is_stored_names_no_direction) {
-    settings_.beállításment(ablak(QStringLiteral("kikérdező")), QStringLiteral("nyelv"), 9);
+    settings_.beállításment(ablak(u"kikérdező"_s), u"nyelv"_s, 9);
 
     start(numbered_pairs(3));
 
@@ -342,12 +343,12 @@ TEST_F(TypedQuizWindow, asks_for_english_when_what_is_stored_names_no_direction)
 TEST_F(TypedQuizWindow, reads_the_list_once_and_leaves_it_alone) {
     start(numbered_pairs(3));
     const QVector<szópár> before = list_.pairs;
-    answer(QStringLiteral("wrong"));
+    answer(u"wrong"_s);
     answer_all_rightly();
     EXPECT_EQ(list_.pairs, before);
 
     start(numbered_pairs(3));
-    list_.pairs.append({QStringLiteral("late"), QStringLiteral("késő")});
+    list_.pairs.append({u"late"_s, u"késő"_s});
     answer_all_rightly();
     EXPECT_FALSE(window_->isVisible());
     EXPECT_EQ(messages_.size(), 3);
@@ -358,13 +359,13 @@ TEST_F(TypedQuizWindow, has_option_buttons_with_letters_half_as_large_as_the_ins
 
     const double instruction = fonts::points(control<QLabel>(*window_, "Label_felirat")->font());
     for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(direction(i)->font().families(), QStringList{QStringLiteral("Times New Roman CE")});
+        EXPECT_EQ(direction(i)->font().families(), QStringList{u"Times New Roman CE"_s});
         EXPECT_NEAR(fonts::points(direction(i)->font()), instruction / 2, 0.01);
     }
 }
 
 TEST_F(TypedQuizWindow, writes_the_answer_in_letters_as_large_as_the_question) {
-    start({{QStringLiteral("a"), QStringLiteral("egy")}, {long_text(), long_text()}});
+    start({{u"a"_s, u"egy"_s}, {long_text(), long_text()}});
     for (int i = 0; i < 2; ++i) {
         EXPECT_NEAR(fonts::points(text_box()->font()),
                     fonts::points(control<PictureBox>(*window_, "Pic_kérdés")->font()), 0.01);
@@ -390,9 +391,9 @@ TEST_F(TypedQuizWindow, takes_nine_tenths_of_the_screen_with_every_caption_whole
 TEST_F(TypedQuizWindow, keeps_questions_of_two_hundred_letters_inside_their_place) {
     for (const QSize &pixels : screens) {
         use_screen(pixels);
-        start({{QStringLiteral("a"), long_text()}, {QStringLiteral("b"), long_word()}});
+        start({{u"a"_s, long_text()}, {u"b"_s, long_word()}});
         for (int i = 0; i < 2; ++i) {
-            expect_text_inside(*window_, QStringLiteral("Pic_kérdés"));
+            expect_text_inside(*window_, u"Pic_kérdés"_s);
             answer_rightly();
         }
     }
@@ -400,37 +401,37 @@ TEST_F(TypedQuizWindow, keeps_questions_of_two_hundred_letters_inside_their_plac
 
 TEST_F(TypedQuizWindow, takes_an_answer_of_fifty_thousand_letters) {
     const QString longest(50000, u'x');
-    start({{longest, QStringLiteral("a")}, {QStringLiteral("b"), QStringLiteral("c")}});
+    start({{longest, u"a"_s}, {u"b"_s, u"c"_s}});
     for (int i = 0; i < 2; ++i)
         answer_rightly();
 
     EXPECT_EQ(boxes_.beeps, 0);
-    EXPECT_EQ(ratio(), QStringLiteral("Hibaarány:  0%"));
+    EXPECT_EQ(ratio(), u"Hibaarány:  0%"_s);
 }
 
 TEST_F(TypedQuizWindow, opens_a_list_of_five_thousand_pairs) {
     start(numbered_pairs(5000));
 
-    EXPECT_EQ(counter(), QStringLiteral(" 1/ 5000"));
+    EXPECT_EQ(counter(), u" 1/ 5000"_s);
     answer_rightly();
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 5000"));
+    EXPECT_EQ(counter(), u" 2/ 5000"_s);
 }
 
 TEST_F(TypedQuizWindow, is_reached_by_tab_from_control_to_control) {
     start(numbered_pairs(3));
 
     // The arrow keys lead from one option button to the next.
-    EXPECT_EQ(tab_order(*window_), QStringLiteral("txt_megoldás cmd_ok nyelvoptb(0) cmd_kilép"));
+    EXPECT_EQ(tab_order(*window_), u"txt_megoldás cmd_ok nyelvoptb(0) cmd_kilép"_s);
 }
 
 TEST_F(TypedQuizWindow, goes_on_when_the_direction_that_is_chosen_already_is_clicked) {
     start(numbered_pairs(5));
     answer_rightly();
-    ASSERT_EQ(counter(), QStringLiteral(" 2/ 5"));
+    ASSERT_EQ(counter(), u" 2/ 5"_s);
 
     choose_direction(1);
 
-    EXPECT_EQ(counter(), QStringLiteral(" 2/ 5"));
+    EXPECT_EQ(counter(), u" 2/ 5"_s);
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 
 #include "support/printing_fixture.h"
 
+using namespace Qt::StringLiterals;
+
 using testing::ElementsAre;
 
 namespace {
@@ -42,9 +44,9 @@ TEST_F(PrintingIntoFile, on_a_full_disk_is_told_and_leaves_an_old_file_as_it_was
     }
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].startsWith(QStringLiteral("A(z) „%1” fájl nem írható: ").arg(place("old.pdf"))));
+    EXPECT_TRUE(boxes_.told[0].startsWith(u"A(z) „%1” fájl nem írható: "_s.arg(place("old.pdf"))));
     EXPECT_EQ(read_file(place("old.pdf")), QByteArray("old"));
-    EXPECT_THAT(files(), ElementsAre(QStringLiteral("old.pdf")));
+    EXPECT_THAT(files(), ElementsAre(u"old.pdf"_s));
     expect_still_open(before);
 }
 
