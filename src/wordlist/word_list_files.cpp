@@ -44,8 +44,7 @@ void szószedetfájlok::fájlmegnyit(const QString &út, const QVector<szópár>
     lista_.hozzáfűz(párok);
     állapot_.változott = 0;
     címbeállít();
-    ablak_.mentbeállít();
-    ablak_.ablakigazít();
+    ablak_.listához_igazít();
 }
 
 void szószedetfájlok::parancssorból(const QString &parancssor) {
@@ -80,8 +79,7 @@ void szószedetfájlok::mnufájlúj() {
         return;
     ürít();
     fájllistír();
-    ablak_.mentbeállít();
-    ablak_.ablakigazít();
+    ablak_.listához_igazít();
 }
 
 void szószedetfájlok::mnufájlmegnyit() {
@@ -145,8 +143,7 @@ void szószedetfájlok::mnufájlhozzáfűz() {
         állapot_.aktuálisfájl = *út;
         címbeállít();
     }
-    ablak_.mentbeállít();
-    ablak_.ablakigazít();
+    ablak_.listához_igazít();
 }
 
 void szószedetfájlok::mnufájlment() {
@@ -221,7 +218,7 @@ QString szószedetfájlok::javasoltnév() const {
 }
 
 void szószedetfájlok::fájllistír() {
-    const FileContent tartalom = legutóbbifájlok::ír(állapot_.aktuálisfájl, ablak_.fájllist());
+    const FileContent tartalom = legutóbbifájlok::ír(állapot_.aktuálisfájl, fájllist_);
     const auto *hiba = std::get_if<Failure>(&tartalom);
     const auto írási = hiba ? *hiba : files::replace_whole(legutóbbi_, std::get<QByteArray>(tartalom));
     if (írási)
@@ -232,7 +229,8 @@ void szószedetfájlok::fájllistír() {
 void szószedetfájlok::fájlistolvas() {
     const FileContent tartalom = files::read_whole(legutóbbi_);
     const auto *bytes = std::get_if<QByteArray>(&tartalom);
-    ablak_.fájllistmutat(bytes ? legutóbbifájlok::olvas(*bytes, files::exists) : QStringList());
+    fájllist_ = bytes ? legutóbbifájlok::olvas(*bytes, files::exists) : QStringList();
+    ablak_.fájllistmutat(fájllist_);
 }
 
 bool szószedetfájlok::kilépéskérdés() {

@@ -1,8 +1,9 @@
+#include "app/mini_window_owner.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QTimer>
 
-#include "app/main_window.h"
 #include "lookup/mini_window_file.h"
 #include "lookup/screen_place.h"
 #include "platform/files.h"
@@ -16,7 +17,20 @@ const QString kisablakfájl_helye = u"c:\\zbrmk\\angol\\kisablak.ini"_s;
 
 }  // namespace
 
-void szótár::kisablakfájlolvas() {
+kisablakgazda::kisablakgazda(const szótárkörnyezet &k, ablak &főablak, nagyablak &nagy, szókereső &kereső)
+    : k_(k), főablak_(főablak), kisablak_([this, &nagy, &kereső] {
+          return std::make_unique<frm_kisablak>(
+              kisablakkörnyezet{.közös = {.hasznos = k_.hasznos, .főablak = főablak_, .üzenetek = k_.üzenetek},
+                                .nagy = nagy,
+                                .kereső = kereső,
+                                .állapot = k_.állapot,
+                                .legfelül = k_.legfelül,
+                                .vágólap = k_.vágólap,
+                                .képernyők = k_.képernyők,
+                                .lépésköz = k_.siklásköz});
+      }) {}
+
+void kisablakgazda::fájlolvas() {
     const FileContent tartalom = files::read_whole(k_.meghajtó.path(kisablakfájl_helye));
     const auto *bytes = std::get_if<QByteArray>(&tartalom);
     const QSizeF képernyő = k_.hasznos.képernyő().size();
@@ -28,7 +42,7 @@ void szótár::kisablakfájlolvas() {
     k_.állapot.kisablakmód = értékek.mód;
 }
 
-void szótár::kisablakfájlír() {
+void kisablakgazda::fájlír() {
     const QString fájl = k_.meghajtó.path(kisablakfájl_helye);
     if (QFileInfo(fájl).dir().entryList(QDir::Files).isEmpty())
         return;
@@ -38,7 +52,7 @@ void szótár::kisablakfájlír() {
         k_.üzenetek.tell(hiba->sentence);
 }
 
-void szótár::kisablakfájlnak_helyet_csinál() {
+void kisablakgazda::fájlnak_helyet_csinál() {
     const QFileInfo fájl(k_.meghajtó.path(kisablakfájl_helye));
     if (fájl.exists() || !QDir().mkpath(fájl.path()))
         return;
@@ -46,46 +60,46 @@ void szótár::kisablakfájlnak_helyet_csinál() {
     static_cast<void>(files::replace_whole(fájl.filePath(), {}));
 }
 
-void szótár::cmd_kisablak_Click() {
+void kisablakgazda::cmd_kisablak_Click() {
     if (kisablak_.loaded())
         return;
-    kisablakfájlnak_helyet_csinál();
-    hide();
+    fájlnak_helyet_csinál();
+    főablak_.hide();
     k_.állapot.kisablakmód = 1;
     kisablak_.get().Form_Activate();
 }
 
-QRectF szótár::helye() const {
-    return {QPointF(pos()) * twips::per_pixel, QSizeF(szélesség(), magasság())};
-}
-
-void szótár::visszatér(const QPointF &közép) {
-    const QSizeF méret(szélesség(), magasság());
+void kisablakgazda::visszatér(const QPointF &közép) {
+    const QSizeF méret(főablak_.szélesség(), főablak_.magasság());
     const QPointF középen = közép - QPointF(méret.width(), méret.height()) / 2;
     // A mini window in a corner would take most of this one off the screen.
     const QPointF hová = képernyőbe(középen, méret, képernyője(közép));
     kisablak_.get().hide();
-    move(twips::to_pixels(hová.x()), twips::to_pixels(hová.y()));
-    show();
-    activateWindow();
+    főablak_.move(twips::to_pixels(hová.x()), twips::to_pixels(hová.y()));
+    főablak_.show();
+    főablak_.activateWindow();
     k_.állapot.kisablakmód = 0;
-    kisablakot_elenged();
+    elenged();
 }
 
 /// Unloads the mini window, which may be in the midst of a search that let its button be pressed.
-void szótár::kisablakot_elenged() {
+void kisablakgazda::elenged() {
     QTimer::singleShot(0, &események_, [this] {
         if (!kisablak_.loaded())
             return;
         if (kisablak_.get().foglalt())
-            kisablakot_elenged();
+            elenged();
         else
             kisablak_.unload();
     });
 }
 
-/// The screen on which this place lies; the main one when it lies on none.
-QRectF szótár::képernyője(const QPointF &hol) const {
+void kisablakgazda::elrejt() {
+    if (kisablak_.loaded())
+        kisablak_.get().hide();
+}
+
+QRectF kisablakgazda::képernyője(const QPointF &hol) const {
     for (const QRectF &képernyő : k_.képernyők()) {
         if (képernyő.contains(hol))
             return képernyő;
