@@ -11,7 +11,7 @@ taken() {
 shown() {
     local document picture
     for document in ./*.md docs/*.md resources/help/*.html; do
-        { grep -oP '!\[[^]]*\]\(\K[^)]+|<img\b[^>]*\bsrc="\K[^"]+' "$document" || true; } | while read -r picture; do
+        { grep -aoP '!\[[^]]*\]\(\K[^)]+|<img\b[^>]*\bsrc="\K[^"]+' "$document" || true; } | while read -r picture; do
             realpath --canonicalize-missing --relative-to=. "$(dirname "$document")/$picture"
         done
     done
