@@ -21,12 +21,14 @@ windows_path() {
     echo "\$INSTDIR\\${1//\//\\}"
 }
 
-# What is installed, part by part, so that nothing is removed which came from elsewhere. The initial settings are the
-# user's from then on: they are neither replaced nor removed with the rest.
+# What is installed, part by part, so that nothing is removed which came from elsewhere. The initial settings and the word
+# lists are the user's from then on: they are not replaced, lists that were deleted do not come back with an update, and
+# only what is unchanged is removed.
+readonly lists=program/szószedetek
 list_instructions() {
     local path
     echo '!macro install_files'
-    find "$installed" -type d -printf '%P\n' | sort | while read -r path; do
+    find "$installed" -type d -not -path "$installed/$lists" -printf '%P\n' | sort | while read -r path; do
         echo "SetOutPath \"$(windows_path "$path")\""
         if [[ $path == program/kavaro ]]; then
             echo 'SetOverwrite off'
@@ -35,8 +37,17 @@ list_instructions() {
         echo 'SetOverwrite on'
     done
     echo '!macroend'
+    echo '!macro install_word_lists'
+    echo "SetOutPath \"$(windows_path "$lists")\""
+    echo 'SetOverwrite off'
+    find "$installed/$lists" -type f | sort | sed 's/.*/File "&"/'
+    echo 'SetOverwrite on'
+    echo '!macroend'
     echo '!macro remove_files'
-    find "$installed" -type f -not -path "$installed/program/kavaro/*" -printf '%P\n' | sort | while read -r path; do
+    find "$installed/$lists" -type f -printf '%P\n' | sort | while read -r path; do
+        echo "!insertmacro remove_when_unchanged \"$(windows_path "$lists/$path")\" \"$installed/$lists/$path\""
+    done
+    find "$installed" -type f -not -path "$installed/program/kavaro/*" -not -path "$installed/$lists/*" -printf '%P\n' | sort | while read -r path; do
         echo "Delete \"$(windows_path "$path")\""
     done
     find "$installed" -mindepth 1 -type d -printf '%P\n' | sort --reverse | while read -r path; do

@@ -1,6 +1,6 @@
 ; The installer: for the user who runs it, so that no administrator is needed. make_packages.sh gives
 ;   VERSION  the program's version
-;   FILES    file with the macros install_files and remove_files
+;   FILES    file with the macros install_files, install_word_lists and remove_files
 ;   PLAYLIST path of the initial playlist
 ;   SIZE     of what is installed, in KiB
 ;   ICON, PICTURE, OUTPUT  paths of the icon, the picture at the side of the first page, and the installer
@@ -185,6 +185,13 @@ Section
   WriteUninstaller "$INSTDIR\${UNINSTALLER}"
   !insertmacro install_files
 
+  ; Once for each folder: what the user has deleted of them does not come back.
+  ReadRegStr $R2 HKCU "${UNINSTALL_KEY}" WordListsGiven
+  ${If} $R2 == ""
+  ${OrIf} $R1 != $INSTDIR
+    !insertmacro install_word_lists
+  ${EndIf}
+
   ; One in another folder goes when this one is there, which takes over its settings.
   ${If} $R1 != ""
   ${AndIf} $R1 != $INSTDIR
@@ -220,33 +227,36 @@ Section
   WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\${UNINSTALLER}"'
   WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\${UNINSTALLER}" /S'
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" ${SIZE}
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "WordListsGiven" "1"
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
 ; Removes an initial setting that has not been changed: "file" has the same bytes as the one it was installed from.
 !macro remove_when_unchanged file original
-  InitPluginsDir
-  File "/oname=$PLUGINSDIR\original" "${original}"
-  ClearErrors
-  FileOpen $0 "${file}" r
-  FileOpen $1 "$PLUGINSDIR\original" r
-  ${IfNot} ${Errors}
-    ${Do}
-      ; Nothing is read at the end.
-      StrCpy $2 ""
-      StrCpy $3 ""
-      FileReadByte $0 $2
-      FileReadByte $1 $3
-      ${If} $2 != $3
-      ${OrIf} $3 == ""
-        ${Break}
+  ${If} ${FileExists} "${file}"
+    InitPluginsDir
+    File "/oname=$PLUGINSDIR\original" "${original}"
+    ClearErrors
+    FileOpen $0 "${file}" r
+    ${IfNot} ${Errors}
+      FileOpen $1 "$PLUGINSDIR\original" r
+      ${Do}
+        ; Nothing is read at the end.
+        StrCpy $2 ""
+        StrCpy $3 ""
+        FileReadByte $0 $2
+        FileReadByte $1 $3
+        ${If} $2 != $3
+        ${OrIf} $3 == ""
+          ${Break}
+        ${EndIf}
+      ${Loop}
+      FileClose $0
+      FileClose $1
+      ${If} $2 == $3
+        Delete "${file}"
       ${EndIf}
-    ${Loop}
-    FileClose $0
-    FileClose $1
-    ${If} $2 == $3
-      Delete "${file}"
     ${EndIf}
   ${EndIf}
 !macroend
@@ -319,6 +329,7 @@ Section -un.
   RMDir "$INSTDIR\program"
   RMDir "$INSTDIR"
   ${If} ${FileExists} "$INSTDIR\program\*.szs"
+  ${OrIf} ${FileExists} "$INSTDIR\program\szószedetek\*.szs"
     MessageBox MB_OK|MB_ICONINFORMATION "A szószedetei itt maradtak:$\r$\n$INSTDIR\program" /SD IDOK
   ${EndIf}
 SectionEnd

@@ -93,6 +93,19 @@ void copy_folder_once(const QDir &installed, const QDir &own, const QString &nam
         unfinished.setAutoRemove(false);
 }
 
+/// Gives the folder `own` its copy of the word lists, once for all time: what the user has changed or deleted, and be it
+/// the whole folder, neither is written over nor comes back. An empty hidden file says that they have been given.
+void give_word_lists(const QDir &installed, const QDir &own) {
+    const QString name = u"szószedetek"_s;
+    const QString given = own.filePath(u".szószedetek-megvoltak"_s);
+    if (QFileInfo::exists(given))
+        return;
+    copy_folder_once(installed, own, name);
+    // Where it cannot be written, nothing could be copied either.
+    if (own.exists(name))
+        static_cast<void>(files::replace_whole(given, {}));
+}
+
 /// The folder that applies before the user's documents are looked at.
 std::optional<QString> folder_that_is_there(const ProgramFolderPlaces &places) {
     if (!places.environment.isEmpty())
@@ -129,5 +142,6 @@ QString find_program_folder(const ProgramFolderPlaces &places) {
     renew_copy(installed.filePath(u"null.wav"_s), own.absolutePath() + u"null.wav"_s);
     for (const char16_t *folder : {u"hangok", u"zenemid", u"kavaro"})
         copy_folder_once(installed, own, QString::fromUtf16(folder));
+    give_word_lists(installed, own);
     return own.absolutePath();
 }

@@ -31,6 +31,31 @@ picture_foablak() {
     take_picture
 }
 
+# look_up_alone <from which language> <word>: a word in a program without a list.
+look_up_alone() {
+    start_program
+    if [[ $1 == hungarian ]]; then
+        click "$from_hungarian"
+        paste "$2"
+    else
+        write "$2"
+    fi
+    wait_for_text "$2"
+    press End
+}
+
+# Words of which the first meaning matters most.
+picture_szo_book() { look_up_alone english book; take_picture; }
+picture_szo_table() { look_up_alone english table; take_picture; }
+picture_szo_light() { look_up_alone english light; take_picture; }
+picture_szo_run() { look_up_alone english run; take_picture; }
+picture_szo_good() { look_up_alone english good; take_picture; }
+picture_szo_because() { look_up_alone english because; take_picture; }
+picture_szo_computer() { look_up_alone english computer; take_picture; }
+picture_szo_jo() { look_up_alone hungarian jó; take_picture; }
+picture_szo_nap() { look_up_alone hungarian nap; take_picture; }
+picture_szo_var() { look_up_alone hungarian vár; take_picture; }
+
 picture_tanulas() {
     open_long_list
     practise t "Tanulás"

@@ -159,6 +159,43 @@ TEST_F(ProgramFolder, has_no_sounds_rather_than_half_of_them) {
     EXPECT_EQ(names_in("documents/Zimbora/hangok"), "csengő.wav, mély duda.wav");
 }
 
+TEST_F(ProgramFolder, is_given_the_word_lists) {
+    make_installed("szószedetek/A2 Család.szs", "mother:anya\r\n");
+
+    const QString folder = find_program_folder(started_from("other"));
+
+    EXPECT_EQ(read_file(folder + u"/szószedetek/A2 Család.szs"_s), "mother:anya\r\n");
+}
+
+TEST_F(ProgramFolder, keeps_what_the_user_made_of_a_word_list_after_an_update) {
+    make_installed("szószedetek/A2 Család.szs", "mother:anya\r\n");
+    const QString list = find_program_folder(started_from("other")) + u"/szószedetek/A2 Család.szs"_s;
+    write_file(list, "mother:édesanya\r\n");
+    make_installed("szószedetek/A2 Család.szs", "mother:anya\r\nfather:apa\r\n");
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_EQ(read_file(list), "mother:édesanya\r\n");
+}
+
+TEST_F(ProgramFolder, never_gets_the_word_lists_back_that_the_user_deleted_with_their_folder) {
+    make_installed("szószedetek/A2 Család.szs", "mother:anya\r\n");
+    QDir(find_program_folder(started_from("other")) + u"/szószedetek"_s).removeRecursively();
+
+    const QString folder = find_program_folder(started_from("other"));
+
+    EXPECT_FALSE(QFileInfo::exists(folder + u"/szószedetek"_s));
+}
+
+TEST_F(ProgramFolder, of_a_former_version_is_given_the_word_lists) {
+    const QString folder = find_program_folder(started_from("other"));
+    make_installed("szószedetek/A2 Család.szs", "mother:anya\r\n");
+
+    static_cast<void>(find_program_folder(started_from("other")));
+
+    EXPECT_TRUE(QFileInfo::exists(folder + u"/szószedetek/A2 Család.szs"_s));
+}
+
 TEST_F(ProgramFolder, is_filled_anew_when_the_first_copy_was_interrupted) {
     install_sounds_and_music();
     QDir(root_.path()).mkpath(u"documents/Zimbora/.hangok-a1B2c3"_s);

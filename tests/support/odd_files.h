@@ -17,7 +17,7 @@ class UnreadableFile final {
   private:
     QString path_;
     /// What the system needs to keep it so.
-    void *held_ = nullptr;
+    [[maybe_unused]] void *held_ = nullptr;
 };
 
 /// Makes the folder `path` one that was changed at `time` for the last time.

@@ -93,7 +93,9 @@ TEST_F(PrintPreview, shows_the_pages_of_the_chosen_layout_of_the_current_printer
     choose(printers(), "First");
     for (const auto &[kind, pages] : all) {
         click(kind);
-        in_preview([&](frm_nyomtatásikép &preview) { EXPECT_EQ(page_of(preview), QString::fromUtf8(pages)); });
+        in_preview([expected = QString::fromUtf8(pages)](frm_nyomtatásikép &preview) {
+            EXPECT_EQ(page_of(preview), expected);
+        });
     }
     choose(printers(), "PDF-fájl");
     in_preview([](frm_nyomtatásikép &) {});
