@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "platform/files.h"
@@ -117,7 +118,12 @@ std::optional<QVector<szópár>> szószedetfájlok::párokat(const QString &út)
         üzenetek_.tell(hiba->sentence);
         return std::nullopt;
     }
-    return szsfájl::olvas(std::get<QByteArray>(tartalom));
+    try {
+        return szsfájl::olvas(std::get<QByteArray>(tartalom));
+    } catch (const std::bad_alloc &) {
+        üzenetek_.tell(files::cannot_read(út, files::no_memory()).sentence);
+        return std::nullopt;
+    }
 }
 
 std::optional<QString> szószedetfájlok::meglévőfájl(const QString &javaslat) {
