@@ -195,7 +195,7 @@ QString reason_not_readable(const QString &path) {
         const QString closed = closed_folder_above(place.absoluteFilePath());
         if (!closed.isEmpty())
             return u"nincs jogosultság a(z) „%1” mappa olvasásához."_s.arg(QDir::toNativeSeparators(closed));
-        return u"a fájl nem létezik."_s;
+        return reason_missing();
     }
     if (place.isDir())
         return u"ez egy mappa."_s;
@@ -204,6 +204,10 @@ QString reason_not_readable(const QString &path) {
     if (!place.isReadable())
         return u"nincs jogosultság az olvasásához."_s;
     return u"a fájl nem nyitható meg."_s;
+}
+
+QString reason_missing() {
+    return u"a fájl nem létezik."_s;
 }
 
 QString no_memory() {

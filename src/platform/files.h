@@ -43,6 +43,9 @@ namespace files {
 /// Why `path` cannot be opened for reading, as far as the system tells.
 [[nodiscard]] QString reason_not_readable(const QString &path);
 
+/// Why something is not read that is not there.
+[[nodiscard]] QString reason_missing();
+
 /// Why something is not read that the memory cannot hold.
 [[nodiscard]] QString no_memory();
 

@@ -227,17 +227,30 @@ QString szószedetfájlok::javasoltnév() const {
 }
 
 void szószedetfájlok::fájllistír() {
-    const FileContent tartalom = legutóbbifájlok::ír(állapot_.aktuálisfájl, ablak_.fájllist());
-    const auto *hiba = std::get_if<Failure>(&tartalom);
-    const auto írási = hiba ? *hiba : files::replace_whole(legutóbbi_, std::get<QByteArray>(tartalom));
-    if (írási)
-        üzenetek_.tell(írási->sentence);
+    const legutóbbifájlok::írott fájl = legutóbbifájlok::ír(állapot_.aktuálisfájl, ablak_.fájllist());
+    // The folder may have been removed while the program runs.
+    auto hiba = files::make_folder(QFileInfo(legutóbbi_).path());
+    if (!hiba)
+        hiba = files::replace_whole(legutóbbi_, fájl.bytes);
+    if (hiba)
+        üzenetek_.tell(hiba->sentence);
+    for (const Failure &kimaradt : fájl.kimaradtak)
+        egyszer_szól(kimaradt);
     fájlistolvas();
+}
+
+void szószedetfájlok::egyszer_szól(const Failure &miről) {
+    if (elmondott_.contains(miről.sentence))
+        return;
+    elmondott_.append(miről.sentence);
+    üzenetek_.tell(miről.sentence);
 }
 
 void szószedetfájlok::fájlistolvas() {
     const FileContent tartalom = files::read_whole(legutóbbi_);
     const auto *bytes = std::get_if<QByteArray>(&tartalom);
+    if (!bytes && files::is_taken(legutóbbi_))
+        egyszer_szól(std::get<Failure>(tartalom));
     ablak_.fájllistmutat(bytes ? legutóbbifájlok::olvas(*bytes, files::exists) : QStringList());
 }
 
