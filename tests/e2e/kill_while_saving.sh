@@ -10,10 +10,10 @@ set -euo pipefail
 bin=$(realpath "$1")
 kills=${2:-1000}
 folder=$(mktemp -d)
-list=$folder/lista.szs
-reports=$folder.reports
+list=$folder/lists/lista.szs
+reports=$folder/reports
 saver=
-trap '[[ -z $saver ]] || kill -KILL "$saver" 2>/dev/null; rm -rf "$folder" "$reports"' EXIT
+trap '[[ -z $saver ]] || kill -KILL "$saver" 2>/dev/null; rm -rf "$folder"' EXIT
 
 fail() {
     echo "$*" >&2
@@ -35,6 +35,7 @@ start_saver() {
     saver=$!
 }
 
+mkdir "$folder/lists"
 most_left=0
 for ((i = 1; i <= kills; i++)); do
     if ((i % 2)); then start_saver; else start_saver named; fi
@@ -55,7 +56,7 @@ for ((i = 1; i <= kills; i++)); do
 done
 "$bin/saving_loop" "$list" 1 >/dev/null
 names=$(cd "$folder" && find . -type f | sort | tr '\n' ' ')
-[[ $names == "./lista.szs ./lista.szs.recent " ]] || fail "More is left than the list: $names"
+[[ $names == "./lists/lista.szs ./recent ./reports " ]] || fail "More is left than the list: $names"
 ((most_left <= 2)) || fail "Unfinished files pile up: $most_left at a time."
 echo "$kills kills: the list was whole each time, no reported save was lost, at most $most_left unfinished files at a time;" \
     "the last save was number $(number_of_whole_list)."

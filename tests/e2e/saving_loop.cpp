@@ -3,9 +3,10 @@
 //
 //     saving_loop <list> [<number of saves> [named]]
 //
-// All pairs of a save have its number, which follows that of the list's file. Each save that has gone well is told by
-// its number, a line each; the first that has not ends the program with a message. With "named", files without a name
-// cannot be had, as on file systems that know none: needs the library of failing calls.
+// The recent files are kept as "recent" in the folder above that of the list. All pairs of a save have its number,
+// which follows that of the list's file. Each save that has gone well is told by its number, a line each; the first
+// that has not ends the program with a message. With "named", files without a name cannot be had, as on file systems
+// that know none: needs the library of failing calls.
 
 #include <dlfcn.h>
 
@@ -62,7 +63,7 @@ int main(int argc, char *argv[]) {
     NoWindow window;
     FakeMessageBoxes boxes;
     FakeFileDialogs dialogs;
-    szószedetfájlok files(state, list, window, boxes, dialogs, path + u".recent"_s);
+    szószedetfájlok files(state, list, window, boxes, dialogs, QFileInfo(QFileInfo(path).path()).path() + u"/recent"_s);
     state.aktuálisfájl = path;
     int number = number_in(path);
     for (int saved = 0; saved < saves; ++saved) {
