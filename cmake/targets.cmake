@@ -20,6 +20,10 @@ function(zimbora_precompiled name)
   endif()
 endfunction()
 zimbora_precompiled(core LINKS Qt6::Core)
+if(ZIMBORA_FUZZERS)
+  # As the libraries that use it; see below.
+  target_compile_options(precompiled_core PRIVATE -fsanitize=fuzzer-no-link)
+endif()
 zimbora_precompiled(widgets LINKS Qt6::Widgets)
 
 # zimbora_use_precompiled(<target> <name>)
@@ -42,6 +46,7 @@ function(zimbora_library name)
   else()
     zimbora_use_precompiled(${name} core)
     if(ZIMBORA_FUZZERS)
+      # The fuzz targets link these.
       target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
     endif()
   endif()

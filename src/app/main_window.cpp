@@ -3,12 +3,10 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
-#include <QTimer>
-#include <algorithm>
 #include <utility>
 
-#include "ui/drawing/fonts.h"
-#include "ui/window/colour_copy.h"
+#include "ui/drawing/twips.h"
+#include "wordlist/recent_files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,62 +24,76 @@ constexpr double alatta = 850;
 szótár::szótár(szótárkörnyezet környezet)
     : ablak(u"szótár"_s, menü::van),
       k_(std::move(környezet)),
-      v_(*this, lista_),
+      kereső_(k_.állapot),
+      v_(*this, kereső_, lista_),
       m_(*menüsor()),
       fájlok_(k_.állapot, lista_, *this, k_.üzenetek, k_.fájlablakok, k_.meghajtó.path(u"c:\\zbrmkfnh.ini"_s)),
-      üzenet_([this] { return std::make_unique<üzenet>(k_.hasznos, *this, k_.állapot.aktuálisfájl); }),
-      tanulás_([this] { return std::make_unique<tanulás>(feladatnak()); }),
-      kikérdező_([this] { return std::make_unique<kikérdező>(feladatnak()); }),
-      választás_([this] { return std::make_unique<választás>(feladatnak()); }),
-      kirakó_([this] { return std::make_unique<frm_kirakó>(feladatnak()); }),
-      memória_([this] { return std::make_unique<frm_memory>(feladatnak()); }),
-      nyomtatás_([this] { return std::make_unique<frm_nyomtatás>(nyomtatásnak()); }),
-      kisablak_([this] {
-          return std::make_unique<frm_kisablak>(kisablakkörnyezet{*this, k_.állapot, k_.hasznos, k_.üzenetek,
-                                                                  k_.legfelül, k_.vágólap, k_.képernyők, k_.siklásköz});
-      }),
-      súgó_([this] { return új_súgó(); }),
-      játszó_(k_.multimédia, k_.állapot),
-      hangbeáll_([this] { return std::make_unique<frm_hangbeáll>(hangoknak()); }),
-      zenebeáll_([this] { return std::make_unique<frm_zenebeáll>(hangoknak()); }),
-      zeneóra_(
-          játszó_, [this]() -> lejátszólista & { return zenebeáll_.get(); },
-          [this](const QString &név) { k_.referencia.feliratbeállít(név); }) {
+      keresés_(v_.keresés, {.kereső = kereső_,
+                            .állapot = k_.állapot,
+                            .üzenetek = k_.üzenetek,
+                            .vége = [this] { return vége_; },
+                            .hozzáad = [this] { hozzáad_Click(); }}),
+      szószedet_(v_.szószedet,
+                 {.lista = lista_, .kereső = kereső_, .állapot = k_.állapot, .üzenetek = k_.üzenetek, .ablak = *this}),
+      ablakok_(k_, *this, lista_, [this] { return vége_; }),
+      kisablak_(k_, *this, *this, kereső_) {
     setWindowTitle(u"névtelen szószedet"_s);
     méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
     háttérszínbeállít(k_.referencia.háttérszín());
     eseményeket_köt();
+    menüt_köt();
 }
 
 void szótár::eseményeket_köt() {
-    lookup_eseményeket_köt();
-    lista_eseményeket_köt();
-    fájl_eseményeket_köt();
-    feladat_eseményeket_köt();
-    nyomtatás_eseményeket_köt();
-    info_eseményeket_köt();
-    hang_eseményeket_köt();
+    connect(v_.keresés.hozzáad, &QPushButton::clicked, &események_, [this] { hozzáad_Click(); });
     connect(v_.kilép, &QPushButton::clicked, &események_, [this] { kilép_Click(); });
-    connect(v_.cmd_kisablak, &QPushButton::clicked, &események_, [this] { cmd_kisablak_Click(); });
+    connect(v_.cmd_kisablak, &QPushButton::clicked, &események_, [this] { kisablak_.cmd_kisablak_Click(); });
+    connect(v_.Label4, &QLabel::linkActivated, &események_, [this] { ablakok_.mnu_cim_Click(); });
+    connect(qApp, &QApplication::focusChanged, &események_,
+            [this](const QWidget *honnan, const QWidget *hová) { fókusz_változott(honnan, hová); });
+}
+
+void szótár::menüt_köt() {
+    const auto köt = [this](QAction *menüpont, auto &kié, auto mit) {
+        connect(menüpont, &QAction::triggered, &események_, [&kié, mit] { (kié.*mit)(); });
+    };
+    köt(m_.mnufájlúj, fájlok_, &szószedetfájlok::mnufájlúj);
+    köt(m_.mnufájlmegnyit, fájlok_, &szószedetfájlok::mnufájlmegnyit);
+    köt(m_.mnufájlhozzáfűz, fájlok_, &szószedetfájlok::mnufájlhozzáfűz);
+    köt(m_.mnufájlment, fájlok_, &szószedetfájlok::mnufájlment);
+    köt(m_.mnufájlmentmásként, fájlok_, &szószedetfájlok::mnufájlmentmásként);
+    köt(m_.mnufájlnyomtatás, ablakok_, &ablakok::mnufájlnyomtatás_Click);
+    for (QAction *menüpont : m_.mnufájlfájl) {
+        connect(menüpont, &QAction::triggered, &események_,
+                [this, menüpont] { fájlok_.mnufájlfájl(legutóbbifájlok::útvonal(menüpont->text())); });
+    }
+    köt(m_.mnufeladattanul, ablakok_, &ablakok::mnufeladattanul_Click);
+    köt(m_.mnufeladatkikérd, ablakok_, &ablakok::mnufeladatkikérd_Click);
+    köt(m_.mnufeladatválaszt, ablakok_, &ablakok::mnufeladatválaszt_Click);
+    köt(m_.mnu_fájl_kirakó, ablakok_, &ablakok::mnu_fájl_kirakó_Click);
+    köt(m_.mnufeladatmemória, ablakok_, &ablakok::mnufeladatmemória_Click);
+    köt(m_.mnu_súgó, ablakok_, &ablakok::mnu_súgó_Click);
+    köt(m_.mnunévjegy, ablakok_, &ablakok::mnunévjegy_Click);
+    köt(m_.mnu_cim, ablakok_, &ablakok::mnu_cim_Click);
+    köt(m_.mnubeállításhang, ablakok_, &ablakok::mnubeállításhang_Click);
+    köt(m_.mnubeállítászene, ablakok_, &ablakok::mnubeállítászene_Click);
 }
 
 void szótár::Form_Load(const QString &parancssor) {
     k_.referencia.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
-    global::színmásol(*this, *this);
     k_.állapot.változott = 0;
     fájlok_.fájlistolvas();
-    kisablakfájlolvas();
+    kisablak_.fájlolvas();
     mentbeállít();
     középre(k_.hasznos.képernyő());
     ablakigazít();
-    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, 0.85));
-    k_.hasznos.ablakstílus(*this);
-    magasságbeállít(hely(v_.Ok).bottom() + 120 + keretmagasság());
-    v_.angolszó->setFocus();
+    k_.hasznos.öltöztet(*this, *this, 0.85);
+    magasságbeállít(hely(v_.keresés.Ok).bottom() + 120 + keretmagasság());
+    v_.keresés.angolszó->setFocus();
     if (k_.állapot.kisablakmód == 1)
-        cmd_kisablak_Click();
+        kisablak_.cmd_kisablak_Click();
     // From here on, when the program folder is known.
-    connect(&k_.referencia.Timer_zene(), &QTimer::timeout, &események_, [this] { zeneóra_.Timer_zene_Timer(); });
+    ablakok_.zenét_indít();
     fájlok_.parancssorból(parancssor);
 }
 
@@ -90,19 +102,15 @@ void szótár::kilép_Click() {
         return;
     kilép_ = true;
     kilépésmégse_ = true;
-    kisablakfájlír();
-    // Its window saves when it closes, and stays open when it cannot.
-    const bool hangok_mentve = !hangbeáll_.loaded() || hangbeáll_.get().close();
-    kilépésmégse_ = !hangok_mentve || !fájlok_.kilépéskérdés();
+    kisablak_.fájlír();
+    kilépésmégse_ = !ablakok_.kiléphet() || !fájlok_.kilépéskérdés();
     kilép_ = false;
     if (kilépésmégse_)
         return;
     vége_ = true;
     hide();
-    if (kisablak_.loaded())
-        kisablak_.get().hide();
-    if (súgó_.loaded())
-        súgó_.get().hide();
+    kisablak_.elrejt();
+    ablakok_.elrejt();
     k_.vége();
 }
 
@@ -119,6 +127,39 @@ void szótár::closeEvent(QCloseEvent *event) {
 
 void szótár::címbeállít(const QString &cím) {
     setWindowTitle(cím);
+}
+
+void szótár::listához_igazít() {
+    mentbeállít();
+    ablakigazít();
+}
+
+void szótár::fájllistmutat(const QStringList &fájlok) {
+    for (size_t i = 0; i < m_.mnufájlfájl.size(); ++i) {
+        const bool van = static_cast<qsizetype>(i) < fájlok.size();
+        m_.mnufájlfájl[i]->setVisible(van);
+        const int n = static_cast<int>(i) + 1;
+        m_.mnufájlfájl[i]->setText(van ? legutóbbifájlok::felirat(n, fájlok[n - 1]) : QString());
+    }
+}
+
+void szótár::fókusz_változott(const QWidget *honnan, const QWidget *hová) {
+    // Nothing has the focus while another program is used; the controls stay as they are then.
+    if (!hová || hová->window() != this)
+        return;
+    if (hová == v_.keresés.angolszó)
+        alapgombbeállít(v_.keresés.Ok);
+    else if (hová == v_.szószedet.szóangtext || hová == v_.szószedet.szómagytext)
+        alapgombbeállít(v_.szószedet.módosít);
+    else if (hová == v_.keresés.magyarlist)
+        alapgombbeállít(v_.keresés.hozzáad);
+    else
+        alapgombbeállít(nullptr);
+    szószedet_.fókusz_változott(honnan, hová);
+}
+
+QRectF szótár::helye() const {
+    return {QPointF(pos()) * twips::per_pixel, QSizeF(szélesség(), magasság())};
 }
 
 void szótár::mentbeállít() {
@@ -146,10 +187,10 @@ void szótár::ablakigazít() {
     m_.mnufájl->menuAction()->setVisible(true);
     m_.mnufeladat->menuAction()->setVisible(true);
     if (lista_.üres()) {
-        magasságbeállít(hely(v_.Ok).bottom() + alatta);
+        magasságbeállít(hely(v_.keresés.Ok).bottom() + alatta);
         return;
     }
-    magasságbeállít(hely(v_.módosít).bottom() + alatta);
-    if (v_.szószedet->selected() < 0)
-        v_.szószedet->select(0);
+    magasságbeállít(hely(v_.szószedet.módosít).bottom() + alatta);
+    if (v_.szószedet.szószedet->selected() < 0)
+        v_.szószedet.szószedet->select(0);
 }

@@ -1,9 +1,9 @@
 #include "app/main_window_controls.h"
 
 #include <QMenuBar>
-#include <limits>
 
 #include "ui/controls/named.h"
+#include "ui/controls/unlimited_line_edit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,13 +39,6 @@ Control *placed(ablak &window, Control *control, const char16_t *name, const QRe
     return control;
 }
 
-/// Reads a million letters in one line too, as a file may hold them.
-QLineEdit *text_box() {
-    auto *box = new QLineEdit;
-    box->setMaxLength(std::numeric_limits<int>::max());
-    return box;
-}
-
 QPushButton *disabled_button(const QString &caption) {
     auto *button = new QPushButton(caption);
     button->setEnabled(false);
@@ -76,20 +69,18 @@ QAction *separator(QMenu &menu, const char16_t *name) {
 
 }  // namespace
 
-szótárvezérlők::szótárvezérlők(ablak &mire, szópárlista &lista)
-    // In the order of reading, which is the order of Tab. "Szószedetből töröl" comes right behind the list: it
-    // would be disabled if the focus went anywhere else.
+keresővezérlők::keresővezérlők(ablak &mire, szókereső &kereső)
     : Label1(placed(mire, new QLabel(u"&Angolul:"_s), u"Label1", {left_column, caption_top, list_width, caption_height},
                     nullptr)),
-      angolszó(
-          placed(mire, text_box(), u"angolszó", {left_column, search_top, list_width, row_height}, u"Keresett szó")),
+      angolszó(placed(mire, unlimited_line_edit(), u"angolszó", {left_column, search_top, list_width, row_height},
+                      u"Keresett szó")),
       Ok(placed(mire, disabled_button(u"Ok"_s), u"Ok", {left_column, lookup_buttons_top, list_width * 0.4, row_height},
                 u"Ok, keresés")),
-      szólist(placed(mire, new ListBox, u"szólist", {left_column, hits_top, list_width, lookup_bottom - hits_top},
-                     u"Találatok")),
+      szólist(placed(mire, new ListBox(&kereső.találatok(), találatlista::címszó_oszlop, &kereső.kijelölt_találat()),
+                     u"szólist", {left_column, hits_top, list_width, lookup_bottom - hits_top}, u"Találatok")),
       Label2(placed(mire, new QLabel(u"Magyarul:"_s), u"Label2",
                     {middle_column, caption_top, list_width, caption_height}, nullptr)),
-      magyarlist(placed(mire, new ListBox, u"magyarlist",
+      magyarlist(placed(mire, new ListBox(&kereső.jelentések(), 0, &kereső.kijelölt_jelentés()), u"magyarlist",
                         {middle_column, search_top, list_width, lookup_bottom - search_top}, u"Jelentések")),
       Label3(placed(mire, new QLabel, u"Label3",
                     {left_column + list_width * 0.44, lookup_buttons_top, list_width * 0.56, row_height}, nullptr)),
@@ -99,38 +90,48 @@ szótárvezérlők::szótárvezérlők(ablak &mire, szópárlista &lista)
                    {right_column, search_top, button_width, row_height}, u"Angolról magyarra"),
             placed(mire, new QRadioButton(u"Magyarról angolra"_s), u"nyelv(1)",
                    {right_column, search_top + row_height, button_width, row_height}, u"Magyarról angolra")},
-      cmd_kisablak(placed(mire, new QPushButton(u"Kisablak"_s), u"cmd_kisablak",
-                          {right_column, mini_window_top, button_width, row_height}, u"Kisablak")),
-      Label4(placed(mire, link(készítők_lapja), u"Label4", {right_column, address_top, button_width, caption_height},
-                    u"A készítők lapja")),
-      kilép(placed(mire, new QPushButton(u"Kilép"_s), u"kilép",
-                   {right_column, lookup_buttons_top, button_width, row_height}, u"Kilép")),
-      megoldlist(placed(mire, never_shown(new ListBox), u"megoldlist", {left_column, hits_top, list_width, row_height},
-                        u"A találatok jelentései")),
+      megoldlist(placed(mire, never_shown(new ListBox(&kereső.találatok(), találatlista::jelentések_oszlop)),
+                        u"megoldlist", {left_column, hits_top, list_width, row_height}, u"A találatok jelentései")),
       Command2(placed(mire, never_shown(new QPushButton(u"Állományt átalakít (nem látható)"_s)), u"Command2",
-                      {right_column, hits_top, button_width, row_height}, u"Állományt átalakít")),
-      szószedet(placed(mire, new ListBox(&lista, szópárlista::angol_oszlop), u"szószedet",
+                      {right_column, hits_top, button_width, row_height}, u"Állományt átalakít")) {
+    Label1->setBuddy(angolszó);
+    nyelv[0]->setChecked(true);
+}
+
+szószedetvezérlők::szószedetvezérlők(ablak &mire, szópárlista &lista)
+    : szószedet(placed(mire, new ListBox(&lista, szópárlista::angol_oszlop), u"szószedet",
                        {left_column, pairs_top, list_width, pairs_bottom - pairs_top}, u"Szószedet, angol szavak")),
       szómagylist(placed(mire, new ListBox(&lista, szópárlista::magyar_oszlop), u"szómagylist",
                          {middle_column, pairs_top, list_width, pairs_bottom - pairs_top},
                          u"Szószedet, magyar szavak")),
       sztöröl(placed(mire, disabled_button(u"Szószedetből töröl"_s), u"sztöröl",
                      {right_column, pairs_top, button_width, row_height}, u"Szószedetből töröl")),
-      szóangtext(placed(mire, text_box(), u"szóangtext", {left_column, edit_top, list_width, row_height},
+      szóangtext(placed(mire, unlimited_line_edit(), u"szóangtext", {left_column, edit_top, list_width, row_height},
                         u"A kijelölt pár angol szava")),
-      szómagytext(placed(mire, text_box(), u"szómagytext", {middle_column, edit_top, list_width, row_height},
+      szómagytext(placed(mire, unlimited_line_edit(), u"szómagytext", {middle_column, edit_top, list_width, row_height},
                          u"A kijelölt pár magyar szava")),
       módosít(placed(mire, disabled_button(u"Módosít"_s), u"módosít",
                      {right_column, edit_top, button_width, row_height}, u"Módosít")) {
-    Label1->setBuddy(angolszó);
-    nyelv[0]->setChecked(true);
     sztöröl->setProperty("tag", u"*"_s);
     // The Hungarian list shows the same pairs in step; the English one takes the keyboard for both.
     szómagylist->setFocusPolicy(Qt::NoFocus);
-    QWidget *előző = angolszó;
-    for (QWidget *következő :
-         std::initializer_list<QWidget *>{szólist, Ok, magyarlist, hozzáad, nyelv[0], nyelv[1], cmd_kisablak, Label4,
-                                          kilép, szószedet, sztöröl, szóangtext, szómagytext, módosít}) {
+}
+
+szótárvezérlők::szótárvezérlők(ablak &mire, szókereső &kereső, szópárlista &lista)
+    : keresés(mire, kereső),
+      cmd_kisablak(placed(mire, new QPushButton(u"Kisablak"_s), u"cmd_kisablak",
+                          {right_column, mini_window_top, button_width, row_height}, u"Kisablak")),
+      Label4(placed(mire, link(készítők_lapja), u"Label4", {right_column, address_top, button_width, caption_height},
+                    u"A készítők lapja")),
+      kilép(placed(mire, new QPushButton(u"Kilép"_s), u"kilép",
+                   {right_column, lookup_buttons_top, button_width, row_height}, u"Kilép")),
+      szószedet(mire, lista) {
+    // "Szószedetből töröl" comes right behind the list: it would be disabled if the focus went anywhere else.
+    QWidget *előző = keresés.angolszó;
+    for (QWidget *következő : std::initializer_list<QWidget *>{
+             keresés.szólist, keresés.Ok, keresés.magyarlist, keresés.hozzáad, keresés.nyelv[0], keresés.nyelv[1],
+             cmd_kisablak, Label4, kilép, szószedet.szószedet, szószedet.sztöröl, szószedet.szóangtext,
+             szószedet.szómagytext, szószedet.módosít}) {
         QWidget::setTabOrder(előző, következő);
         előző = következő;
     }

@@ -8,18 +8,19 @@
 #include <QRadioButton>
 #include <array>
 
+#include "dictionary/word_lookup.h"
 #include "ui/controls/list_box.h"
 #include "ui/window/window.h"
 #include "wordlist/recent_files.h"
 #include "wordlist/word_pair_list.h"
 
-/// The controls of the main window: what they are called, what they say, where they stand before the window is scaled.
-/// They belong to the window.
-struct szótárvezérlők {
-    /// Places the controls on `mire`; the two lists of the word list show the columns of `lista`.
-    szótárvezérlők(ablak &mire, szópárlista &lista);
+// The controls of the main window: what they are called, what they say, where they stand before the window is scaled.
+// They belong to the window.
 
-    // Looking a word up.
+/// Looking a word up.
+struct keresővezérlők {
+    keresővezérlők(ablak &mire, szókereső &kereső);
+
     QLabel *Label1;
     QLineEdit *angolszó;
     QPushButton *Ok;
@@ -30,22 +31,34 @@ struct szótárvezérlők {
     QPushButton *hozzáad;
     /// 0 "Angolról magyarra", 1 "Magyarról angolra".
     std::array<QRadioButton *, 2> nyelv;
-    QPushButton *cmd_kisablak;
-    /// The address of the program's makers.
-    QLabel *Label4;
-    QPushButton *kilép;
 
     // Never shown: the meanings field of each hit, and the conversion tool.
     ListBox *megoldlist;
     QPushButton *Command2;
+};
 
-    // The word list.
+/// The word list; its two lists show the columns of `lista`.
+struct szószedetvezérlők {
+    szószedetvezérlők(ablak &mire, szópárlista &lista);
+
     ListBox *szószedet;
     ListBox *szómagylist;
     QPushButton *sztöröl;
     QLineEdit *szóangtext;
     QLineEdit *szómagytext;
     QPushButton *módosít;
+};
+
+/// All controls, in the order of reading, which is the order of Tab.
+struct szótárvezérlők {
+    szótárvezérlők(ablak &mire, szókereső &kereső, szópárlista &lista);
+
+    keresővezérlők keresés;
+    QPushButton *cmd_kisablak;
+    /// The address of the program's makers.
+    QLabel *Label4;
+    QPushButton *kilép;
+    szószedetvezérlők szószedet;
 };
 
 /// The menus of the main window.

@@ -5,6 +5,7 @@
 
 #include "platform/code_page.h"
 #include "platform/text_lines.h"
+#include "state/number_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -40,7 +41,7 @@ std::optional<Failure> állományátalakító::átalakít() {
         return *hiba;
     QList<QByteArray> sorok = nagybetűs_sorok(std::get<QByteArray>(bemenet));
     const qsizetype rossz = rossz_helyen(sorok);
-    kiír_(u"%1,%2"_s.arg(rossz).arg(sorok.size()));
+    kiír_(számszöveg(rossz) + u',' + számszöveg(sorok.size()));
     if (rossz > 0) {
         if (!rendez(sorok))
             return std::nullopt;
@@ -58,7 +59,7 @@ bool állományátalakító::rendez(QList<QByteArray> &sorok) const {
             if (sorok[j] < sorok[i])
                 sorok.swapItemsAt(i, j);
         }
-        kiír_(QString::number(i + 1));
+        kiír_(számszöveg(i + 1));
         if (megálljon_())
             return false;
     }

@@ -45,8 +45,7 @@ void szószedetfájlok::fájlmegnyit(const QString &út, const QVector<szópár>
     lista_.hozzáfűz(párok);
     állapot_.változott = 0;
     címbeállít();
-    ablak_.mentbeállít();
-    ablak_.ablakigazít();
+    ablak_.listához_igazít();
 }
 
 void szószedetfájlok::parancssorból(const QString &parancssor) {
@@ -81,8 +80,7 @@ void szószedetfájlok::mnufájlúj() {
         return;
     ürít();
     fájllistír();
-    ablak_.mentbeállít();
-    ablak_.ablakigazít();
+    ablak_.listához_igazít();
 }
 
 void szószedetfájlok::mnufájlmegnyit() {
@@ -151,8 +149,7 @@ void szószedetfájlok::mnufájlhozzáfűz() {
         állapot_.aktuálisfájl = *út;
         címbeállít();
     }
-    ablak_.mentbeállít();
-    ablak_.ablakigazít();
+    ablak_.listához_igazít();
 }
 
 void szószedetfájlok::mnufájlment() {
@@ -227,7 +224,7 @@ QString szószedetfájlok::javasoltnév() const {
 }
 
 void szószedetfájlok::fájllistír() {
-    const legutóbbifájlok::írott fájl = legutóbbifájlok::ír(állapot_.aktuálisfájl, ablak_.fájllist());
+    const legutóbbifájlok::írott fájl = legutóbbifájlok::ír(állapot_.aktuálisfájl, fájllist_);
     // The folder may have been removed while the program runs.
     auto hiba = files::make_folder(QFileInfo(legutóbbi_).path());
     if (!hiba)
@@ -251,7 +248,8 @@ void szószedetfájlok::fájlistolvas() {
     const auto *bytes = std::get_if<QByteArray>(&tartalom);
     if (!bytes && files::is_taken(legutóbbi_))
         egyszer_szól(std::get<Failure>(tartalom));
-    ablak_.fájllistmutat(bytes ? legutóbbifájlok::olvas(*bytes, files::exists) : QStringList());
+    fájllist_ = bytes ? legutóbbifájlok::olvas(*bytes, files::exists) : QStringList();
+    ablak_.fájllistmutat(fájllist_);
 }
 
 bool szószedetfájlok::kilépéskérdés() {

@@ -16,15 +16,11 @@ class szószedetablak {
     virtual ~szószedetablak() = default;
 
     virtual void címbeállít(const QString &cím) = 0;
-    /// Enables the menus that fit the list and grows or shrinks a window of a resting height.
-    virtual void mentbeállít() = 0;
-    /// Gives the window the height that fits the list.
-    virtual void ablakigazít() = 0;
+    /// Enables the menus that fit the list, and gives the window the height that fits it.
+    virtual void listához_igazít() = 0;
     virtual void szövegmezőketürít() = 0;
     /// Shows these files, at most four, in the recent-files menu.
     virtual void fájllistmutat(const QStringList &fájlok) = 0;
-    /// The files the menu shows now.
-    [[nodiscard]] virtual QStringList fájllist() const = 0;
 };
 
 /// The menu "&Fájl" without a widget: opening, appending, saving and naming the word list, its questions and messages,
@@ -89,5 +85,7 @@ class szószedetfájlok final {
     QString legutóbbi_;
     /// What is told once.
     QStringList elmondott_;
+    /// What the recent-files menu shows.
+    QStringList fájllist_;
     bool mentésmégse_ = false;
 };

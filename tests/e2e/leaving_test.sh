@@ -3,8 +3,20 @@
 set -euo pipefail
 source "$(dirname "$0")/lib.sh"
 
+# A window manager that has just put a window in front may miss the key, so it is pressed again.
 close_window() {
-    press alt+F4
+    local before attempt
+    before=$(title_in_front)
+    for attempt in 1 2 3; do
+        press alt+F4
+        patience=3 within_patience closing_has_begun "$before" && return
+    done
+    fail "Alt+F4 does nothing."
+}
+
+# closing_has_begun <the title in front before it>
+closing_has_begun() {
+    program_has_ended || [[ $(title_in_front) != "$1" ]]
 }
 
 # The buttons of the question: Igen, Nem, Mégse. The first has the focus.

@@ -5,7 +5,7 @@
 #
 # A test waits for a condition, never for a time: wait_until.
 
-readonly patience=${ZIMBORA_E2E_PATIENCE:-30} # seconds until a wait fails
+patience=${ZIMBORA_E2E_PATIENCE:-30} # seconds until a wait fails
 readonly polling=0.05 # seconds between two looks
 
 # set_up_places [<folder>]: with a folder of a known name, whose path is seen in a picture, in place of a new one.

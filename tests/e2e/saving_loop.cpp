@@ -29,11 +29,9 @@ constexpr int pairs = 5000;
 class NoWindow final : public szószedetablak {
   public:
     void címbeállít(const QString &) override {}
-    void mentbeállít() override {}
-    void ablakigazít() override {}
+    void listához_igazít() override {}
     void szövegmezőketürít() override {}
     void fájllistmutat(const QStringList &) override {}
-    [[nodiscard]] QStringList fájllist() const override { return {}; }
 };
 
 int number_in(const QString &path) {

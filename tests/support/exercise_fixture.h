@@ -13,21 +13,12 @@
 #include <functional>
 
 #include "exercises/common/widgets/exercise_surroundings.h"
-#include "support/fake_dialogs.h"
-#include "support/printing.h"
 #include "support/seeded_random.h"
 #include "support/window_checks.h"
+#include "support/window_fixture.h"
 #include "support/word_pairs.h"
 
 using namespace Qt::StringLiterals;
-
-/// A word list that a test fills.
-class WordListForTests final : public szószedetolvasó {
-  public:
-    QVector<szópár> pairs;
-
-    [[nodiscard]] const QVector<szópár> &párok() const override { return pairs; }
-};
 
 /// A meaning of 200 letters.
 inline QString long_text() {
@@ -44,32 +35,23 @@ inline QString long_word() {
 
 /// What an exercise window is given, with a word list, settings and a seeded generator of the test's own. Messages are
 /// noted, not shown.
-class ExerciseTest : public testing::Test {
+class ExerciseTest : public WindowTest {
   protected:
     struct Message {
         int milliseconds;
         QStringList lines;
     };
 
-    ExerciseTest() {
-        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
-        main_window_.háttérszínbeállít(Qt::cyan);
-    }
-
     [[nodiscard]] feladatkörnyezet surroundings() {
-        return {list_,
-                fitting_,
-                main_window_,
-                random_,
-                settings_,
-                boxes_,
-                [this](qint16 milliseconds, const QStringList &lines) {
+        return {.közös = common(),
+                .szószedet = list_,
+                .véletlen = random_,
+                .beállítások = settings_,
+                .üzenetmutat = [this](qint16 milliseconds, const QStringList &lines) {
                     messages_.append({milliseconds, lines});
                     during_message_();
                 }};
     }
-
-    void use_screen(const QSize &pixels) { screen_ = QRectF(QPointF(0, 0), QSizeF(pixels) * 15); }
 
     static void show(ablak &window) {
         window.show();
@@ -87,20 +69,20 @@ class ExerciseTest : public testing::Test {
         return control<QLabel>(window, name)->text();
     }
 
+    /// Puts these pairs in the place of those in the list.
+    void fill(const QVector<szópár> &pairs) {
+        list_.kiürít();
+        list_.hozzáfűz(pairs);
+    }
+
     /// What a picture shows.
     [[nodiscard]] static QString shown(const ablak &window, const char *name) {
         return control<PictureBox>(window, name)->property("tag").toString();
     }
 
-    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
-    QRectF screen_{0, 0, 1024 * 15, 768 * 15};
-    frm_referencia reference_;
-    ablak main_window_{u"szótár"_s};
-    Module_hasznos fitting_{reference_, [this] { return screen_; }};
-    WordListForTests list_;
+    szópárlista list_;
     SeededRandom random_;
-    global::beállítástár settings_{root_.filePath(u"settings.ini"_s)};
-    FakeMessageBoxes boxes_;
+    global::beállítástár settings_{place(u"settings.ini"_s)};
     QList<Message> messages_;
     /// Called while a message would be open.
     std::function<void()> during_message_ = [] {};

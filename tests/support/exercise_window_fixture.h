@@ -10,7 +10,7 @@ template <class Window, class Settings>
 class ExerciseWindowTest : public ExerciseTest {
   protected:
     void load(const QVector<szópár> &pairs) {
-        list_.pairs = pairs;
+        fill(pairs);
         window_ = std::make_unique<Window>(surroundings());
     }
     void start(const QVector<szópár> &pairs) {

@@ -13,19 +13,16 @@
 #include <utility>
 
 #include "lookup/widgets/help_window.h"
-#include "support/fake_dialogs.h"
 #include "support/files_for_tests.h"
-#include "support/printing.h"
+#include "support/window_fixture.h"
 
 using namespace Qt::StringLiterals;
 
 /// A program folder of the test's own, with a help document, and the help viewer in front of it. Notes are collected,
 /// not shown.
-class HelpWindowTest : public testing::Test {
+class HelpWindowTest : public WindowTest {
   protected:
     HelpWindowTest() {
-        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
-        main_window_.háttérszínbeállít(Qt::cyan);
         QDir().mkpath(program_);
         QDir().mkpath(program_ + u"kavaro/help"_s);
     }
@@ -35,12 +32,15 @@ class HelpWindowTest : public testing::Test {
 
     /// Loads the viewer, but does not show it.
     void load(WebBrowserFactory browser) {
-        window_ = std::make_unique<frm_súgó>(súgókörnyezet{program_, fitting_, main_window_, boxes_,
-                                                           [this](const QString &text) {
-                                                               notes_.append(text);
-                                                               during_note_();
-                                                           },
-                                                           std::move(browser), [this] { ++closed_; }});
+        window_ = std::make_unique<frm_súgó>(súgókörnyezet{.közös = common(),
+                                                           .programkönyvtár = program_,
+                                                           .rövidüzenet =
+                                                               [this](const QString &text) {
+                                                                   notes_.append(text);
+                                                                   during_note_();
+                                                               },
+                                                           .böngésző = std::move(browser),
+                                                           .bezárva = [this] { ++closed_; }});
     }
 
     void show() {
@@ -75,14 +75,8 @@ class HelpWindowTest : public testing::Test {
         QTest::keyClick(address_box(), Qt::Key_Return);
     }
 
-    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
     /// Text of the program folder.
-    QString program_ = root_.filePath(u"program"_s);
-    QRectF screen_{0, 0, 1024 * 15, 768 * 15};
-    frm_referencia reference_;
-    ablak main_window_{u"szótár"_s};
-    Module_hasznos fitting_{reference_, [this] { return screen_; }};
-    FakeMessageBoxes boxes_;
+    QString program_ = place(u"program"_s);
     QStringList notes_;
     /// Called while a note would be open.
     std::function<void()> during_note_ = [] {};

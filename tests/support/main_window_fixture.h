@@ -18,18 +18,17 @@
 #include "app/main_window.h"
 #include "support/dictionary_for_tests.h"
 #include "support/fake_desktop.h"
-#include "support/fake_dialogs.h"
 #include "support/fake_multimedia.h"
 #include "support/fake_printers.h"
 #include "support/fake_web_browser.h"
 #include "support/files_for_tests.h"
-#include "support/printing.h"
 #include "support/seeded_random.h"
+#include "support/window_fixture.h"
 
 using namespace Qt::StringLiterals;
 
 /// A main window with fake dialogs, a drive C and a program folder of its own, and two small dictionaries.
-class MainWindowTest : public testing::Test {
+class MainWindowTest : public WindowTest {
   protected:
     MainWindowTest() {
         QDir(root_.path()).mkpath(u"c"_s);
@@ -53,25 +52,36 @@ class MainWindowTest : public testing::Test {
 
     /// Loads the window without showing it.
     void load(const QString &command_line = {}) {
-        window_ = std::make_unique<szótár>(szótárkörnyezet{
-            state_, reference_, fitting_, boxes_, dialogs_, DriveC(place("c")), random_, settings_, printers_,
-            top_most_, multimedia_, [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
-            [this] { return QVector<QRectF>{screen_}; },
-            [this](const WebBrowserRules &) -> WebBrowserResult {
-                auto browser = std::make_unique<FakeWebBrowser>();
-                browser_ = browser.get();
-                return browser;
-            },
-            [this] { return information_tool_; }, [this] { ++animation_steps_; },
-            [this] {
-                ++glide_steps_;
-                between_glide_steps_();
-            },
-            [this] { return time_; }, [this] { ended_ = true; }});
+        window_ = std::make_unique<szótár>(
+            szótárkörnyezet{.állapot = state_,
+                            .referencia = reference_,
+                            .hasznos = fitting_,
+                            .üzenetek = boxes_,
+                            .fájlablakok = dialogs_,
+                            .meghajtó = DriveC(place("c")),
+                            .véletlen = random_,
+                            .beállítások = settings_,
+                            .nyomtatók = printers_,
+                            .legfelül = top_most_,
+                            .multimédia = multimedia_,
+                            .vágólap = [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
+                            .képernyők = [this] { return QVector<QRectF>{screen_}; },
+                            .böngésző = [this](const WebBrowserRules &) -> WebBrowserResult {
+                                auto browser = std::make_unique<FakeWebBrowser>();
+                                browser_ = browser.get();
+                                return browser;
+                            },
+                            .rendszeradatok = [this] { return information_tool_; },
+                            .lépésköz = [this] { ++animation_steps_; },
+                            .siklásköz =
+                                [this] {
+                                    ++glide_steps_;
+                                    between_glide_steps_();
+                                },
+                            .óra = [this] { return time_; },
+                            .vége = [this] { ended_ = true; }});
         window_->Form_Load(command_line);
     }
-
-    [[nodiscard]] QString place(const char *name) const { return root_.filePath(QString::fromUtf8(name)); }
 
     template <class Control>
     [[nodiscard]] Control *control(const char *name) const {
@@ -117,12 +127,7 @@ class MainWindowTest : public testing::Test {
         return place(name);
     }
 
-    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
-    QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     global::programállapot state_;
-    frm_referencia reference_;
-    Module_hasznos fitting_{reference_, [this] { return screen_; }};
-    FakeMessageBoxes boxes_;
     FakeFileDialogs dialogs_;
     SeededRandom random_;
     global::beállítástár settings_{place("settings.ini")};

@@ -14,11 +14,10 @@
 #include <memory>
 
 #include "media/widgets/media_surroundings.h"
-#include "support/fake_dialogs.h"
 #include "support/fake_multimedia.h"
 #include "support/files_for_tests.h"
-#include "support/printing.h"
 #include "support/window_checks.h"
+#include "support/window_fixture.h"
 #include "ui/controls/list_box.h"
 
 using namespace Qt::StringLiterals;
@@ -26,19 +25,19 @@ using namespace Qt::StringLiterals;
 /// A window of the sounds or the music, with a program folder and a drive C of its own, a device that notes what it is
 /// told, and message boxes that are noted, not shown.
 template <class Window>
-class MediaWindowTest : public testing::Test {
+class MediaWindowTest : public WindowTest {
   protected:
     MediaWindowTest() {
         for (const char *folder : {"c", "program/hangok", "program/zenemid", "program/kavaro"})
             make_folder(folder);
         state_.programkönyvtár = place("program");
-        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
-        main_window_.háttérszínbeállít(Qt::cyan);
     }
 
     void load() {
-        window_ = std::make_unique<Window>(
-            hangkörnyezet{state_.programkönyvtár, DriveC(place("c")), fitting_, main_window_, boxes_, player_});
+        window_ = std::make_unique<Window>(hangkörnyezet{.közös = common(),
+                                                         .programkönyvtár = state_.programkönyvtár,
+                                                         .meghajtó = DriveC(place("c")),
+                                                         .játszó = player_});
     }
 
     /// Opens the window as its menu item does, and returns when `act` has been carried out in it.
@@ -64,8 +63,6 @@ class MediaWindowTest : public testing::Test {
         focus->setFocus();
     }
 
-    [[nodiscard]] QString place(const char *name) const { return place(QString::fromUtf8(name)); }
-    [[nodiscard]] QString place(const QString &name) const { return root_.filePath(name); }
     void make_folder(const char *name) const { QDir(root_.path()).mkpath(QString::fromUtf8(name)); }
     /// Lets nothing be written at this place, not even by root.
     void make_unwritable(const char *folder) const {
@@ -74,8 +71,6 @@ class MediaWindowTest : public testing::Test {
     }
     void write(const char *name, const QByteArray &bytes) const { write_file(place(name), bytes); }
     [[nodiscard]] QByteArray written(const char *name) const { return read_file(place(name)); }
-
-    void use_screen(const QSize &pixels) { screen_ = QRectF(QPointF(0, 0), QSizeF(pixels) * 15); }
 
     [[nodiscard]] ListBox *list(const char *name) const { return control<ListBox>(*window_, name); }
     [[nodiscard]] QPushButton *button(const char *name) const { return control<QPushButton>(*window_, name); }
@@ -120,13 +115,7 @@ class MediaWindowTest : public testing::Test {
         EXPECT_LE(taken + 4, button->width()) << button->objectName().toStdString();
     }
 
-    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
-    QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     global::programállapot state_;
-    frm_referencia reference_;
-    ablak main_window_{u"szótár"_s};
-    Module_hasznos fitting_{reference_, [this] { return screen_; }};
-    FakeMessageBoxes boxes_;
     FakeMultimedia multimedia_;
     lejátszó player_{multimedia_, state_};
     std::unique_ptr<Window> window_;

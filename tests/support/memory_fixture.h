@@ -94,7 +94,7 @@ class MemoryTest : public ExerciseWindowTest<frm_memory, frm_memory_beáll> {
     }
 
     [[nodiscard]] bool belong_together(int a, int b) const {
-        return std::any_of(list_.pairs.cbegin(), list_.pairs.cend(), [&](const szópár &pair) {
+        return std::any_of(list_.párok().cbegin(), list_.párok().cend(), [&](const szópár &pair) {
             const QString hungarian =
                 pair.magyar.isEmpty() ? u"Kéne írni ide valamit!"_s : pair.magyar.section(u',', 0, 0);
             return (text(a) == pair.angol && text(b) == hungarian) || (text(b) == pair.angol && text(a) == hungarian);

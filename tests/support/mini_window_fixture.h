@@ -12,22 +12,25 @@
 #include <memory>
 
 #include "lookup/widgets/mini_window.h"
+#include "support/dictionary_for_tests.h"
 #include "support/fake_desktop.h"
-#include "support/fake_dialogs.h"
 #include "support/fake_large_window.h"
-#include "support/printing.h"
+#include "support/files_for_tests.h"
 #include "support/timers.h"
+#include "support/window_fixture.h"
 
 using namespace Qt::StringLiterals;
 
 /// A mini window beside a main window, a clipboard and a screen of the test's own. Time stands still: the test steps
 /// the glide and the timer.
-class MiniWindowTest : public testing::Test {
+class MiniWindowTest : public WindowTest {
   protected:
     MiniWindowTest() {
-        large_.dictionary = {{u"alma"_s, {u"apple"_s}},
-                             {u"almafa"_s, {u"apple tree"_s, u"apple wood"_s}},
-                             {u"ház"_s, {u"house"_s, u"home"_s}}};
+        state_.programkönyvtár = root_.path();
+        put_dictionary({"alma:apple\xf7",
+                        "almafa:apple tree\xf7"
+                        "apple wood\xf7",
+                        "h\xe1z:house\xf7home\xf7"});
         state_.kisablakbal = 1234;
         state_.kisablakfent = 2345;
         state_.kisablakmód = 1;
@@ -41,11 +44,19 @@ class MiniWindowTest : public testing::Test {
     MiniWindowTest(const MiniWindowTest &) = delete;
     MiniWindowTest &operator=(const MiniWindowTest &) = delete;
 
+    /// Gives the program a dictionary of these entries.
+    void put_dictionary(const QByteArrayList &entries) { write_file(place("am.txt"), dictionary_of(entries)); }
+
     void load() {
         window_ = std::make_unique<frm_kisablak>(
-            kisablakkörnyezet{large_, state_, fitting_, boxes_, top_most_,
-                              [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
-                              [this] { return screens_; }, [this] { between_steps_(); }});
+            kisablakkörnyezet{.közös = common(),
+                              .nagy = large_,
+                              .kereső = lookup_,
+                              .állapot = state_,
+                              .legfelül = top_most_,
+                              .vágólap = [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
+                              .képernyők = [this] { return screens_; },
+                              .lépésköz = [this] { between_steps_(); }});
     }
 
     void open() {
@@ -113,13 +124,10 @@ class MiniWindowTest : public testing::Test {
     /// The place that is kept, in twips.
     [[nodiscard]] QPoint kept_place() const { return {state_.kisablakbal, state_.kisablakfent}; }
 
-    QRectF screen_{0, 0, 1024 * 15, 768 * 15};
     QVector<QRectF> screens_{screen_};
-    FakeLargeWindow large_;
     global::programállapot state_;
-    frm_referencia reference_;
-    Module_hasznos fitting_{reference_, [this] { return screen_; }};
-    FakeMessageBoxes boxes_;
+    szókereső lookup_{state_};
+    FakeLargeWindow large_{lookup_};
     FakeTopMost top_most_;
     FakeClipboard clipboard_;
     /// Called between two steps of a glide.

@@ -47,7 +47,7 @@ class MultipleChoiceTest : public ExerciseWindowTest<választás, választás_be
 
     /// Place of the right candidate.
     [[nodiscard]] int right() const {
-        for (const szópár &pair : list_.pairs) {
+        for (const szópár &pair : list_.párok()) {
             const QString hungarian = pair.magyar.section(u',', 0, 0);
             const QString other =
                 pair.angol == question() ? hungarian : (hungarian == question() ? pair.angol : QString());

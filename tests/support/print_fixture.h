@@ -15,39 +15,41 @@
 #include <memory>
 
 #include "print/widgets/print_settings_window.h"
-#include "support/fake_dialogs.h"
 #include "support/fake_printers.h"
 #include "support/files_for_tests.h"
-#include "support/printing.h"
 #include "support/window_checks.h"
+#include "support/window_fixture.h"
 #include "support/word_pairs.h"
 
 using namespace Qt::StringLiterals;
 
-class PrintedListForTests final : public nyomtatottszószedet {
-  public:
-    QVector<szópár> pairs;
-
-    [[nodiscard]] const QVector<szópár> &párok() const override { return pairs; }
-};
-
 /// The print settings with printers, dialogs, a store and a clock of the test's own.
-class PrintTest : public testing::Test {
+class PrintTest : public WindowTest {
   protected:
     PrintTest() {
-        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
-        main_window_.háttérszínbeállít(Qt::cyan);
-        list_.pairs = numbered_pairs(3);
+        fill(3);
         state_.programkönyvtár = root_.path();
         printers_.installed = {u"First"_s, u"Second"_s};
     }
 
+    /// Puts pairs in the place of those in the list.
+    void fill(int pairs) { fill(numbered_pairs(pairs)); }
+    void fill(const QVector<szópár> &pairs) {
+        list_.kiürít();
+        list_.hozzáfűz(pairs);
+    }
+
     void load() {
-        window_ = std::make_unique<frm_nyomtatás>(
-            nyomtatáskörnyezet{list_, state_, fitting_, main_window_, settings_, boxes_, dialogs_, printers_, [this] {
-                                   time_ += time_step_;
-                                   return time_;
-                               }});
+        window_ = std::make_unique<frm_nyomtatás>(nyomtatáskörnyezet{.közös = common(),
+                                                                     .szószedet = list_,
+                                                                     .állapot = state_,
+                                                                     .beállítások = settings_,
+                                                                     .fájlablakok = dialogs_,
+                                                                     .nyomtatók = printers_,
+                                                                     .óra = [this] {
+                                                                         time_ += time_step_;
+                                                                         return time_;
+                                                                     }});
     }
     void start() {
         load();
@@ -109,17 +111,9 @@ class PrintTest : public testing::Test {
                 option("Option_tájolás(0)")->isChecked() ? u"portrait"_s : u"landscape"_s};
     }
 
-    [[nodiscard]] QString place(const char *name) const { return root_.filePath(QString::fromUtf8(name)); }
-
-    QTemporaryDir root_{QDir::tempPath() + u"/zimboraXXXXXX"_s};
-    QRectF screen_{0, 0, 1024 * 15, 768 * 15};
-    frm_referencia reference_;
-    ablak main_window_{u"szótár"_s};
-    Module_hasznos fitting_{reference_, [this] { return screen_; }};
-    PrintedListForTests list_;
+    szópárlista list_;
     global::programállapot state_;
-    global::beállítástár settings_{root_.filePath(u"settings.ini"_s)};
-    FakeMessageBoxes boxes_;
+    global::beállítástár settings_{place(u"settings.ini"_s)};
     FakeFileDialogs dialogs_;
     FakePrinters printers_;
     std::chrono::milliseconds time_{0};

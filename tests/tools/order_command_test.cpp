@@ -31,7 +31,7 @@ TEST(OrderCommand, sorts_the_file_and_shows_its_progress) {
     const Outcome outcome = order({folder.path()});
 
     EXPECT_EQ(outcome.code, 0);
-    EXPECT_EQ(outcome.out, u"Folyamatban...\n1,2\n1\n2\nMűvelet kész.\n"_s);
+    EXPECT_EQ(outcome.out, u"Folyamatban...\n 1, 2\n 1\n 2\nMűvelet kész.\n"_s);
     EXPECT_EQ(read_file(folder.filePath(u"magyarvg.skt"_s)), "ALMA\r\nT\xdbZ\r\n");
 }
 

@@ -232,7 +232,7 @@ TEST_F(WordListFiles, appending_to_a_list_without_a_file_makes_the_appended_file
     EXPECT_EQ(state_.aktuálisfájl, place("b.szs"));
     EXPECT_EQ(state_.változott, 1);
     EXPECT_TRUE(window_.title.contains(place("b.szs")));
-    EXPECT_EQ(window_.menus_set, 1);
+    EXPECT_EQ(window_.fitted, 1);
 }
 
 TEST_F(WordListFiles, cancelled_append_changes_nothing) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "state/number_text.h"
+
 using namespace Qt::StringLiterals;
 
 kérdésnyelv kérdés_nyelve(irány merre, RandomNumbers &véletlen) {
@@ -55,8 +57,4 @@ int kérdéssor::hibaarány() const {
         std::count_if(párok_.cbegin(), párok_.cend(), [](const kérdéspár &egyik) { return egyik.hibás; });
     // The divisor is the highest index, so one failed pair of ten makes 11; one pair alone would divide by zero.
     return static_cast<int>(hibák * 100 / std::max(utolsó(), 1));
-}
-
-QString számszöveg(int szám) {
-    return (szám < 0 ? QString() : u" "_s) + QString::number(szám);
 }

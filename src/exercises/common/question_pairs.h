@@ -63,6 +63,3 @@ class kérdéssor final {
     /// Number of questions that count, less one.
     int kérdezett_ = -1;
 };
-
-/// The text of a number: with a blank in the place of its sign.
-[[nodiscard]] QString számszöveg(int szám);

@@ -107,7 +107,7 @@ void frm_súgó::böngészőt_készít() {
     auto készült = k_.böngésző(
         {súgócímek::url(kezdőcím_), QUrl(keresőlap), [címek = címek_](const QUrl &cím) { return címek.akadály(cím); }});
     if (const auto *gond = std::get_if<Failure>(&készült)) {
-        k_.üzenetek.tell(gond->sentence);
+        k_.közös.üzenetek.tell(gond->sentence);
         brwWebBrowser_ = std::make_unique<MissingBrowser>(gond->sentence);
     } else {
         brwWebBrowser_ = std::get<std::unique_ptr<WebBrowser>>(std::move(készült));
@@ -125,11 +125,11 @@ void frm_súgó::elhelyezés() {
     elhelyez(lblAddress_, feliratsor);
     elhelyez(cboAddress_, {bal, feliratsor.bottom() + címköz, tervezett.width() - szél, címmagasság});
     elhelyez(brwWebBrowser_->widget(), {bal, teteje, tervezett.width() - szél, tervezett.height() - teteje - szél});
-    global::színmásol(*this, k_.főablak);
-    setWindowIcon(k_.főablak.windowIcon());
-    const double szorzó = k_.hasznos.ablakméretez(*this, képernyőrész);
+    global::színmásol(*this, k_.közös.főablak);
+    setWindowIcon(k_.közös.főablak.windowIcon());
+    const double szorzó = k_.közös.hasznos.ablakméretez(*this, képernyőrész);
     Module_hasznos::betűméretez(*this, szorzó);
-    középre(k_.hasznos.képernyő());
+    középre(k_.közös.hasznos.képernyő());
     brwWebBrowser_->set_zoom(szorzó);
     const int oldal = twips::to_pixels(képméret * szorzó);
     tbToolBar_->setIconSize({oldal, oldal});

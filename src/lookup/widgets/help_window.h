@@ -12,15 +12,13 @@
 #include "platform/dialogs.h"
 #include "ui/controls/picture_box.h"
 #include "ui/window/window.h"
-#include "ui/window/window_fitting.h"
+#include "ui/window/window_surroundings.h"
 
 /// What the help viewer is given. Everything referred to must outlive it.
 struct súgókörnyezet {
+    ablakkörnyezet közös;
     /// Text of the program folder, without a separator at its end.
     QString programkönyvtár;
-    const Module_hasznos &hasznos;
-    const ablak &főablak;
-    MessageBoxes &üzenetek;
     /// Shows a short note, such as why a link was not opened.
     std::function<void(const QString &szöveg)> rövidüzenet;
     WebBrowserFactory böngésző;

@@ -11,6 +11,7 @@
 #include "lookup/corner_walk.h"
 #include "lookup/screen_place.h"
 #include "ui/controls/named.h"
+#include "ui/controls/unlimited_line_edit.h"
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
 
@@ -56,12 +57,6 @@ QFrame *vonalka(size_t i) {
     return új;
 }
 
-QLineEdit *keresőmező() {
-    auto *mező = new QLineEdit;
-    mező->setMaxLength(std::numeric_limits<int>::max());
-    return mező;
-}
-
 void háttérszínez(QLabel &címke, const QColor &szín) {
     QPalette színek = címke.palette();
     színek.setColor(QPalette::Window, szín);
@@ -93,13 +88,16 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
       cmd_lent_(súgóval(named(new QLabel, u"cmd_lent", u"Sarokba, F2"), lent_súgója)),
       cmd_x_(súgóval(named(new QLabel, u"cmd_x", u"Szótár bezárása"), x_súgója)),
       Label1_(named(new QLabel(u"Keresett szó:"_s), u"Label1")),
-      txt_keres_(súgóval(named(keresőmező(), u"txt_keres", u"Keresett szó"),
+      txt_keres_(súgóval(named(unlimited_line_edit(), u"txt_keres", u"Keresett szó"),
                          u"Ide írja be a keresett szót. Ha valamely alkalmazásban a vágólapra helyez egy "
                          "szót, az rögtön megjelenik a keresőmezőben."_s)),
       cmd_keres_(súgóval(named(new QPushButton(u"Keres"_s), u"cmd_keres", u"Keres"), u"Keres"_s)),
       lst_találatlista_(
-          súgóval(named(new ListBox, u"lst_találatlista", u"Találatok"), u"A keresésnek megfelelő szavak listája"_s)),
-      lst_translate_(súgóval(named(new ListBox, u"lst_translate", u"Jelentések"),
+          súgóval(named(new ListBox(&k_.kereső.találatok(), találatlista::címszó_oszlop, &k_.kereső.kijelölt_találat()),
+                        u"lst_találatlista", u"Találatok"),
+                  u"A keresésnek megfelelő szavak listája"_s)),
+      lst_translate_(súgóval(named(new ListBox(&k_.kereső.jelentések(), 0, &k_.kereső.kijelölt_jelentés()),
+                                   u"lst_translate", u"Jelentések"),
                              u"Itt jelennek meg a keresett szó megfelelői."_s)),
       cmd_szószedethez_ad_(
           súgóval(named(new QPushButton(u"Szószedet"_s), u"cmd_szószedethez_ad", u"A szószedethez ad"),
@@ -115,9 +113,9 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
         Line1_[i] = vonalka(i);
     elhelyezés();
     eseményeket_köt();
-    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, képernyőrész));
-    k_.hasznos.ablakstílus(*this);
-    const QString cím = k_.nagy.angolról() ? u"Zimbora Angol-magyar szótár"_s : u"Zimbora Magyar-angol szótár"_s;
+    Module_hasznos::betűméretez(*this, k_.közös.hasznos.ablakméretez(*this, képernyőrész));
+    k_.közös.hasznos.ablakstílus(*this);
+    const QString cím = k_.kereső.angolról() ? u"Zimbora Angol-magyar szótár"_s : u"Zimbora Magyar-angol szótár"_s;
     label_fejléc_->setText(cím);
     setWindowTitle(cím);
     if (const auto most = vágólap_->text())
@@ -128,7 +126,7 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
 
 frm_kisablak::~frm_kisablak() {
     if (!k_.nagy.vége())
-        k_.üzenetek.tell(u"Elveszett"_s);
+        k_.közös.üzenetek.tell(u"Elveszett"_s);
 }
 
 void frm_kisablak::elhelyezés() {
@@ -152,7 +150,6 @@ void frm_kisablak::eseményeket_köt() {
     connect(txt_keres_, &QLineEdit::textChanged, this, [this] { txt_keres_Change(); });
     connect(cmd_keres_, &QPushButton::clicked, this, [this] { cmd_keres_Click(); });
     connect(lst_találatlista_, &ListBox::itemSelected, this, [this] { lst_találatlista_Click(); });
-    connect(lst_translate_, &ListBox::itemSelected, this, [this] { lst_translate_Click(); });
     connect(lst_translate_, &ListBox::itemDoubleClicked, this, [this] { k_.nagy.magyarlist_DblClick(); });
     connect(cmd_szószedethez_ad_, &QPushButton::clicked, this, [this] { cmd_szószedethez_ad_Click(); });
     connect(cmd_kilép_, &QPushButton::clicked, this, [this] { cmd_kilép_Click(); });
@@ -247,22 +244,12 @@ void frm_kisablak::helyet_megjegyez() {
 void frm_kisablak::txt_keres_Change() {
     const Foglalt foglalt(*this);
     k_.nagy.angolszóba_ír(txt_keres_->text());
-    találatokat_másol();
 }
 
 void frm_kisablak::cmd_keres_Click() {
     const Foglalt foglalt(*this);
     k_.nagy.Ok_Click();
-    találatokat_másol();
     txt_keres_->setFocus();
-}
-
-void frm_kisablak::találatokat_másol() {
-    lst_találatlista_->set_items(k_.nagy.szólist_elemei());
-    if (lst_találatlista_->count() > 0)
-        lst_találatlista_->select(k_.nagy.szólist_kijelölt());
-    else
-        lst_translate_->clear();
 }
 
 void frm_kisablak::Timer1_Timer() {
@@ -279,7 +266,6 @@ void frm_kisablak::Timer1_Timer() {
         return;
     const Foglalt foglalt(*this);
     const int ez_a_keresés = ++vágólapkeresés_;
-    lst_translate_->clear();
     rövidítve_keres(*szó, [&](const QString &mit) -> std::optional<bool> {
         if (txt_keres_->text() == mit)
             txt_keres_Change();
@@ -294,15 +280,8 @@ void frm_kisablak::Timer1_Timer() {
 }
 
 void frm_kisablak::lst_találatlista_Click() {
-    const int melyik = lst_találatlista_->selected();
-    k_.nagy.szólist_kijelöl(melyik);
-    lst_találatlista_->setToolTip(lst_találatlista_->item(melyik));
-    lst_translate_->set_items(k_.nagy.magyarlist_elemei());
-    lst_translate_->select(0);
-}
-
-void frm_kisablak::lst_translate_Click() {
-    k_.nagy.magyarlist_kijelöl(lst_translate_->selected());
+    k_.kereső.jelentéseket_mutat();
+    lst_találatlista_->setToolTip(lst_találatlista_->item(lst_találatlista_->selected()));
 }
 
 void frm_kisablak::cmd_szószedethez_ad_Click() {
@@ -321,7 +300,7 @@ void frm_kisablak::cmd_x_Click() {
 }
 
 void frm_kisablak::cmd_lent_Click() {
-    const QSizeF képernyő = k_.hasznos.képernyő().size();
+    const QSizeF képernyő = k_.közös.hasznos.képernyő().size();
     // A desktop with a panel keeps the window a little off the corner that it was sent to.
     const bool ott_van = sarok_ && (*sarok_ - hol_).manhattanLength() < panelméret;
     sarok_ = következő_sarok(ott_van ? *sarok_ : hol_, {szélesség(), magasság()}, képernyő);

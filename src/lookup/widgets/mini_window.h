@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 
+#include "dictionary/word_lookup.h"
 #include "lookup/clipboard_word.h"
 #include "lookup/widgets/large_window.h"
 #include "platform/clipboard_watch.h"
@@ -18,14 +19,15 @@
 #include "state/global.h"
 #include "ui/controls/list_box.h"
 #include "ui/window/window.h"
-#include "ui/window/window_fitting.h"
+#include "ui/window/window_surroundings.h"
 
 /// What the mini window is given. Everything referred to must outlive it.
 struct kisablakkörnyezet {
+    ablakkörnyezet közös;
     nagyablak &nagy;
+    /// What is looked up in the main window and shown here, too.
+    szókereső &kereső;
     global::programállapot &állapot;
-    const Module_hasznos &hasznos;
-    MessageBoxes &üzenetek;
     TopMost &legfelül;
     /// Begins to watch the clipboard.
     std::function<std::unique_ptr<ClipboardWatch>()> vágólap;
@@ -37,7 +39,7 @@ struct kisablakkörnyezet {
 
 /// The mini lookup window: stays above the windows of other programs while the main window is hidden, looks up what is
 /// typed into it and every word that another program copies, and adds to the word list. The main window does all of the
-/// work; this one mirrors its lists.
+/// work; the lists of both are views of the same search.
 class frm_kisablak final : public ablak {
   public:
     /// Loads the window; it opens when it is shown.
@@ -83,7 +85,6 @@ class frm_kisablak final : public ablak {
     void ablakcsúsztat(const QPointF &honnan, const QPointF &hová);
     void helyez(const QPointF &hová);
     void helyet_megjegyez();
-    void találatokat_másol();
     /// What the controls' events do to the window; true when the control itself is not to see them.
     bool billentyű(const QKeyEvent &esemény);
     bool fejlécgomb(QLabel &gomb, const QMouseEvent &esemény);
@@ -93,7 +94,6 @@ class frm_kisablak final : public ablak {
     void cmd_keres_Click();
     void Timer1_Timer();
     void lst_találatlista_Click();
-    void lst_translate_Click();
     void cmd_szószedethez_ad_Click();
     void cmd_kilép_Click();
     void cmd_x_Click();

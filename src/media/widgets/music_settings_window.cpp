@@ -7,7 +7,6 @@
 #include "ui/controls/named.h"
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -112,9 +111,7 @@ void frm_zenebeáll::eseményeket_köt() {
 void frm_zenebeáll::Form_Load() {
     betölt();
     filelist_zene_->set_folder(beállítások_.zenemappa());
-    global::színmásol(*this, k_.főablak);
-    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, képernyőrész));
-    k_.hasznos.ablakstílus(*this);
+    k_.közös.hasznos.öltöztet(*this, k_.közös.főablak, képernyőrész);
     lab_türelem_->setAutoFillBackground(true);
     engedélyezés();
     for (QPushButton *gomb : {cmd_add_, cmd_törl_, cmd_ok_, cmd_mégsem_})
@@ -128,7 +125,7 @@ void frm_zenebeáll::mutat() {
     filelist_zene_->refresh_keeping_selection();
     engedélyezés();
     if (betöltés_baja_)
-        k_.üzenetek.tell(betöltés_baja_->sentence);
+        k_.közös.üzenetek.tell(betöltés_baja_->sentence);
     betöltés_baja_.reset();
     filelist_zene_->setFocus();
     mutatmodálisan();
@@ -213,7 +210,7 @@ void frm_zenebeáll::cmd_áthelyez_Click(int index) {
 void frm_zenebeáll::cmd_ok_Click() {
     beállítások_.engedélyezve = chk_zene_enged_->isChecked();
     if (const auto baj = beállítások_.ment())
-        k_.üzenetek.tell(baj->sentence);
+        k_.közös.üzenetek.tell(baj->sentence);
     else
         leállít_és_elrejt();
 }

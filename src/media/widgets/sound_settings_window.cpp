@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "media/widgets/list_buttons.h"
+#include "state/number_text.h"
 #include "ui/controls/named.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,11 +34,6 @@ constexpr double keret_teteje = 400;
 
 /// It holds more than other windows.
 constexpr double képernyőrész = 0.95;
-
-/// A number as text: with a blank in the place of its sign.
-QString szám_szöveg(int szám) {
-    return (szám < 0 ? QString() : u" "_s) + QString::number(szám);
-}
 
 QCheckBox *jelölő(const char16_t *név, const char16_t *felirat) {
     return named(new QCheckBox(QString::fromUtf16(felirat)), név, felirat);
@@ -143,9 +138,7 @@ void frm_hangbeáll::eseményeket_köt() {
 }
 
 void frm_hangbeáll::Form_Load() {
-    global::színmásol(*this, k_.főablak);
-    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, képernyőrész));
-    k_.hasznos.ablakstílus(*this);
+    k_.közös.hasznos.öltöztet(*this, k_.közös.főablak, képernyőrész);
     Filelist_->set_folder(beállítások_.hangmappa());
     betölt();
     rajzol({sorok_[0].hozzáad, sorok_[1].hozzáad, sorok_[2].hozzáad}, u"add");
@@ -158,7 +151,7 @@ void frm_hangbeáll::mutat() {
     feliratok();
     engedélyezés();
     if (betöltés_baja_)
-        k_.üzenetek.tell(betöltés_baja_->sentence);
+        k_.közös.üzenetek.tell(betöltés_baja_->sentence);
     betöltés_baja_.reset();
     Filelist_->setFocus();
     mutatmodálisan();
@@ -192,10 +185,10 @@ void frm_hangbeáll::listákat_mutat() {
 void frm_hangbeáll::feliratok() {
     const int darab = Filelist_->count();
     const int hányadik = Filelist_->selected() + 1;
-    Label_hangszám_->setText(hányadik == 0 ? szám_szöveg(darab) + u" hang áll rendelkezésemre"_s
-                                           : szám_szöveg(hányadik) + u'\\' + szám_szöveg(darab));
+    Label_hangszám_->setText(hányadik == 0 ? számszöveg(darab) + u" hang áll rendelkezésemre"_s
+                                           : számszöveg(hányadik) + u'\\' + számszöveg(darab));
     for (const Hangsor &sor : sorok_)
-        sor.szám->setText(szám_szöveg(sor.nevek.darab()) + u" hang"_s);
+        sor.szám->setText(számszöveg(sor.nevek.darab()) + u" hang"_s);
 }
 
 void frm_hangbeáll::engedélyezés() {
@@ -249,7 +242,7 @@ void frm_hangbeáll::cmd_hangtörlése_Click() {
     const QString név = Filelist_->file_name();
     const int hol = Filelist_->selected();
     if (const auto baj = files::remove(Filelist_->path_of(név))) {
-        k_.üzenetek.tell(baj->sentence);
+        k_.közös.üzenetek.tell(baj->sentence);
         return;
     }
     Filelist_->refresh();
@@ -267,7 +260,7 @@ bool frm_hangbeáll::ment() {
         beállítások_.kapcsolók[i] = chk_[i]->isChecked();
     const auto baj = beállítások_.ment();
     if (baj)
-        k_.üzenetek.tell(baj->sentence);
+        k_.közös.üzenetek.tell(baj->sentence);
     return !baj;
 }
 

@@ -4,7 +4,6 @@
 
 #include "ui/controls/named.h"
 #include "ui/drawing/twips.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,9 +34,7 @@ frm_nyomtatásikép::frm_nyomtatásikép(const Module_hasznos &hasznos, const ab
       kép_(named(new PageView(lapok), u"kép", u"Az oldal képe")) {
     setWindowTitle(u"Nyomtatási kép"_s);
     elhelyezés();
-    global::színmásol(*this, főablak);
-    Module_hasznos::betűméretez(*this, hasznos.ablakméretez(*this, képernyőrész));
-    hasznos.ablakstílus(*this);
+    hasznos.öltöztet(*this, főablak, képernyőrész);
     connect(UpDown_oldal_, &QSpinBox::valueChanged, this, [this](int oldal) { lapra(oldal - 1); });
     lapra(0);
 }

@@ -40,7 +40,7 @@ std::optional<QString> frm_nyomtatás::pdf_neve() {
         pdf_javaslat_ = pdfnév(*választott);
         const QString kérdés = u"A(z) „%1” fájl már létezik. Felülírja?"_s;
         if (!files::exists(pdf_javaslat_) ||
-            k_.üzenetek.ask_yes_no(u"Fájl felülírása"_s, kérdés.arg(QDir::toNativeSeparators(pdf_javaslat_))) ==
+            k_.közös.üzenetek.ask_yes_no(u"Fájl felülírása"_s, kérdés.arg(QDir::toNativeSeparators(pdf_javaslat_))) ==
                 Answer::yes)
             return pdf_javaslat_;
     }
@@ -56,7 +56,7 @@ std::unique_ptr<PrintJob> frm_nyomtatás::feladat() {
         return pdf_feladat();
     PrintJobResult készült = k_.nyomtatók.print(nyomtató_, nevek_.cím);
     if (const auto *gond = std::get_if<Failure>(&készült)) {
-        k_.üzenetek.tell(gond->sentence);
+        k_.közös.üzenetek.tell(gond->sentence);
         return nullptr;
     }
     return std::get<std::unique_ptr<PrintJob>>(std::move(készült));
@@ -69,11 +69,11 @@ bool frm_nyomtatás::kinyomtat(PrintJob &feladat) {
         case nyomtatásvége::megszakítva:
             return false;
         case nyomtatásvége::hibás:
-            k_.üzenetek.tell(feladat.failure().sentence);
+            k_.közös.üzenetek.tell(feladat.failure().sentence);
             return false;
     }
     if (const auto gond = feladat.hand_over()) {
-        k_.üzenetek.tell(gond->sentence);
+        k_.közös.üzenetek.tell(gond->sentence);
         return false;
     }
     return true;
@@ -82,7 +82,7 @@ bool frm_nyomtatás::kinyomtat(PrintJob &feladat) {
 bool frm_nyomtatás::nincs_mit() {
     if (típus() != nyomtatástípus::szópárok || !k_.szószedet.párok().isEmpty())
         return false;
-    k_.üzenetek.tell(u"Nincs mit nyomtatni: a szószedet üres."_s);
+    k_.közös.üzenetek.tell(u"Nincs mit nyomtatni: a szószedet üres."_s);
     return true;
 }
 
@@ -104,5 +104,5 @@ void frm_nyomtatás::cmd_nyomtatásikép_Click() {
     const auto kép = k_.nyomtatók.preview(nyomtató_);
     if (lerak(kép->pages(), u"A nyomtatási kép készül…"_s) != nyomtatásvége::kész)
         return;
-    frm_nyomtatásikép(k_.hasznos, k_.főablak, kép->pages()).mutatmodálisan();
+    frm_nyomtatásikép(k_.közös.hasznos, k_.közös.főablak, kép->pages()).mutatmodálisan();
 }

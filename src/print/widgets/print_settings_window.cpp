@@ -5,7 +5,6 @@
 #include "print/font_choice.h"
 #include "print/widgets/print_preview_window.h"
 #include "ui/drawing/fonts.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -65,9 +64,7 @@ void frm_nyomtatás::eseményeket_köt() {
 }
 
 void frm_nyomtatás::Form_Load() {
-    global::színmásol(*this, k_.főablak);
-    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, képernyőrész));
-    k_.hasznos.ablakstílus(*this);
+    k_.közös.hasznos.öltöztet(*this, k_.közös.főablak, képernyőrész);
     v_.képeket_rajzol(devicePixelRatioF());
     UpDown_hasábszám_Change();
     nyomtatókat_felsorol();

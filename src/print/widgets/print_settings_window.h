@@ -7,24 +7,21 @@
 #include "platform/dialogs.h"
 #include "print/document_names.h"
 #include "print/page_layouts.h"
-#include "print/printed_word_list.h"
 #include "print/printers.h"
 #include "print/widgets/print_progress.h"
 #include "print/widgets/print_settings_controls.h"
 #include "state/global.h"
 #include "state/settings_store.h"
 #include "ui/window/window.h"
-#include "ui/window/window_fitting.h"
+#include "ui/window/window_surroundings.h"
+#include "wordlist/word_pair_list.h"
 
 /// What the print settings are given. Everything referred to must outlive them.
 struct nyomtatáskörnyezet {
-    const nyomtatottszószedet &szószedet;
+    ablakkörnyezet közös;
+    const szópárlista &szószedet;
     const global::programállapot &állapot;
-    const Module_hasznos &hasznos;
-    /// Its colour is the window's.
-    const ablak &főablak;
     global::beállítástár &beállítások;
-    MessageBoxes &üzenetek;
     FileDialogs &fájlablakok;
     Printers &nyomtatók;
     /// The time, to tell long work from short.

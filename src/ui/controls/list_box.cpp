@@ -76,9 +76,13 @@ ListBox::ListBox(QWidget *parent) : QListView(parent), texts_(new Texts(this)) {
     set_up();
 }
 
-ListBox::ListBox(QAbstractItemModel *model, int column, QWidget *parent) : QListView(parent) {
+ListBox::ListBox(QAbstractItemModel *model, int column, QItemSelectionModel *selection) {
     setModel(model);
     setModelColumn(column);
+    if (selection) {
+        delete selectionModel();
+        setSelectionModel(selection);
+    }
     set_up();
 }
 

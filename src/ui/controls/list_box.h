@@ -13,8 +13,9 @@ class ListBox : public QListView {
     /// A list with items of its own.
     explicit ListBox(QWidget *parent = nullptr);
     /// A list that shows a column of `model`, which must outlive it and is changed by its owner, not by add() and
-    /// clear().
-    ListBox(QAbstractItemModel *model, int column, QWidget *parent = nullptr);
+    /// clear(). Lists that are given the same `selection`, which must outlive them too, always have the same item
+    /// selected; without one the list has a selection of its own.
+    explicit ListBox(QAbstractItemModel *model, int column = 0, QItemSelectionModel *selection = nullptr);
 
     void add(const QString &text);
     void clear();

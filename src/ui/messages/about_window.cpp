@@ -5,7 +5,6 @@
 
 #include "ui/controls/named.h"
 #include "ui/drawing/fonts.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -49,10 +48,7 @@ frmAbout::frmAbout(const Module_hasznos &hasznos, const ablak &főablak, const Q
     connect(cmdSysInfo_, &QPushButton::clicked, this, std::move(rendszeradatok));
     alapgombbeállít(cmdOK_);
     mégsegombbeállít(cmdOK_);
-    global::színmásol(*this, főablak);
-    const double szorzó = hasznos.ablakméretez(*this, képernyőrész);
-    Module_hasznos::betűméretez(*this, szorzó);
-    hasznos.ablakstílus(*this);
+    hasznos.öltöztet(*this, főablak, képernyőrész);
     QFont nagy = lblTitle_->font();
     fonts::set_points(nagy, fonts::points(nagy) * cím_aránya);
     lblTitle_->setFont(nagy);

@@ -1,7 +1,5 @@
 #include "ui/messages/result_message_window.h"
 
-#include "ui/window/colour_copy.h"
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -45,9 +43,7 @@ void üzenet::sorokat_rak(int darab) {
 void üzenet::üzenetmutat(qint16 ezredmásodperc, const QStringList &sorok) {
     Q_ASSERT(!sorok.isEmpty() && sorok.size() <= 255);
     sorokat_rak(static_cast<int>(sorok.size()));
-    global::színmásol(*this, főablak_);
-    hasznos_.ablakméretez(*this, 0.7);
-    hasznos_.ablakstílus(*this);
+    hasznos_.öltöztet(*this, főablak_, 0.7, Module_hasznos::betűk::beigazítva);
     Module_hasznos::szövegbeigazít(*cmd_ok_, QString());
     for (qsizetype i = 0; i < sorok.size(); ++i) {
         Pic_szöveg_[i]->set_background(háttérszín());

@@ -1,7 +1,6 @@
 #include "ui/messages/text_window.h"
 
 #include "ui/controls/named.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,10 +31,8 @@ frm_üzenet::frm_üzenet(const Module_hasznos &hasznos, const ablak &főablak)
 
 void frm_üzenet::mutat(const QString &felirat, const QString &szöveg) {
     setWindowTitle(felirat);
-    global::színmásol(*this, főablak_);
-    Module_hasznos::betűméretez(*this, hasznos_.ablakméretez(*this, képernyőrész));
+    hasznos_.öltöztet(*this, főablak_, képernyőrész);
     Module_hasznos::szövegbeigazít(*cmd_ok_, QString());
-    hasznos_.ablakstílus(*this);
     txt_üzenet_->setPlainText(szöveg);
     cmd_ok_->setFocus();
     mutatmodálisan();

@@ -1,7 +1,6 @@
 #include "ui/messages/timed_text_window.h"
 
 #include "ui/controls/named.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,9 +28,7 @@ frm_szövegüzenet::frm_szövegüzenet(const Module_hasznos &hasznos, const abla
     mégsegombbeállít(cmd_ok_);
     elhelyez(pic_üzenet_, szöveghely);
     elhelyez(cmd_ok_, gombhely);
-    global::színmásol(*this, főablak);
-    hasznos.ablakméretez(*this, képernyőrész);
-    hasznos.ablakstílus(*this);
+    hasznos.öltöztet(*this, főablak, képernyőrész, Module_hasznos::betűk::beigazítva);
     pic_üzenet_->set_background(háttérszín());
     Module_hasznos::szövegbeigazít(*cmd_ok_, u"Ok"_s);
 }

@@ -15,6 +15,7 @@
 
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
+#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -205,6 +206,15 @@ void feliratba(QWidget &hova, const QString &szöveg) {
 
 Module_hasznos::Module_hasznos(const frm_referencia &referencia, std::function<QRectF()> képernyő)
     : referencia_(referencia), képernyő_(std::move(képernyő)) {}
+
+double Module_hasznos::öltöztet(ablak &mit, const ablak &főablak, double arány, betűk milyen) const {
+    global::színmásol(mit, főablak);
+    const double szorzó = ablakméretez(mit, arány);
+    if (milyen == betűk::méretezve)
+        betűméretez(mit, szorzó);
+    ablakstílus(mit);
+    return szorzó;
+}
 
 double Module_hasznos::ablakméretez(ablak &mit, double arány) const {
     körülvesz(mit);

@@ -9,12 +9,17 @@
 #include "ui/window/window.h"
 
 /// The look that every window gives itself when it loads: scaled to a share of the screen, styled, its texts as large
-/// as their places allow. The usual order is színmásol() (ui/window/colour_copy.h), ablakméretez(), ablakstílus(), and
-/// szövegbeigazít() for each strip of text.
+/// as their places allow.
 class Module_hasznos final {
   public:
     /// `referencia` must outlive this object. `képernyő` gives the place of the screen in twips; it is asked each time.
     Module_hasznos(const frm_referencia &referencia, std::function<QRectF()> képernyő);
+
+    /// The whole look of a window, in the usual order: the colour of the main window, the share `arány` of the screen,
+    /// letters of the same ratio unless the window fits its texts by szövegbeigazít(), and the style. Returns the
+    /// ratio.
+    enum class betűk { méretezve, beigazítva };
+    double öltöztet(ablak &mit, const ablak &főablak, double arány, betűk milyen = betűk::méretezve) const;
 
     /// Scales a window and its controls with one ratio, so that it takes the share `arány` of the screen in its tighter
     /// direction, and fits the window round its controls with a margin of 120 twips. Returns the ratio.

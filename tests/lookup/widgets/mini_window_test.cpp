@@ -57,7 +57,7 @@ TEST_F(MiniWindow, names_the_direction_of_the_dictionary_in_its_header) {
     EXPECT_EQ(label("label_fejléc")->text(), u"Zimbora Angol-magyar szótár"_s);
     EXPECT_EQ(window_->windowTitle(), u"Zimbora Angol-magyar szótár"_s);
 
-    large_.from_english = false;
+    lookup_.irányt_vált(false);
     load();
 
     EXPECT_EQ(label("label_fejléc")->text(), u"Zimbora Magyar-angol szótár"_s);
@@ -148,7 +148,7 @@ TEST_F(MiniWindow, searches_while_the_word_is_typed) {
 
 TEST_F(MiniWindow, selects_the_hit_that_the_main_window_has_selected) {
     open();
-    large_.dictionary.prepend({u"alma piros"_s, {u"red apple"_s}});
+    put_dictionary({"alma piros:red apple\xf7", "alma:apple\xf7", "almafa:apple tree\xf7"});
 
     type("alma");
 
@@ -198,7 +198,7 @@ TEST_F(MiniWindow, shows_the_meanings_of_the_hit_that_is_clicked) {
 
     click_item("lst_találatlista", 1);
 
-    EXPECT_EQ(large_.calls.value(0), u"hit 1"_s);
+    EXPECT_EQ(lookup_.kijelölt_találat().currentIndex().row(), 1);
     EXPECT_EQ(meanings(), QStringList({u"apple tree"_s, u"apple wood"_s}));
     EXPECT_EQ(list("lst_translate")->selected(), 0);
     EXPECT_EQ(list("lst_találatlista")->toolTip(), u"almafa"_s);
@@ -220,7 +220,7 @@ TEST_F(MiniWindow, tells_the_main_window_which_meaning_is_chosen) {
 
     click_item("lst_translate", 1);
 
-    EXPECT_EQ(large_.calls, QStringList{u"meaning 1"_s});
+    EXPECT_EQ(lookup_.kijelölt_jelentés().currentIndex().row(), 1);
 }
 
 TEST_F(MiniWindow, passes_a_double_click_on_a_meaning_to_the_main_window) {

@@ -121,7 +121,7 @@ TEST_F(PrintPreview, turns_the_paper_as_the_layout_does) {
 }
 
 TEST_F(PrintPreview, draws_a_card_in_the_middle_of_its_page_and_nothing_on_the_last) {
-    list_.pairs = pairs_of({{u"xxxxxxxx", u"xxxx"}});
+    fill(pairs_of({{u"xxxxxxxx", u"xxxx"}}));
     start();
     click("Option_nyomtatástípus(2)");
 
@@ -139,7 +139,7 @@ TEST_F(PrintPreview, draws_a_card_in_the_middle_of_its_page_and_nothing_on_the_l
 }
 
 TEST_F(PrintPreview, draws_bold_wider_than_plain) {
-    list_.pairs = {};
+    list_.kiürít();
     state_.aktuálisfájl = u"/a list with a rather long name.szs"_s;
     start();
     double plain = 0;
@@ -306,7 +306,7 @@ TEST_F(PrintPreview, is_closed_by_its_button_by_escape_and_by_the_frame) {
 }
 
 TEST_F(PrintPreview, of_nothing_is_refused_with_a_message) {
-    list_.pairs.clear();
+    list_.kiürít();
     start();
     click("Option_nyomtatástípus(1)");
 
@@ -317,7 +317,7 @@ TEST_F(PrintPreview, of_nothing_is_refused_with_a_message) {
 }
 
 TEST_F(PrintPreview, that_takes_long_can_be_cancelled) {
-    list_.pairs = numbered_pairs(100);
+    fill(100);
     time_step_ = std::chrono::milliseconds(50);
     start();
     QTimer::singleShot(0, window_.get(), [this] {
@@ -334,7 +334,7 @@ TEST_F(PrintPreview, that_takes_long_can_be_cancelled) {
 }
 
 TEST_F(PrintPreview, of_ten_thousand_and_one_pages_shows_the_last) {
-    list_.pairs = numbered_pairs(5000);
+    fill(5000);
     start();
     click("Option_nyomtatástípus(2)");
 
@@ -350,7 +350,7 @@ TEST_F(PrintPreview, of_ten_thousand_and_one_pages_shows_the_last) {
 TEST_F(PrintPreview, shows_every_caption_whole) {
     for (const QSize &pixels : screens) {
         screen_ = QRectF(QPointF(0, 0), QSizeF(pixels) * 15);
-        list_.pairs = numbered_pairs(5000);
+        fill(5000);
         start();
         click("Option_nyomtatástípus(2)");
 

@@ -132,7 +132,7 @@ TEST_F(PrintSettings, another_printer_brings_its_own_fonts_and_drops_the_chosen_
 // The samples.
 
 TEST_F(PrintSettings, samples_show_the_first_pair_and_the_accented_letters_in_the_middle) {
-    list_.pairs = pairs_of({{u"deer", u"őz, szarvas"}, {u"dog", u"kutya"}});
+    fill(pairs_of({{u"deer", u"őz, szarvas"}, {u"dog", u"kutya"}}));
     start();
 
     const QStringList texts{u"deer  -  őz, szarvas"_s, u"áéíóöőúüű ÁÉÍÓÖŐÚÜŰ"_s};
@@ -148,7 +148,7 @@ TEST_F(PrintSettings, samples_show_the_first_pair_and_the_accented_letters_in_th
 }
 
 TEST_F(PrintSettings, sample_of_an_empty_list_shows_the_hyphen_alone) {
-    list_.pairs.clear();
+    list_.kiürít();
     start();
 
     EXPECT_NEAR(sample(0)->printed_area().width(), PictureBox::text_size(u"  -  "_s, sample(0)->font()).width(), 0.01);

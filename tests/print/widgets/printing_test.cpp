@@ -103,7 +103,7 @@ TEST_F(Printing, on_a_printer_that_has_vanished_is_told_and_leaves_everything_as
 }
 
 TEST_F(Printing, that_fails_on_the_way_or_at_the_end_is_told_and_leaves_everything_as_it_is) {
-    list_.pairs = numbered_pairs(80);
+    fill(80);
     for (const int page : {2, 0}) {
         boxes_.told.clear();
         start();
@@ -135,7 +135,7 @@ TEST_F(Printing, that_the_printer_refuses_is_told_and_can_be_tried_again) {
 }
 
 TEST_F(Printing, an_empty_list_one_pair_a_page_prints_nothing_and_says_so) {
-    list_.pairs.clear();
+    list_.kiürít();
     start();
     click("Option_nyomtatástípus(1)");
 
@@ -148,7 +148,7 @@ TEST_F(Printing, an_empty_list_one_pair_a_page_prints_nothing_and_says_so) {
 }
 
 TEST_F(Printing, an_empty_list_as_a_list_or_as_cards_prints_one_page) {
-    list_.pairs.clear();
+    list_.kiürít();
     for (const char *kind : {"Option_nyomtatástípus(0)", "Option_nyomtatástípus(2)"}) {
         start();
         click(kind);
@@ -164,7 +164,7 @@ TEST_F(Printing, an_empty_list_as_a_list_or_as_cards_prints_one_page) {
 // Long work.
 
 TEST_F(Printing, of_less_than_half_a_second_shows_no_progress) {
-    list_.pairs = numbered_pairs(9);
+    fill(9);
     time_step_ = std::chrono::milliseconds(49);  // looked at once at the beginning and once for each pair
     start();
     bool shown = false;
@@ -178,7 +178,7 @@ TEST_F(Printing, of_less_than_half_a_second_shows_no_progress) {
 }
 
 TEST_F(Printing, that_takes_long_shows_how_far_it_is_and_prints_all_the_same) {
-    list_.pairs = numbered_pairs(100);
+    fill(100);
     time_step_ = std::chrono::milliseconds(50);
     start();
     int value = 0;
@@ -205,7 +205,7 @@ TEST_F(Printing, that_takes_long_shows_how_far_it_is_and_prints_all_the_same) {
 
 TEST_F(Printing, that_is_cancelled_prints_nothing_and_leaves_everything_as_it_is) {
     for (const char *kind : {"Option_nyomtatástípus(0)", "Option_nyomtatástípus(1)", "Option_nyomtatástípus(2)"}) {
-        list_.pairs = numbered_pairs(100);
+        fill(100);
         time_step_ = std::chrono::milliseconds(50);
         start();
         click(kind);
@@ -307,7 +307,7 @@ TEST_F(PrintingIntoFile, that_is_cancelled_leaves_an_old_file_as_it_was) {
     write_file(place("old.pdf"), "old");
     dialogs_.choices = {place("old.pdf")};
     boxes_.answers = {Answer::yes};
-    list_.pairs = numbered_pairs(100);
+    fill(100);
     time_step_ = std::chrono::milliseconds(50);
     start();
     const QStringList before = shown();
@@ -321,7 +321,7 @@ TEST_F(PrintingIntoFile, that_is_cancelled_leaves_an_old_file_as_it_was) {
 }
 
 TEST_F(PrintingIntoFile, asks_for_no_name_when_there_is_nothing_to_print) {
-    list_.pairs.clear();
+    list_.kiürít();
     start();
     click("Option_nyomtatástípus(1)");
 

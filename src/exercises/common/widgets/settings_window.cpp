@@ -4,7 +4,6 @@
 #include <QRadioButton>
 
 #include "ui/controls/named.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,9 +41,7 @@ void feladatbeállító::elkészül(double fent) {
     elhelyez(cmd_mégsem_, {{keretszéle + méret.width() + gombköz, fent}, méret});
     alapgombbeállít(cmd_ok_);
     mégsegombbeállít(cmd_mégsem_);
-    global::színmásol(*this, k_.főablak);
-    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, képernyőrész));
-    k_.hasznos.ablakstílus(*this);
+    k_.közös.hasznos.öltöztet(*this, k_.közös.főablak, képernyőrész);
     betölt();
 }
 

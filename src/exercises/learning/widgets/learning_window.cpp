@@ -4,8 +4,8 @@
 #include <QTimer>
 
 #include "exercises/common/question_pairs.h"
+#include "state/number_text.h"
 #include "ui/controls/named.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,9 +51,7 @@ tanulás::tanulás(const feladatkörnyezet &környezet)
     alapgombbeállít(Command1_);
     mégsegombbeállít(Command2_);
 
-    global::színmásol(*this, környezet.főablak);
-    környezet.hasznos.ablakméretez(*this, 0.95);
-    környezet.hasznos.ablakstílus(*this);
+    környezet.közös.hasznos.öltöztet(*this, környezet.közös.főablak, 0.95, Module_hasznos::betűk::beigazítva);
     elrendez();
 }
 

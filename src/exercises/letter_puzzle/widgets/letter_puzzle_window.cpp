@@ -12,7 +12,6 @@
 #include "ui/controls/named.h"
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -75,9 +74,7 @@ void frm_kirakó::elhelyezés() {
 }
 
 void frm_kirakó::elrendez() {
-    global::színmásol(*this, k_.főablak);
-    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, 0.9));
-    k_.hasznos.ablakstílus(*this);
+    k_.közös.hasznos.öltöztet(*this, k_.közös.főablak, 0.9);
     Module_hasznos::szövegbeigazít(*Label_főcím_, QString());
     Module_hasznos::szövegbeigazít(*cmd_ok_, QString());
     lapok_ = betűlapok(pic_keret_->inner_size());

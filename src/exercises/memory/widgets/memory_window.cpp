@@ -13,7 +13,6 @@
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/svg_picture.h"
 #include "ui/drawing/twips.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -95,9 +94,7 @@ void frm_memory::játéktérépít() {
     }
     elhelyez(Label_info_, helyek.Label_info);
     setWindowTitle(u"Memória"_s);
-    global::színmásol(*this, k_.főablak);
-    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, 0.9));
-    k_.hasznos.ablakstílus(*this);
+    k_.közös.hasznos.öltöztet(*this, k_.közös.főablak, 0.9);
     Module_hasznos::szövegbeigazít(*Label_feladat_, u"Keresd meg az összetartozó párokat!"_s);
     for (ChoosablePicture *kártya : std::as_const(pic_kártya_))
         kártya->set_background(papírszín);

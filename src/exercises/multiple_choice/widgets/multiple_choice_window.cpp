@@ -4,8 +4,8 @@
 #include <QKeyEvent>
 
 #include "exercises/common/widgets/game_menu.h"
+#include "state/number_text.h"
 #include "ui/controls/named.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -88,10 +88,8 @@ void választás::elhelyezés() {
 }
 
 void választás::elrendez() {
-    global::színmásol(*this, k_.főablak);
-    Module_hasznos::betűméretez(*this, k_.hasznos.ablakméretez(*this, 0.9));
-    k_.hasznos.ablakstílus(*this);
-    pic_kötőjel_->set_background(k_.főablak.háttérszín());
+    k_.közös.hasznos.öltöztet(*this, k_.közös.főablak, 0.9);
+    pic_kötőjel_->set_background(k_.közös.főablak.háttérszín());
     Module_hasznos::szövegbeigazít(*pic_kötőjel_, u"-"_s);
     Module_hasznos::szövegbeigazít(*label_felirat_, QString());
     for (QPushButton *gomb : {cmd_ok_, cmd_kilép_})
@@ -116,7 +114,7 @@ void választás::kínálatot_rak(int darab) {
             const QRectF előző = hely(pic_kínálat_.back());
             pic_kínálat_.append(kínálatkép(k));
             elhelyez(pic_kínálat_.back(), előző.translated(0, előző.height() + köz));
-            pic_kínálat_.back()->set_background(k_.főablak.háttérszín());
+            pic_kínálat_.back()->set_background(k_.közös.főablak.háttérszín());
             QWidget::setTabOrder(pic_kínálat_[k - 1], pic_kínálat_[k]);
         }
         ChoosablePicture *kép = pic_kínálat_[k];

@@ -4,9 +4,10 @@
 #include <QTimer>
 #include <limits>
 
+#include "state/number_text.h"
 #include "ui/controls/named.h"
+#include "ui/controls/unlimited_line_edit.h"
 #include "ui/drawing/fonts.h"
-#include "ui/window/colour_copy.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,12 +30,6 @@ constexpr QRectF kiléphely(6900, alsó_sor + 740, 2980, 640);
 const QString nyelv_kulcs = u"nyelv"_s;
 constexpr qint16 üzenetidő = 3000;
 
-QLineEdit *szövegmező() {
-    auto *mező = new QLineEdit;
-    mező->setMaxLength(std::numeric_limits<int>::max());
-    return mező;
-}
-
 }  // namespace
 
 kikérdező::kikérdező(const feladatkörnyezet &környezet)
@@ -42,7 +37,7 @@ kikérdező::kikérdező(const feladatkörnyezet &környezet)
       k_(környezet),
       quiz_(k_.szószedet.párok(), k_.véletlen),
       Pic_kérdés_(named(new PictureBox, u"Pic_kérdés", u"Kérdés")),
-      txt_megoldás_(named(szövegmező(), u"txt_megoldás", u"Megoldás")),
+      txt_megoldás_(named(unlimited_line_edit(), u"txt_megoldás", u"Megoldás")),
       cmd_ok_(named(new QPushButton(u"Ok"_s), u"cmd_ok", u"Ok, ellenőrzés")),
       cmd_kilép_(named(new QPushButton(u"Kilép"_s), u"cmd_kilép", u"Kilép")),
       label_info_(named(new QLabel, u"label_info")),
@@ -84,9 +79,7 @@ void kikérdező::elhelyezés() {
 }
 
 void kikérdező::beállít() {
-    global::színmásol(*this, k_.főablak);
-    k_.hasznos.ablakméretez(*this, 0.9);
-    k_.hasznos.ablakstílus(*this);
+    k_.közös.hasznos.öltöztet(*this, k_.közös.főablak, 0.9, Module_hasznos::betűk::beigazítva);
     Module_hasznos::szövegbeigazít(*Label_felirat_, u"Mi a párja? Gépeld be a megoldást!"_s);
     QFont betű(QStringList{fonts::times_new_roman_ce});
     fonts::set_points(betű, fonts::points(Label_felirat_->font()) / 2);
@@ -130,7 +123,7 @@ void kikérdező::cmd_ok_Click() {
             bezár();
             return;
         case kikérdezés::eredmény::hibás:
-            k_.üzenetek.beep();
+            k_.közös.üzenetek.beep();
             k_.üzenetmutat(üzenetidő, {Pic_kérdés_->property("tag").toString() + u" - "_s +
                                        txt_megoldás_->property("tag").toString()});
             txt_megoldás_->clear();

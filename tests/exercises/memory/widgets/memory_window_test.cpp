@@ -323,11 +323,11 @@ TEST_F(MemoryWindow, stops_its_timers_when_it_is_closed) {
 
 TEST_F(MemoryWindow, reads_the_list_once_and_leaves_it_alone) {
     start(10);
-    const QVector<szópár> before = list_.pairs;
+    const QVector<szópár> before = list_.párok();
     find_a_pair();
-    EXPECT_EQ(list_.pairs, before);
+    EXPECT_EQ(list_.párok(), before);
 
-    list_.pairs.clear();
+    list_.kiürít();
     trigger("mnu_fájl_újjáték");
     EXPECT_EQ(texts().filter(u"word"_s).size(), 10);
 }

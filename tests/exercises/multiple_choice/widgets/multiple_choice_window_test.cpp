@@ -340,12 +340,12 @@ TEST_F(MultipleChoiceWindow, ends_its_modal_display_with_kilép_escape_menu_and_
 
 TEST_F(MultipleChoiceWindow, reads_the_list_once_and_leaves_it_alone) {
     start(3);
-    const QVector<szópár> before = list_.pairs;
+    const QVector<szópár> before = list_.párok();
     answer_with(wrong());
     answer_all_rightly();
-    EXPECT_EQ(list_.pairs, before);
+    EXPECT_EQ(list_.párok(), before);
 
-    list_.pairs.append({u"late"_s, u"késő"_s});
+    list_.hozzáfűz({{u"late"_s, u"késő"_s}});
     trigger("mnu_fájl_újrakezd");
     EXPECT_EQ(counter(), u" 1/ 3"_s);
 }

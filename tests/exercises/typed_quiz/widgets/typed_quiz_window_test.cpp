@@ -13,7 +13,7 @@ namespace {
 class TypedQuizWindow : public ExerciseTest {
   protected:
     void load(const QVector<szópár> &pairs) {
-        list_.pairs = pairs;
+        fill(pairs);
         window_ = std::make_unique<kikérdező>(surroundings());
     }
     void start(const QVector<szópár> &pairs) {
@@ -27,7 +27,7 @@ class TypedQuizWindow : public ExerciseTest {
 
     /// The other member of the pair that is asked, whichever side the question is.
     [[nodiscard]] QString right_answer() const {
-        for (const szópár &pair : list_.pairs) {
+        for (const szópár &pair : list_.párok()) {
             if (pair.angol == question())
                 return pair.magyar;
             if (pair.magyar == question())
@@ -342,13 +342,13 @@ TEST_F(TypedQuizWindow, asks_for_english_when_what_is_stored_names_no_direction)
 
 TEST_F(TypedQuizWindow, reads_the_list_once_and_leaves_it_alone) {
     start(numbered_pairs(3));
-    const QVector<szópár> before = list_.pairs;
+    const QVector<szópár> before = list_.párok();
     answer(u"wrong"_s);
     answer_all_rightly();
-    EXPECT_EQ(list_.pairs, before);
+    EXPECT_EQ(list_.párok(), before);
 
     start(numbered_pairs(3));
-    list_.pairs.append({u"late"_s, u"késő"_s});
+    list_.hozzáfűz({{u"late"_s, u"késő"_s}});
     answer_all_rightly();
     EXPECT_FALSE(window_->isVisible());
     EXPECT_EQ(messages_.size(), 3);

@@ -1,0 +1,98 @@
+#include "app/lookup_panel.h"
+
+#include <QCoreApplication>
+#include <utility>
+#include <variant>
+
+#include "dictionary/order_tool.h"
+
+using namespace Qt::StringLiterals;
+
+keresőpanel::keresőpanel(keresővezérlők &vezérlők, keresőpanelkörnyezet környezet)
+    : v_(vezérlők), k_(std::move(környezet)) {
+    eseményeket_köt();
+}
+
+void keresőpanel::eseményeket_köt() {
+    const auto köt = [this](auto *vezérlő, auto esemény, void (keresőpanel::*mit)()) {
+        QObject::connect(vezérlő, esemény, &események_, [this, mit] { (this->*mit)(); });
+    };
+    köt(v_.angolszó, &QLineEdit::textChanged, &keresőpanel::angolszó_Change);
+    köt(v_.Ok, &QPushButton::clicked, &keresőpanel::Ok_Click);
+    köt(v_.szólist, &ListBox::itemSelected, &keresőpanel::szólist_Click);
+    köt(v_.magyarlist, &ListBox::itemSelected, &keresőpanel::magyarlist_Click);
+    köt(v_.magyarlist, &ListBox::itemDoubleClicked, &keresőpanel::magyarlist_DblClick);
+    köt(v_.Command2, &QPushButton::clicked, &keresőpanel::Command2_Click);
+    for (QRadioButton *irány : v_.nyelv) {
+        QObject::connect(irány, &QRadioButton::toggled, &események_, [this](bool kijelölt) {
+            if (kijelölt)
+                nyelv_Click();
+        });
+    }
+}
+
+void keresőpanel::angolszó_Change() {
+    const bool van_szöveg = !v_.angolszó->text().isEmpty();
+    v_.Ok->setEnabled(van_szöveg);
+    if (van_szöveg)
+        Ok_Click();
+}
+
+void keresőpanel::Ok_Click() {
+    v_.hozzáad->setEnabled(false);
+    // The text is compared with the key on purpose: one that begins with "to " ends after its first line.
+    const auto eredmény = k_.kereső.keres(
+        v_.angolszó->text(), [this](const QString &kulcs) { return k_.vége() || v_.angolszó->text() != kulcs; });
+    if (const auto *hiba = std::get_if<Failure>(&eredmény)) {
+        nincs_szótár(*hiba);
+        return;
+    }
+    const auto &vég = std::get<keresésvége>(eredmény);
+    if (vég.megszakadt)
+        return;
+    v_.Label3->setText(u"%1 találat"_s.arg(vég.darab));
+    if (vég.kijelölendő >= 0)
+        v_.szólist->select(vég.kijelölendő);
+}
+
+void keresőpanel::nincs_szótár(const Failure &hiba) {
+    v_.Label3->setText(u"nincs szótárfájl"_s);
+    bool &szólt = hiány_szólt_[k_.kereső.angolról() ? 0 : 1];
+    if (szólt)
+        return;
+    szólt = true;
+    k_.üzenetek.tell(hiba.sentence);
+}
+
+void keresőpanel::szólist_Click() {
+    v_.hozzáad->setEnabled(false);
+    k_.kereső.jelentéseket_mutat();
+}
+
+void keresőpanel::magyarlist_Click() {
+    v_.hozzáad->setEnabled(true);
+}
+
+void keresőpanel::nyelv_Click() {
+    const bool angolról = v_.nyelv[0]->isChecked();
+    k_.kereső.irányt_vált(angolról);
+    v_.hozzáad->setEnabled(false);
+    v_.Label1->setText(angolról ? u"&Angolul:"_s : u"&Magyarul:"_s);
+    v_.Label2->setText(angolról ? u"Magyarul:"_s : u"Angolul:"_s);
+    v_.angolszó->clear();
+    v_.angolszó->setFocus();
+}
+
+void keresőpanel::Command2_Click() {
+    const auto kiír = [this](const QString &felirat) {
+        v_.Label3->setText(felirat);
+        v_.Label3->repaint();
+    };
+    const auto megálljon = [this] {
+        QCoreApplication::processEvents();
+        return k_.vége();
+    };
+    const auto hiba = állományátalakító(k_.állapot.programkönyvtár, kiír, megálljon).átalakít();
+    if (hiba)
+        k_.üzenetek.tell(hiba->sentence);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+#include <array>
+#include <functional>
+
+#include "app/main_window_controls.h"
+#include "dictionary/word_lookup.h"
+#include "platform/dialogs.h"
+#include "state/global.h"
+
+/// What the panel is given. Everything referred to must outlive it.
+struct keresőpanelkörnyezet {
+    szókereső &kereső;
+    const global::programállapot &állapot;
+    MessageBoxes &üzenetek;
+    /// True once the program is to end; a search that runs stops then.
+    std::function<bool()> vége;
+    /// Adds the selected hit and meaning to the word list.
+    std::function<void()> hozzáad;
+};
+
+/// The upper half of the main window: what is typed is looked up, the lists show the hits and their meanings. Its
+/// handlers carry the names of their controls and events.
+class keresőpanel final {
+  public:
+    keresőpanel(keresővezérlők &vezérlők, keresőpanelkörnyezet környezet);
+
+    /// Looks the text of `angolszó` up in the dictionary of the current direction.
+    void Ok_Click();
+    void magyarlist_DblClick() { k_.hozzáad(); }
+
+  private:
+    void eseményeket_köt();
+    void angolszó_Change();
+    void szólist_Click();
+    void magyarlist_Click();
+    void nyelv_Click();
+    void Command2_Click();
+    void nincs_szótár(const Failure &hiba);
+
+    keresővezérlők &v_;
+    const keresőpanelkörnyezet k_;
+    /// Whether the missing dictionary of a direction (0 from English, 1 from Hungarian) has been told.
+    std::array<bool, 2> hiány_szólt_{};
+    /// Every connection of the panel hangs on it, so that no event reaches a panel that is gone.
+    QObject események_;
+};
