@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/file_system.h"
 #include "platform/positioned_read.h"
 
 FileSource::FileSource(const QString &path) : file_(path) {
-    if (file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (!file_system::open_ordinary(file_, QIODevice::Unbuffered))
         size_ = file_.size();
 }
 

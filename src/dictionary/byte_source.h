@@ -20,7 +20,7 @@ class ByteSource {
 /// A file, without any buffer of its own: what is asked for is what is read.
 class FileSource final : public ByteSource {
   public:
-    /// Opens the file `path`; is_open() tells whether that went well.
+    /// Opens the file `path`; is_open() tells whether that went well. Only an ordinary file is opened.
     explicit FileSource(const QString &path);
 
     [[nodiscard]] bool is_open() const { return file_.isOpen(); }

@@ -60,10 +60,11 @@ void walk_back(LineReader &lines, qint64 low, QByteArrayView key) {
     do {
         low -= walk_step;
         seek_to(lines, low);
-        low -= lines.next().value_or(QByteArrayView()).size();
+        static_cast<void>(lines.next());
+        low -= lines.length();
         start = lines.position();
         const auto line = lines.next();
-        low -= line.value_or(QByteArrayView()).size();
+        low -= lines.length();
         too_far = line_is_greater(line, key);
     } while (low >= lowest && too_far);
     lines.seek(start);

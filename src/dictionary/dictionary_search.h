@@ -10,7 +10,8 @@
 //     [ "to " ] headword  ":"  meaning "÷"  meaning "÷"  …  CR LF
 //
 // The lines are in ascending byte order of their text with a leading "to " (of an English verb) left out. The first
-// line is a notice and never found. Nothing else is known of the file: no index, no length of a line.
+// line is a notice and never found. Nothing else is known of the file: no index, no length of a line. Of a line longer
+// than 64 KiB the beginning counts, so its last whole meaning there is the last one.
 
 /// One entry as it stands in the file. The views hold only during the call they are passed to.
 struct szócikk {

@@ -19,6 +19,7 @@ void LineReader::seek(qint64 position) {
 
 std::optional<QByteArrayView> LineReader::next() {
     qsizetype searched = 0;
+    length_ = 0;
     while (true) {
         const QByteArrayView bytes = ahead();
         const qsizetype end = bytes.sliced(searched).indexOf('\n');
@@ -27,18 +28,49 @@ std::optional<QByteArrayView> LineReader::next() {
             position_ += line.size() + 1;
             if (line.endsWith('\r'))
                 line.chop(1);
-            return line;
+            length_ = line.size();
+            return line.first(std::min(line.size(), longest_line));
         }
         searched = bytes.size();
+        if (searched > longest_line)
+            return cut_line();
         if (read_on())
             continue;
         if (searched == 0)
             return std::nullopt;
         // Reading on may have moved the buffer, so `bytes` is void.
         const QByteArrayView last = ahead();
-        position_ += last.size();
-        return last;
+        length_ = last.size();
+        position_ += length_;
+        return last.first(std::min(last.size(), longest_line));
     }
+}
+
+QByteArrayView LineReader::cut_line() {
+    const QByteArrayView bytes = ahead();
+    const qint64 start = position_;
+    char last = bytes.back();
+    position_ += bytes.size();
+    length_ = bytes.size();
+    QByteArray passed(longest_line, Qt::Uninitialized);
+    // The buffer keeps the beginning of the line.
+    while (true) {
+        const qint64 got = source_.read(position_, passed.data(), passed.size());
+        if (got <= 0)
+            break;
+        const QByteArrayView piece = QByteArrayView(passed).first(got);
+        const qsizetype end = piece.indexOf('\n');
+        if (end >= 0) {
+            last = end > 0 ? piece[end - 1] : last;
+            position_ += end + 1;
+            length_ = position_ - 1 - start - (last == '\r' ? 1 : 0);
+            break;
+        }
+        last = piece.back();
+        position_ += got;
+        length_ = position_ - start;
+    }
+    return bytes.first(longest_line);
 }
 
 QByteArrayView LineReader::ahead() const {

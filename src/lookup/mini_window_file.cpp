@@ -1,10 +1,14 @@
 #include "lookup/mini_window_file.h"
 
 #include <QByteArrayList>
+#include <algorithm>
 #include <limits>
 
 namespace kisablakfájl {
 namespace {
+
+/// Three numbers take some 40 bytes; the file may be any.
+constexpr qsizetype longest_read = 4096;
 
 /// The number of `word` if it is whole and fits into Number.
 template <typename Number>
@@ -24,7 +28,8 @@ QByteArray line(qint64 value) {
 }  // namespace
 
 std::optional<értékek> olvas(QByteArrayView bytes) {
-    const QByteArrayList words = bytes.toByteArray().replace(',', ' ').simplified().split(' ');
+    const QByteArrayView beginning = bytes.first(std::min(bytes.size(), longest_read));
+    const QByteArrayList words = beginning.toByteArray().replace(',', ' ').simplified().split(' ');
     if (words.size() < 3)
         return std::nullopt;
     const auto bal = number<qint32>(words[0]);

@@ -19,7 +19,7 @@ struct értékek {
 };
 
 /// Reads three numbers, which blanks, commas and line ends separate; nothing when there are not three whole numbers
-/// that fit.
+/// that fit. Of a longer file the first 4096 bytes count.
 [[nodiscard]] std::optional<értékek> olvas(QByteArrayView bytes);
 
 [[nodiscard]] QByteArray ír(const értékek &mit);

@@ -25,8 +25,8 @@ std::optional<Failure> zenebeállítások::betölt() {
     engedélyezve = true;
     lista.feltölt({});
     const QString saját = saját_fájl();
-    const QString fájl = files::exists(saját) ? saját : programkönyvtár_ + u"/kavaro/zenebeáll.ini"_s;
-    if (!files::exists(fájl))
+    const QString fájl = files::is_taken(saját) ? saját : programkönyvtár_ + u"/kavaro/zenebeáll.ini"_s;
+    if (!files::is_taken(fájl))
         return std::nullopt;
     const auto olvasott = beállítássorok::olvas(fájl);
     if (const auto *baj = std::get_if<Failure>(&olvasott))

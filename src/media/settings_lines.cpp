@@ -1,6 +1,7 @@
 #include "media/settings_lines.h"
 
 #include "platform/code_page.h"
+#include "platform/names_in_files.h"
 #include "platform/text_lines.h"
 
 using namespace Qt::StringLiterals;
@@ -18,31 +19,29 @@ QString kapcsolósor(bool be) {
 }
 
 std::variant<QStringList, Failure> olvas(const QString &fájl) {
-    if (!files::exists(fájl))
+    if (!files::is_taken(fájl))
         return QStringList();
     const FileContent tartalom = files::read_whole(fájl);
     if (const auto *hiba = std::get_if<Failure>(&tartalom))
         return *hiba;
     QStringList sorok;
-    for (QByteArrayView rest = std::get<QByteArray>(tartalom); !rest.isEmpty();)
-        sorok.append(code_page::decode(take_line(rest)));
+    for (QByteArrayView rest = std::get<QByteArray>(tartalom); !rest.isEmpty();) {
+        const QByteArrayView sor = take_line(rest);
+        if (sor.size() <= names_in_files::longest_line)
+            sorok.append(code_page::decode(sor));
+    }
     return sorok;
 }
 
 FileContent bájtok(const QStringList &sorok) {
     QByteArray bytes;
     for (const QString &sor : sorok) {
-        if (sor.contains(u'\n')) {
+        const auto kódolt = names_in_files::line_of(sor);
+        if (const auto *akadály = std::get_if<names_in_files::Obstacle>(&kódolt)) {
             return Failure{
-                u"A(z) „%1” nevű fájl nem kerülhet a listára, mert a nevében sortörés van."_s.arg(sor.simplified())};
+                u"A(z) „%1” nevű fájl nem kerülhet a listára, mert %2."_s.arg(sor.simplified(), akadály->reason)};
         }
-        const auto kódolt = code_page::encode(sor);
-        if (!kódolt) {
-            return Failure{
-                u"A(z) „%1” nevű fájl nem kerülhet a listára, mert a nevében a(z) „%2” betű "
-                "nem írható le a közép-európai kódlapon."_s.arg(sor, code_page::first_missing(sor))};
-        }
-        bytes += *kódolt + "\r\n";
+        bytes += std::get<QByteArray>(kódolt) + "\r\n";
     }
     return bytes;
 }

@@ -18,7 +18,7 @@ namespace beállítássorok {
 /// The line of a switch.
 [[nodiscard]] QString kapcsolósor(bool be);
 
-/// The lines of the file `fájl`, read whole; of a missing file, none.
+/// The lines of the file `fájl`, read whole, but for those that no name is as long as; of a missing file, none.
 [[nodiscard]] std::variant<QStringList, Failure> olvas(const QString &fájl);
 
 /// The bytes of a file of these lines; a failure that names the line which the code page cannot hold, or which is two.

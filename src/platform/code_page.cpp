@@ -40,8 +40,6 @@ QString decode(QByteArrayView bytes) {
     return text;
 }
 
-namespace {
-
 std::optional<QByteArray> encode_as_it_is(const QString &text) {
     const Tables &table = tables();
     QByteArray bytes(text.size(), Qt::Uninitialized);
@@ -54,6 +52,8 @@ std::optional<QByteArray> encode_as_it_is(const QString &text) {
     }
     return bytes;
 }
+
+namespace {
 
 QString joined(const QString &text) {
     return text.normalized(QString::NormalizationForm_C);

@@ -16,6 +16,10 @@ namespace code_page {
 /// another; only a letter written with a separate accent is joined to the one character it stands for.
 [[nodiscard]] std::optional<QByteArray> encode(const QString &text);
 
+/// The bytes of `text` as it is, no accent joined: for the names of files, which are others with every change. Nothing
+/// when it holds a character that the code page lacks.
+[[nodiscard]] std::optional<QByteArray> encode_as_it_is(const QString &text);
+
 /// The first character of `text` that the code page lacks; empty when there is none.
 [[nodiscard]] QString first_missing(const QString &text);
 

@@ -129,6 +129,18 @@ bool program_folder_is_missing(const ProgramFolderPlaces &places) {
     return !folder_that_is_there(places) && !own_folder(places).exists();
 }
 
+std::optional<Failure> program_folder_failure(const QString &folder) {
+    const QFileInfo place(folder);
+    if (place.isDir() && place.isReadable() && place.isExecutable())
+        return std::nullopt;
+    QString reason = place.isDir() ? u"nincs jogosultság az olvasásához."_s : files::reason_not_readable(folder);
+    if (!place.exists() && reason == files::reason_missing())
+        reason = u"a mappa nem létezik."_s;
+    else if (place.exists() && !place.isDir())
+        reason = u"a helyén egy fájl van."_s;
+    return Failure{u"A program mappája, a(z) „%1” nem olvasható: %2"_s.arg(QDir::toNativeSeparators(folder), reason)};
+}
+
 QString find_program_folder(const ProgramFolderPlaces &places) {
     if (const auto ready = folder_that_is_there(places))
         return *ready;

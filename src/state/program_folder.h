@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <optional>
+
+#include "platform/files.h"
 
 /// Where the program may find its program folder; each is a path or empty.
 struct ProgramFolderPlaces {
@@ -25,11 +28,15 @@ struct ProgramFolderPlaces {
 /// else the folder "Zimbora" in the user's documents, which is made and linked to the installed dictionaries; the help
 /// and the silence are copied to where their addresses point, and the folders of the sounds, the music and the initial
 /// settings into it, each while there is none: what the user deletes in them stays deleted. No separator at its end. A
-/// folder that cannot be made is returned all the same: the missing dictionary is then told at the first search.
+/// folder that cannot be made is returned all the same: program_folder_failure() tells of it.
 [[nodiscard]] QString find_program_folder(const ProgramFolderPlaces &places);
 
 /// True when the folder in the user's documents applies and has still to be made: at the very first start.
 [[nodiscard]] bool program_folder_is_missing(const ProgramFolderPlaces &places);
+
+/// Why nothing in the program folder `folder` can be read: it is missing, no folder, or closed to this user; nothing
+/// when it can be.
+[[nodiscard]] std::optional<Failure> program_folder_failure(const QString &folder);
 
 /// Names of the two dictionaries in the program folder.
 extern const QString english_hungarian_file;

@@ -1,6 +1,7 @@
 #include "wordlist/recent_files.h"
 
 #include "platform/code_page.h"
+#include "platform/names_in_files.h"
 #include "platform/text_lines.h"
 
 using namespace Qt::StringLiterals;
@@ -10,29 +11,34 @@ namespace legutóbbifájlok {
 QStringList olvas(QByteArrayView bytes, const std::function<bool(const QString &)> &létezik) {
     QStringList fájlok;
     while (!bytes.isEmpty() && fájlok.size() < legfeljebb) {
-        const QString út = code_page::decode(take_line(bytes));
+        const QByteArrayView sor = take_line(bytes);
+        if (sor.size() > names_in_files::longest_line)
+            continue;
+        const QString út = code_page::decode(sor);
         if (!út.isEmpty() && létezik(út))
             fájlok.append(út);
     }
     return fájlok;
 }
 
-FileContent ír(const QString &aktuális, const QStringList &menü) {
+írott ír(const QString &aktuális, const QStringList &menü) {
     QStringList utak{aktuális};
     for (const QString &út : menü) {
         if (út != aktuális)
             utak.append(út);
     }
-    QByteArray bytes;
+    írott fájl;
     for (const QString &út : utak) {
-        const auto sor = code_page::encode(út);
-        if (!sor)
-            return Failure{
-                u"A(z) „%1” fájl nem kerülhet a legutóbbi fájlok közé, mert a nevében szereplő „%2” "
-                "jel nincs meg a közép-európai kódlapon."_s.arg(út, code_page::first_missing(út))};
-        bytes += *sor + "\r\n";
+        const auto sor = names_in_files::line_of(út);
+        if (const auto *akadály = std::get_if<names_in_files::Obstacle>(&sor)) {
+            fájl.kimaradtak.append(
+                {u"A(z) „%1” fájl használható, de nem kerülhet a legutóbbi fájlok közé, mert %2. "
+                 "Ha más nevet kap, a menüben is ott lesz."_s.arg(út.simplified(), akadály->reason)});
+            continue;
+        }
+        fájl.bytes += std::get<QByteArray>(sor) + "\r\n";
     }
-    return bytes;
+    return fájl;
 }
 
 QString felirat(int n, const QString &út) {

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 #include <functional>
 
 #include "platform/files.h"
@@ -13,12 +14,19 @@ namespace legutóbbifájlok {
 
 inline constexpr int legfeljebb = 4;
 
-/// The first four existing files of a file's bytes. `létezik` tells whether a file is there.
+/// The first four existing files of a file's bytes. `létezik` tells whether a file is there. Lines longer than any path
+/// are passed over.
 [[nodiscard]] QStringList olvas(QByteArrayView bytes, const std::function<bool(const QString &)> &létezik);
 
-/// The bytes of a file with `aktuális` first and then `menü`, in order, less what equals `aktuális`; a failure when the
-/// code page lacks a character of a path.
-[[nodiscard]] FileContent ír(const QString &aktuális, const QStringList &menü);
+/// A file and what could not come into it.
+struct írott {
+    QByteArray bytes;
+    /// For each path that cannot be a line of its own, a sentence that names it and the reason.
+    QVector<Failure> kimaradtak;
+};
+
+/// The file with `aktuális` first and then `menü`, in order, less what equals `aktuális`.
+[[nodiscard]] írott ír(const QString &aktuális, const QStringList &menü);
 
 /// Caption of menu item `n` (from 1): "&1: " and the path. A "&" of the path is doubled, as menus want it.
 [[nodiscard]] QString felirat(int n, const QString &út);

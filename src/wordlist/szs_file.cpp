@@ -1,5 +1,8 @@
 #include "wordlist/szs_file.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "platform/code_page.h"
 #include "platform/text_lines.h"
 
@@ -8,8 +11,8 @@ using namespace Qt::StringLiterals;
 namespace szsfájl {
 namespace {
 
-/// Bytes of a line, roughly.
-constexpr qsizetype usual_line = 32;
+/// Bytes of a line beside its words: ":", CR and LF.
+constexpr qsizetype around_words = 3;
 
 /// Letters of a word that a message quotes.
 constexpr qsizetype longest_quoted = 60;
@@ -40,24 +43,30 @@ Failure nincs_a_kódlapon(const QString &szó) {
 }  // namespace
 
 QVector<szópár> olvas(QByteArrayView bytes) {
+    // Growing step by step would take as much room again.
     QVector<szópár> párok;
+    párok.reserve(std::count(bytes.begin(), bytes.end(), '\n') + 1);
     while (!bytes.isEmpty())
         párok.append(sorból(take_line(bytes)));
     return párok;
 }
 
 FileContent ír(const QVector<szópár> &párok) {
+    qsizetype méret = 0;
+    for (const szópár &pár : párok)
+        méret += pár.angol.size() + pár.magyar.size() + around_words;
     QByteArray bytes;
-    bytes.reserve(párok.size() * usual_line);
+    bytes.reserve(méret);
     for (const szópár &pár : párok) {
         const QString gond = akadály(pár);
         if (!gond.isEmpty())
             return Failure{gond};
-        const auto angol = code_page::encode(pár.angol);
-        const auto magyar = code_page::encode(pár.magyar);
-        if (!angol || !magyar)
-            return nincs_a_kódlapon(angol ? pár.magyar : pár.angol);
-        bytes.append(*angol).append(':').append(*magyar).append("\r\n");
+        for (const auto &[szó, utána] : {std::pair(&pár.angol, ":"), std::pair(&pár.magyar, "\r\n")}) {
+            const auto kódolt = code_page::encode(*szó);
+            if (!kódolt)
+                return nincs_a_kódlapon(*szó);
+            bytes.append(*kódolt).append(utána);
+        }
     }
     return bytes;
 }

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "platform/files.h"
@@ -115,7 +116,12 @@ std::optional<QVector<szópár>> szószedetfájlok::párokat(const QString &út)
         üzenetek_.tell(hiba->sentence);
         return std::nullopt;
     }
-    return szsfájl::olvas(std::get<QByteArray>(tartalom));
+    try {
+        return szsfájl::olvas(std::get<QByteArray>(tartalom));
+    } catch (const std::bad_alloc &) {
+        üzenetek_.tell(files::cannot_read(út, files::no_memory()).sentence);
+        return std::nullopt;
+    }
 }
 
 std::optional<QString> szószedetfájlok::meglévőfájl(const QString &javaslat) {
@@ -218,17 +224,30 @@ QString szószedetfájlok::javasoltnév() const {
 }
 
 void szószedetfájlok::fájllistír() {
-    const FileContent tartalom = legutóbbifájlok::ír(állapot_.aktuálisfájl, fájllist_);
-    const auto *hiba = std::get_if<Failure>(&tartalom);
-    const auto írási = hiba ? *hiba : files::replace_whole(legutóbbi_, std::get<QByteArray>(tartalom));
-    if (írási)
-        üzenetek_.tell(írási->sentence);
+    const legutóbbifájlok::írott fájl = legutóbbifájlok::ír(állapot_.aktuálisfájl, fájllist_);
+    // The folder may have been removed while the program runs.
+    auto hiba = files::make_folder(QFileInfo(legutóbbi_).path());
+    if (!hiba)
+        hiba = files::replace_whole(legutóbbi_, fájl.bytes);
+    if (hiba)
+        üzenetek_.tell(hiba->sentence);
+    for (const Failure &kimaradt : fájl.kimaradtak)
+        egyszer_szól(kimaradt);
     fájlistolvas();
+}
+
+void szószedetfájlok::egyszer_szól(const Failure &miről) {
+    if (elmondott_.contains(miről.sentence))
+        return;
+    elmondott_.append(miről.sentence);
+    üzenetek_.tell(miről.sentence);
 }
 
 void szószedetfájlok::fájlistolvas() {
     const FileContent tartalom = files::read_whole(legutóbbi_);
     const auto *bytes = std::get_if<QByteArray>(&tartalom);
+    if (!bytes && files::is_taken(legutóbbi_))
+        egyszer_szól(std::get<Failure>(tartalom));
     fájllist_ = bytes ? legutóbbifájlok::olvas(*bytes, files::exists) : QStringList();
     ablak_.fájllistmutat(fájllist_);
 }

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "platform/dialogs.h"
+#include "platform/files.h"
 #include "state/global.h"
 #include "wordlist/word_pair_list.h"
 
@@ -42,7 +43,7 @@ class szószedetfájlok final {
     /// Opens a file of the recent-files menu, if it is still there.
     void mnufájlfájl(const QString &út);
 
-    /// Reads the recent-files list and shows it in the menu.
+    /// Reads the recent-files list and shows it in the menu; tells once when it is there and cannot be read.
     void fájlistolvas();
 
     /// Asks what is to become of unsaved changes; true when the program may end.
@@ -69,7 +70,10 @@ class szószedetfájlok final {
     /// The open dialog, shown again until an existing file is chosen; nothing when the user cancels.
     [[nodiscard]] std::optional<QString> meglévőfájl(const QString &javaslat);
     [[nodiscard]] QString programkönyvtárminta() const;
+    /// Writes the recent-files list with the current file first, in a folder that is made if it is missing.
     void fájllistír();
+    /// Tells it unless it was told before.
+    void egyszer_szól(const Failure &miről);
     void címbeállít();
     [[nodiscard]] bool mentetlen() const { return állapot_.változott == 1; }
 
@@ -79,6 +83,8 @@ class szószedetfájlok final {
     MessageBoxes &üzenetek_;
     FileDialogs &fájlablakok_;
     QString legutóbbi_;
+    /// What is told once.
+    QStringList elmondott_;
     /// What the recent-files menu shows.
     QStringList fájllist_;
     bool mentésmégse_ = false;

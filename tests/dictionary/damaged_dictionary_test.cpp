@@ -58,6 +58,24 @@ TEST(DamagedDictionary, with_lf_line_ends_is_read_all_the_same) {
     EXPECT_EQ(found.meanings, QByteArrayList{"zebra\xf7"});
 }
 
+TEST(DamagedDictionary, with_a_line_that_is_too_long_has_all_its_other_entries_and_the_beginning_of_that_one) {
+    QByteArray bytes(101, '#');
+    const QByteArrayList words{"apple", "bear", "cat", "dog", "elephant", "fox"};
+    for (const QByteArray &word : words)
+        bytes += "\r\n" + word + ":meaning\xf7" + (word == "cat" ? QByteArray(300000, 'x') + "\xf7" : QByteArray());
+    bytes += "\r\n";
+
+    for (const QByteArray &word : words) {
+        MemorySource source(bytes);
+        const Found found = find_in(source, word);
+
+        EXPECT_EQ(found.headwords, QByteArrayList{word});
+        EXPECT_TRUE(found.meanings.value(0).startsWith("meaning\xf7"));
+        EXPECT_LE(found.meanings.value(0).size(), 65536);
+        expect_bounded(bytes, word);
+    }
+}
+
 TEST(DamagedDictionary, that_is_unsorted_is_searched_to_an_end) {
     std::mt19937 random(1);
     QByteArray bytes(101, '#');

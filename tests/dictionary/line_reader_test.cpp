@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
+#include <algorithm>
+#include <cstring>
 #include <random>
 
 #include "support/files_for_tests.h"
@@ -89,6 +91,53 @@ TEST(LineReader, reads_little_more_than_the_lines_it_gives) {
         static_cast<void>(lines.next());
     EXPECT_LE(source.bytes_read, 50000);
     EXPECT_LE(source.reads, 60);
+}
+
+TEST(LineReader, keeps_the_beginning_of_a_line_that_is_too_long_and_goes_on_behind_it) {
+    const qsizetype longest = LineReader::longest_line;
+    for (const char *end : {"\n", "\r\n", ""}) {
+        for (const qsizetype size : {longest - 1, longest, longest + 1, longest + 2, 2 * longest, 5 * longest + 7}) {
+            const QByteArray line(size, 'x');
+            MemorySource source("a\n" + line + end + (*end == '\0' ? "" : "next\n"));
+            LineReader lines(source);
+            static_cast<void>(lines.next());
+
+            EXPECT_EQ(lines.next()->toByteArray(), line.first(std::min(size, longest))) << size;
+            EXPECT_EQ(lines.length(), size);
+            EXPECT_EQ(lines.position(), 2 + size + static_cast<qint64>(std::strlen(end)));
+
+            const auto next = lines.next();
+            EXPECT_EQ(next ? next->toByteArray() : QByteArray(), *end == '\0' ? "" : "next") << size;
+        }
+    }
+}
+
+/// A source of one long line, no part of which is in memory.
+class LongLine final : public ByteSource {
+  public:
+    [[nodiscard]] qint64 size() const override { return size_; }
+    [[nodiscard]] qint64 read(qint64 from, char *to, qint64 most) override {
+        largest_read = std::max(largest_read, most);
+        const qint64 got = std::clamp<qint64>(size_ - from, 0, most);
+        std::fill_n(to, got, 'x');
+        return got;
+    }
+
+    qint64 largest_read = 0;
+
+  private:
+    const qint64 size_ = 1LL << 28;
+};
+
+TEST(LineReader, passes_over_a_line_of_256_mebibytes_in_small_steps) {
+    LongLine source;
+    LineReader lines(source);
+
+    EXPECT_EQ(lines.next()->size(), LineReader::longest_line);
+
+    EXPECT_EQ(lines.length(), source.size());
+    EXPECT_FALSE(lines.next());
+    EXPECT_LE(source.largest_read, 2 * LineReader::longest_line);
 }
 
 TEST(LineReader, reads_a_file_where_it_lies) {

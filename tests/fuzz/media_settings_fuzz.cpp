@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "fuzz/expanded.h"
 #include "media/music_settings.h"
 #include "media/sound_settings.h"
 
@@ -77,7 +78,7 @@ void check_music(const Places &places, QByteArrayView bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     static const Places places;
-    const QByteArrayView bytes(data, static_cast<qsizetype>(size));
+    const QByteArray bytes = expanded(QByteArrayView(data, static_cast<qsizetype>(size)));
     check_sounds(places, bytes);
     check_music(places, bytes);
     return 0;

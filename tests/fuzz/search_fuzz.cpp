@@ -1,11 +1,13 @@
 // Searches arbitrary bytes for an arbitrary text: the first line of the input is the text, the rest the dictionary.
-// Every search ends, every hit is one, and the number of bytes read is bounded.
+// Every search ends, every hit is one and no longer than a line may be, and the number of bytes read is bounded.
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 
 #include "dictionary/dictionary_search.h"
+#include "dictionary/line_reader.h"
+#include "fuzz/expanded.h"
 #include "support/memory_source.h"
 
 namespace {
@@ -18,7 +20,7 @@ void demand(bool condition) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
-    const QByteArray input(QByteArrayView(data, static_cast<qsizetype>(size)).toByteArray());
+    const QByteArray input = expanded(QByteArrayView(data, static_cast<qsizetype>(size)));
     const qsizetype line_end = input.indexOf('\n');
     const QByteArray text = line_end < 0 ? QByteArray() : input.first(line_end);
     const QByteArrayView key = keresőkulcs(QByteArrayView(text));
@@ -29,6 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         text, {[&](const szócikk &entry) {
                    ++hits;
                    demand(!entry.címszó.contains(':'));
+                   demand(entry.címszó.size() + entry.jelentések.size() < LineReader::longest_line);
                    demand(keresőkulcs(entry.címszó).startsWith(key) || entry.címszó.startsWith(text));
                },
                [] { return false; }});

@@ -26,6 +26,11 @@ TEST(MiniWindowFile, keeps_values_off_every_screen) {
     EXPECT_EQ(kisablakfájl::olvas(" 999999 \r\n-999999 \r\n 0 \r\n"), (értékek{999999, -999999, 0}));
 }
 
+TEST(MiniWindowFile, has_its_values_in_the_beginning_of_any_number_of_bytes) {
+    EXPECT_EQ(kisablakfájl::olvas(" 1 \r\n 2 \r\n 3 \r\n" + QByteArray(1 << 20, '7')), (értékek{1, 2, 3}));
+    EXPECT_EQ(kisablakfájl::olvas(QByteArray(1 << 20, ' ') + "1 2 3"), std::nullopt);
+}
+
 TEST(MiniWindowFile, has_no_values_without_three_numbers_that_fit) {
     for (const char *bytes :
          {"", " 1 \r\n 2 \r\n", "rubbish here too", "1 2 x", "1.5 2 3", "99999999999 0 0", "0 0 70000"})

@@ -99,6 +99,19 @@ TEST_F(SettingsLines, name_the_line_and_the_letter_that_the_code_page_lacks) {
               "a közép-európai kódlapon."_s);
 }
 
+TEST_F(SettingsLines, never_change_a_name_whose_accents_are_separate) {
+    const FileContent bytes = beállítássorok::bájtok({u"e\u0301n.wav"_s});
+
+    ASSERT_TRUE(std::holds_alternative<Failure>(bytes));
+    EXPECT_EQ(std::get<Failure>(bytes).sentence,
+              u"A(z) „e\u0301n.wav” nevű fájl nem kerülhet a listára, mert a nevében a(z) „e\u0301” betű ékezete "
+              "külön jel, és az nem írható le a közép-európai kódlapon."_s);
+}
+
+TEST_F(SettingsLines, are_read_behind_one_that_is_longer_than_any_name) {
+    EXPECT_EQ(lines_of(" 1\r\n" + QByteArray(1 << 20, 'x') + "\r\na.wav\r\n"), QStringList({u" 1"_s, u"a.wav"_s}));
+}
+
 TEST_F(SettingsLines, refuse_a_name_that_would_be_read_as_two) {
     const FileContent bytes = beállítássorok::bájtok({u"a.wav"_s, u"b\nc.wav"_s});
 

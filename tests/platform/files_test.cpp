@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "platform/unfinished_files.h"
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
@@ -26,6 +27,31 @@ TEST_F(Files, reads_what_was_written) {
     EXPECT_FALSE(files::replace_whole(path, bytes));
 
     EXPECT_EQ(std::get<QByteArray>(files::read_whole(path)), bytes);
+}
+
+TEST_F(Files, replaces_a_longer_and_a_shorter_file_and_leaves_nothing_beside_it) {
+    const QString path = in_folder(u"szavak ő.szs"_s);
+    for (const QByteArray &bytes :
+         {QByteArray(100000, 'x'), QByteArray("short"), QByteArray(), QByteArray(70000, 'y')}) {
+        EXPECT_FALSE(files::replace_whole(path, bytes));
+
+        EXPECT_EQ(read_file(path), bytes);
+    }
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"szavak ő.szs"_s});
+}
+
+TEST_F(Files, have_names_as_long_as_the_system_allows_while_they_wait_to_take_anothers_place) {
+    for (const qsizetype length : {1, 100, 255}) {
+        const QString name(length, u'ő');
+        const QString waiting = unfinished_files::new_name_for(name);
+
+        EXPECT_EQ(waiting.size(), 38);
+        EXPECT_TRUE(unfinished_files::is_name_for(name, waiting));
+        EXPECT_NE(waiting, unfinished_files::new_name_for(name));
+        for (const QString &other : {name, name + u'x', u'x' + waiting, waiting + u'x', waiting.chopped(1), QString()})
+            EXPECT_FALSE(unfinished_files::is_name_for(name, other)) << other.toStdString();
+        EXPECT_FALSE(unfinished_files::is_name_for(name + u'x', waiting));
+    }
 }
 
 TEST_F(Files, says_why_a_missing_file_cannot_be_read) {

@@ -227,6 +227,20 @@ TEST_F(ProgramFolder, is_returned_without_sounds_where_it_cannot_be_made) {
     EXPECT_EQ(read_file(place("documents/Zimbora")), "a file");
 }
 
+TEST_F(ProgramFolder, that_is_missing_or_a_file_is_told_as_that) {
+    write_file(place("file"), "");
+    const auto sentence = [](const QString &folder) {
+        const auto failure = program_folder_failure(folder);
+        return failure ? failure->sentence : QString();
+    };
+
+    EXPECT_EQ(sentence(place("bin")), QString());
+    EXPECT_EQ(sentence(place("gone")), u"A program mappája, a(z) „%1” nem olvasható: a mappa nem létezik."_s.arg(
+                                           QDir::toNativeSeparators(place("gone"))));
+    EXPECT_EQ(sentence(place("file")), u"A program mappája, a(z) „%1” nem olvasható: a helyén egy fájl van."_s.arg(
+                                           QDir::toNativeSeparators(place("file"))));
+}
+
 TEST_F(ProgramFolder, leaves_a_file_alone_that_stands_where_its_sounds_would) {
     install_sounds_and_music();
     QDir(root_.path()).mkpath(u"documents/Zimbora"_s);

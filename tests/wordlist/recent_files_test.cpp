@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/files_for_tests.h"
 #include "support/printing.h"
 
@@ -50,15 +52,47 @@ TEST(RecentFiles, show_a_file_twice_that_stands_twice) {
 }
 
 TEST(RecentFiles, put_the_current_file_first_and_only_once) {
-    const FileContent bytes = legutóbbifájlok::ír(u"/ő.szs"_s, {u"/a.szs"_s, u"/ő.szs"_s, u"/b.szs"_s});
+    const legutóbbifájlok::írott file = legutóbbifájlok::ír(u"/ő.szs"_s, {u"/a.szs"_s, u"/ő.szs"_s, u"/b.szs"_s});
 
-    EXPECT_EQ(std::get<QByteArray>(bytes), "/\xf5.szs\r\n/a.szs\r\n/b.szs\r\n");
+    EXPECT_EQ(file.bytes, "/\xf5.szs\r\n/a.szs\r\n/b.szs\r\n");
+    EXPECT_TRUE(file.kimaradtak.isEmpty());
 }
 
-TEST(RecentFiles, refuse_a_path_that_the_code_page_cannot_hold) {
-    const FileContent bytes = legutóbbifájlok::ír(u"/火.szs"_s, {});
+/// What is told of a path that cannot be written.
+QString told_of(const QString &path) {
+    const legutóbbifájlok::írott file = legutóbbifájlok::ír(path, {u"/a.szs"_s});
+    EXPECT_EQ(file.bytes, "/a.szs\r\n");
+    return file.kimaradtak.size() == 1 ? file.kimaradtak[0].sentence : QString();
+}
 
-    EXPECT_TRUE(std::get<Failure>(bytes).sentence.contains(u"„/火.szs”"_s));
+TEST(RecentFiles, leave_out_the_line_only_of_a_path_that_the_code_page_cannot_hold) {
+    EXPECT_EQ(told_of(u"/火.szs"_s),
+              u"A(z) „/火.szs” fájl használható, de nem kerülhet a legutóbbi fájlok közé, mert a nevében a(z) „火” "
+              "betű nem írható le a közép-európai kódlapon. Ha más nevet kap, a menüben is ott lesz."_s);
+}
+
+TEST(RecentFiles, never_change_a_path_whose_accents_are_separate) {
+    EXPECT_TRUE(told_of(u"/e\u0301n.szs"_s).contains(u"mert a nevében a(z) „e\u0301” betű ékezete külön jel"_s));
+}
+
+TEST(RecentFiles, never_make_two_lines_of_a_path_with_a_line_break) {
+    EXPECT_EQ(
+        told_of(u"/a\nb.szs"_s),
+        u"A(z) „/a b.szs” fájl használható, de nem kerülhet a legutóbbi fájlok közé, mert a nevében sortörés van. "
+        "Ha más nevet kap, a menüben is ott lesz."_s);
+}
+
+TEST(RecentFiles, are_found_behind_a_line_longer_than_any_path) {
+    const QByteArray bytes = QByteArray(1 << 20, 'x') + "\r\n/a.szs\r\n";
+    qsizetype longest = 0;
+
+    const QStringList read = legutóbbifájlok::olvas(bytes, [&](const QString &path) {
+        longest = std::max(longest, path.size());
+        return true;
+    });
+
+    EXPECT_EQ(read, QStringList{u"/a.szs"_s});
+    EXPECT_LE(longest, 65536);
 }
 
 TEST(RecentFiles, have_the_path_behind_the_first_four_characters_of_their_caption) {

@@ -406,12 +406,50 @@ TEST_F(WordListFiles, exit_stays_when_the_name_is_cancelled_or_the_file_cannot_b
 }
 
 TEST_F(WordListFiles, recent_list_that_cannot_be_written_is_told) {
+    file("nincs", "");
     szószedetfájlok files(state_, list_, window_, boxes_, dialogs_, place("nincs/zbrmkfnh.ini"));
 
     files.mnufájlúj();
 
     ASSERT_EQ(boxes_.told.size(), 1);
-    EXPECT_TRUE(boxes_.told[0].contains(u"zbrmkfnh.ini"_s));
+    EXPECT_TRUE(boxes_.told[0].contains(QDir::toNativeSeparators(place("nincs"))));
+}
+
+TEST_F(WordListFiles, recent_list_is_written_into_its_folder_made_anew_when_that_has_gone) {
+    QDir(root_.path()).mkdir(u"c"_s);
+    szószedetfájlok files(state_, list_, window_, boxes_, dialogs_, place("c/zbrmkfnh.ini"));
+    files.fájlistolvas();
+    QDir(place("c")).removeRecursively();
+    dialogs_.choices = {file("a.szs", "a:b\r\n")};
+
+    files.mnufájlmegnyit();
+
+    EXPECT_TRUE(boxes_.told.isEmpty());
+    EXPECT_EQ(read_file(place("c/zbrmkfnh.ini")), QFile::encodeName(place("a.szs")) + "\r\n");
+}
+
+TEST_F(WordListFiles, file_outside_the_code_page_leaves_the_others_in_the_menu_and_is_told_once) {
+    dialogs_.choices = {file("a.szs", "a:b\r\n"), file("e\u0301n.szs", "c:d\r\n")};
+    files_.mnufájlmegnyit();
+
+    files_.mnufájlmegnyit();
+    files_.mnufájlment();
+    files_.mnufájlúj();
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(u"nem kerülhet a legutóbbi fájlok közé"_s));
+    EXPECT_EQ(window_.recent, QStringList{place("a.szs")});
+    EXPECT_EQ(read_file(place("e\u0301n.szs")), "c:d\r\n");
+}
+
+TEST_F(WordListFiles, recent_list_that_is_there_and_cannot_be_read_is_told_once) {
+    const UnreadableFile unreadable(recent_file_);
+
+    files_.fájlistolvas();
+    files_.fájlistolvas();
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(u"fájl nem olvasható: "_s));
 }
 
 }  // namespace

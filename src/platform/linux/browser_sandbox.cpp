@@ -28,12 +28,23 @@ bool can_lock_in() {
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
+/// The engine asks only whether there is such a variable, not what it says.
+bool is_switched_off() {
+    if (!qEnvironmentVariableIsSet(switched_off))
+        return false;
+    const QByteArray value = qgetenv(switched_off).trimmed();
+    if (!value.isEmpty() && value != "0")
+        return true;
+    qunsetenv(switched_off);
+    return false;
+}
+
 }  // namespace
 
 std::optional<Failure> prepare_browser_sandbox() {
     if (geteuid() == 0)
         qputenv(switched_off, "1");
-    if (qEnvironmentVariableIntValue(switched_off) != 0 || can_lock_in())
+    if (is_switched_off() || can_lock_in())
         return std::nullopt;
     return Failure{
         u"A súgó böngészője nem indítható: a rendszer nem engedi, hogy a lapokat elzárva "

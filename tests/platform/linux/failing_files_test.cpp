@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -41,6 +42,16 @@ void limit_file_size() {
     const auto failure = files::remove(path);
     const bool told = failure && failure->sentence.endsWith(u"fájl nem törölhető: nincs jogosultság a törléséhez."_s);
     std::_Exit(told ? 0 : 1);
+}
+
+/// The same for the right to read the folder in which it lies.
+[[noreturn]] void ask_why_not_readable(const QString &path) {
+    constexpr uid_t nobody = 65534;
+    if (getuid() == 0 && setuid(nobody) != 0)
+        std::_Exit(2);
+    const QString folder = QFileInfo(path).path();
+    const QString reason = files::reason_not_readable(path);
+    std::_Exit(reason == u"nincs jogosultság a(z) „%1” mappa olvasásához."_s.arg(folder) ? 0 : 1);
 }
 
 class FailingFiles : public testing::Test {
@@ -110,6 +121,32 @@ TEST_F(FailingFiles, leaves_the_old_file_whole_when_the_process_is_killed_in_the
         testing::KilledBySignal(SIGXFSZ), "");
 
     EXPECT_EQ(read_file(path), "old:régi\r\n");
+}
+
+TEST_F(FailingFiles, waits_for_no_pipe_and_no_device_and_says_what_they_are) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(in_folder(u"cső.szs"_s)).constData(), 0600), 0);
+    ASSERT_TRUE(QFile::link(u"/dev/zero"_s, in_folder(u"eszköz.szs"_s)));
+    for (const QString &name : {u"cső.szs"_s, u"eszköz.szs"_s}) {
+        const QString path = in_folder(name);
+        const QString reason = u"nem közönséges fájl, hanem eszköz vagy csővezeték."_s;
+
+        EXPECT_EQ(std::get<Failure>(files::read_whole(path)).sentence,
+                  u"A(z) „%1” fájl nem olvasható: %2"_s.arg(path, reason));
+        EXPECT_EQ(files::reason_not_readable(path), reason);
+        const auto failure = files::replace_whole(path, "x");
+        ASSERT_TRUE(failure);
+        EXPECT_TRUE(failure->sentence.endsWith(u"fájl nem írható: "_s + reason)) << failure->sentence.toStdString();
+        EXPECT_TRUE(files::is_taken(path));
+        EXPECT_FALSE(files::exists(path));
+    }
+}
+
+TEST_F(FailingFiles, says_which_folder_may_not_be_read) {
+    const QString path = in_folder(u"am.txt"_s);
+    write_file(path, "x");
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0));
+    EXPECT_EXIT(ask_why_not_readable(path), testing::ExitedWithCode(0), "");
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x7700));
 }
 
 TEST_F(FailingFiles, deletes_a_read_only_file) {

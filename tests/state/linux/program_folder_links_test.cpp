@@ -1,10 +1,32 @@
+#include <unistd.h>
+
 #include <QFile>
+#include <cstdlib>
 
 #include "support/program_folder_fixture.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Ends the process: with 0 when an ordinary user is told that the folder is closed. Root gives up his rights.
+[[noreturn]] void ask_for_failure(const QString &folder) {
+    constexpr uid_t nobody = 65534;
+    if (getuid() == 0 && setuid(nobody) != 0)
+        std::_Exit(2);
+    const auto failure = program_folder_failure(folder);
+    const QString wanted = u"A program mappája, a(z) „%1” nem olvasható: nincs jogosultság az olvasásához."_s;
+    std::_Exit(failure && failure->sentence == wanted.arg(folder) ? 0 : 1);
+}
+
+TEST_F(ProgramFolder, that_is_closed_to_the_user_is_told_as_that) {
+    QFile::setPermissions(root_.path(), QFile::Permissions(0x7755));
+    QFile::setPermissions(place("bin"), QFile::Permissions(0));
+
+    EXPECT_EXIT(ask_for_failure(place("bin")), testing::ExitedWithCode(0), "");
+
+    QFile::setPermissions(place("bin"), QFile::Permissions(0x7700));
+}
 
 TEST_F(ProgramFolder, is_made_in_the_documents_and_linked_to_the_installed_dictionaries) {
     write_file(place("share/am.txt"), "dictionary");
