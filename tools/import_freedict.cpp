@@ -16,43 +16,73 @@ constexpr int failed = 1;
 constexpr int called_wrongly = 2;
 
 const char *const usage =
-    "Használat: zimbora-import [--help] [--freedict MAPPA] KIMENETI-MAPPA\n"
+    "Használat: zimbora-import [KAPCSOLÓK] KIMENETI-MAPPA\n"
     "\n"
     "A FreeDict angol–magyar és magyar–angol szótárából elkészíti a Zimbora\n"
     "szótárfájljait (am.txt, ma.txt) a KIMENETI-MAPPA mappában.\n"
     "\n"
-    "  --freedict MAPPA  a szótárcsomagok dictd-fájljainak mappája\n"
-    "                    (alapértelmezés: /usr/share/dictd)\n"
-    "  --help, -h        kiírja ezt a leírást\n";
+    "  --freedict MAPPA    a szótárcsomagok dictd-fájljainak mappája\n"
+    "                      (alapértelmezés: /usr/share/dictd)\n"
+    "  --wordnet MAPPA     a WordNet fájljainak mappája\n"
+    "                      (alapértelmezés: /usr/share/wordnet)\n"
+    "  --scowl MAPPA       a SCOWL szólistáinak mappája\n"
+    "                      (alapértelmezés: /usr/share/dict/scowl)\n"
+    "  --help, -h          kiírja ezt a leírást\n";
 
 struct Request {
     bool help = false;
-    QString freedict_folder = QStringLiteral("/usr/share/dictd");
+    freedict::Sources sources{.freedict = QStringLiteral("/usr/share/dictd"),
+                              .wordnet = QStringLiteral("/usr/share/wordnet"),
+                              .scowl = QStringLiteral("/usr/share/dict/scowl")};
     QString output_folder;
 };
 
+/// An option with a value, and what lacks without the value.
+struct Option {
+    const char *name;
+    const char *value;
+    QString &target;
+};
+
+/// Takes an option's value from the argument or from the next one; false when it is another argument.
+std::variant<bool, Failure> taken(const Option &option, const QString &argument, QStringList &rest) {
+    const QString name = QString::fromLatin1(option.name);
+    if (argument != name && !argument.startsWith(name + u'='))
+        return false;
+    option.target = argument.sliced(name.size()).mid(1);
+    if (argument == name && !rest.isEmpty())
+        option.target = rest.takeFirst();
+    if (option.target.isEmpty()) {
+        return Failure{QStringLiteral("A %1 kapcsoló után hiányzik a %2.").arg(name, QString::fromUtf8(option.value))};
+    }
+    return true;
+}
+
 std::variant<Request, Failure> request_of(QStringList arguments) {
-    const QString freedict = QStringLiteral("--freedict");
     Request request;
+    const Option options[] = {{"--freedict", "mappa", request.sources.freedict},
+                              {"--wordnet", "mappa", request.sources.wordnet},
+                              {"--scowl", "mappa", request.sources.scowl}};
     while (!arguments.isEmpty()) {
         const QString argument = arguments.takeFirst();
         if (argument == u"--help" || argument == u"-h") {
             request.help = true;
             return request;
         }
-        if (argument == freedict || argument.startsWith(freedict + u'=')) {
-            request.freedict_folder = argument.sliced(freedict.size()).mid(1);
-            if (argument == freedict && !arguments.isEmpty())
-                request.freedict_folder = arguments.takeFirst();
-            if (request.freedict_folder.isEmpty())
-                return Failure{QStringLiteral("A --freedict kapcsoló után hiányzik a mappa.")};
-        } else if (argument.startsWith(u'-')) {
-            return Failure{QStringLiteral("Ismeretlen kapcsoló: „%1”.").arg(argument)};
-        } else if (!request.output_folder.isEmpty()) {
-            return Failure{QStringLiteral("Csak egy kimeneti mappa adható meg, fölösleges: „%1”.").arg(argument)};
-        } else {
-            request.output_folder = argument;
+        bool is_option = false;
+        for (const Option &option : options) {
+            const auto result = taken(option, argument, arguments);
+            if (const auto *failure = std::get_if<Failure>(&result))
+                return *failure;
+            is_option = is_option || std::get<bool>(result);
         }
+        if (is_option)
+            continue;
+        if (argument.startsWith(u'-'))
+            return Failure{QStringLiteral("Ismeretlen kapcsoló: „%1”.").arg(argument)};
+        if (!request.output_folder.isEmpty())
+            return Failure{QStringLiteral("Csak egy kimeneti mappa adható meg, fölösleges: „%1”.").arg(argument)};
+        request.output_folder = argument;
     }
     if (request.output_folder.isEmpty())
         return Failure{QStringLiteral("Hiányzik a kimeneti mappa.")};
@@ -95,7 +125,7 @@ class ProgressBar final {
 int run(const Request &request) {
     ProgressBar bar;
     const auto result = freedict::import_dictionaries(
-        request.freedict_folder, request.output_folder,
+        request.sources, request.output_folder,
         [&](const freedict::Dictionary &dictionary, int percent) { bar.show(dictionary, percent); });
     bar.leave();
     const auto *imported = std::get_if<QVector<freedict::Imported>>(&result);

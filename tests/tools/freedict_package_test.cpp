@@ -32,15 +32,16 @@ QString sentence(const SamplePackage &sample) {
 TEST(FreedictEntry, one_meaning_stands_as_it_is) {
     const auto entries = entries_of(SamplePackage().add("apple /ˈapəl/\n1. alma\n"));
 
-    EXPECT_EQ(entries, (QVector<Entry>{{QStringLiteral("apple"), {QStringLiteral("1. alma")}}}));
+    EXPECT_EQ(entries,
+              (QVector<Entry>{{QStringLiteral("apple"), {QStringLiteral("1. alma")}, QStringLiteral("ˈapəl")}}));
 }
 
 TEST(FreedictEntry, several_meanings_lose_their_numbers) {
     const auto entries = entries_of(SamplePackage().add("to allow /təʊ/\n1. enged\n2. 2. megenged\n3.  ad\n"));
 
-    EXPECT_EQ(entries,
-              (QVector<Entry>{{QStringLiteral("to allow"),
-                               {QStringLiteral("enged"), QStringLiteral("2. megenged"), QStringLiteral(" ad")}}}));
+    EXPECT_EQ(entries, (QVector<Entry>{{QStringLiteral("to allow"),
+                                        {QStringLiteral("enged"), QStringLiteral("2. megenged"), QStringLiteral(" ad")},
+                                        QStringLiteral("təʊ")}}));
 }
 
 TEST(FreedictEntry, ten_meanings_and_more_are_numbered_with_two_digits) {

@@ -33,6 +33,10 @@ namespace freedict {
 struct Entry {
     QString headword;
     QStringList meanings;
+    /// In the international phonetic alphabet, as the package has it; empty for an entry of another origin.
+    QString pronunciation{};
+    /// How many meanings stand in front whatever their score; a package says so of none.
+    qsizetype fixed = 0;
 
     friend bool operator==(const Entry &, const Entry &) = default;
 };
