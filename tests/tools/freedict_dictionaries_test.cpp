@@ -30,10 +30,9 @@ QByteArray bytes_of(const QString &path) {
     return std::get<QByteArray>(files::read_whole(path));
 }
 
+/// The packages alone: what the supplement, the spelling dictionaries and WordNet add would hide what is lost.
 freedict::Sources sources() {
-    return {.freedict = QStringLiteral(ZIMBORA_FREEDICT_DIR),
-            .wordnet = QStringLiteral(ZIMBORA_WORDNET_DIR),
-            .scowl = QStringLiteral(ZIMBORA_SCOWL_DIR)};
+    return {.freedict = QStringLiteral(ZIMBORA_FREEDICT_DIR), .scowl = QStringLiteral(ZIMBORA_SCOWL_DIR)};
 }
 
 /// One import for all tests.
@@ -83,7 +82,25 @@ QString sorted_line(const QByteArray &line) {
     return sorted_entry(code_page::decode(line.left(colon)), meanings);
 }
 
-/// The same of each definition of the package, with its letters mended.
+/// A text without what is mended when there is no spelling dictionary: headwords that list fewer forms than another
+/// one, doubled blanks, a bracket.
+QString mended_text(const QString &text) {
+    static const QHash<QString, QString> joined{
+        {QStringLiteral("to beat, beat"), QStringLiteral("to beat, beat, beaten")},
+        {QStringLiteral("to crow, crew"), QStringLiteral("to crow, crowed, crew")},
+        {QStringLiteral("to get, got"), QStringLiteral("to get, got, gotten")},
+        {QStringLiteral("to hide, hid"), QStringLiteral("to hide, hid, hidden")},
+        {QStringLiteral("to hold, held, holden"), QStringLiteral("to hold, held")},
+        {QStringLiteral("to slink, slank, slunk"), QStringLiteral("to slink, slunk")},
+        {QStringLiteral("to spin, span, spun"), QStringLiteral("to spin, spun")},
+        {QStringLiteral("to stink, stunk, stunk"), QStringLiteral("to stink, stank, stunk")}};
+    if (text == u"sorozat (pókerban(")
+        return QStringLiteral("sorozat (pókerban)");
+    const QString simple = text.simplified();
+    return joined.value(simple, simple);
+}
+
+/// The same of each definition of the package, mended.
 QStringList mended_definitions(const Dictionary &dictionary) {
     const QString base = QStringLiteral(ZIMBORA_FREEDICT_DIR "/") + dictionary.package.toString();
     const QByteArray index = bytes_of(base + QStringLiteral(".index"));
@@ -91,7 +108,7 @@ QStringList mended_definitions(const Dictionary &dictionary) {
     const auto found = freedict::definitions(index, std::get<QByteArray>(unpacked), base);
     const QRegularExpression pronunciation(QStringLiteral(" /[^/\n]+/\n"));
     const QRegularExpression number(QStringLiteral("^[0-9]+\\. "));
-    QStringList definitions;
+    QHash<QString, QStringList> entries;
     for (const auto &definition : std::get<QVector<freedict::Definition>>(found)) {
         if (definition.index_word.startsWith("00database"))
             continue;
@@ -104,7 +121,14 @@ QStringList mended_definitions(const Dictionary &dictionary) {
         const QString headword = lines.takeFirst();
         if (lines.size() > 1)
             lines.replaceInStrings(number, QString());
-        definitions.append(sorted_entry(headword, lines));
+        for (QString &line : lines)
+            line = mended_text(line);
+        entries[mended_text(headword)] += lines;
+    }
+    QStringList definitions;
+    for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+        entry->removeDuplicates();
+        definitions.append(sorted_entry(entry.key(), *entry));
     }
     return definitions;
 }
@@ -174,8 +198,20 @@ std::string name_of(const testing::TestParamInfo<Dictionary> &dictionary) {
 INSTANTIATE_TEST_SUITE_P(Both, EachFreedictDictionary, testing::ValuesIn(freedict::dictionaries), name_of);
 
 TEST_F(FreedictDictionaries, hold_all_the_packages_entries) {
-    EXPECT_EQ(entry_lines_of(freedict::english_hungarian).size(), 89'679);
-    EXPECT_EQ(entry_lines_of(freedict::hungarian_english).size(), 139'935);
+    // Ten English and twelve Hungarian ones were doubled and are joined.
+    EXPECT_EQ(entry_lines_of(freedict::english_hungarian).size(), 89'679 - 10);
+    EXPECT_EQ(entry_lines_of(freedict::hungarian_english).size(), 139'935 - 12);
+}
+
+TEST_F(FreedictDictionaries, come_out_the_same_byte_by_byte_a_second_time) {
+    const QTemporaryDir again;
+
+    (void)freedict::import_dictionaries(sources(), again.path(), [](const Dictionary &, int) {});
+
+    for (const char *name : {"am.txt", "ma.txt", "kiejt.txt"}) {
+        const QString file = QString::fromLatin1(name);
+        EXPECT_EQ(bytes_of(again.filePath(file)), bytes_of(folder_->filePath(file))) << name;
+    }
 }
 
 TEST_F(FreedictDictionaries, name_their_edition_and_licence) {
@@ -197,7 +233,7 @@ TEST_F(FreedictDictionaries, hold_the_same_pairs_in_both_directions) {
 
     english.sort();
 
-    EXPECT_EQ(english.size(), 254'734);
+    EXPECT_EQ(hungarian.size(), 254'734 - 97);
     ASSERT_EQ(english.size(), hungarian.size());
     EXPECT_EQ(std::ranges::mismatch(english, hungarian).in1, english.end());
 }

@@ -69,6 +69,21 @@ TEST_F(Import, makes_both_dictionaries_and_counts_what_went_in_and_came_out) {
     EXPECT_TRUE(content(QStringLiteral("ma.txt")).endsWith("\r\nalma:apple\xF7\r\n"));
 }
 
+TEST_F(Import, makes_the_same_bytes_of_the_same_packages) {
+    const QStringList names{QStringLiteral("am.txt"), QStringLiteral("kiejt.txt"), QStringLiteral("ma.txt")};
+    QVector<QByteArray> first;
+    QVector<QByteArray> second;
+
+    (void)import();
+    for (const QString &name : names)
+        first.append(content(name));
+    (void)import();
+    for (const QString &name : names)
+        second.append(content(name));
+
+    EXPECT_EQ(first, second);
+}
+
 TEST_F(Import, tells_its_progress_from0_to100_for_each_dictionary) {
     (void)import();
 

@@ -82,7 +82,7 @@ TEST(MeaningOrder, what_is_fixed_stands_in_front_as_it_was) {
     const QVector<PlacedMeaning> order = placed(entry);
 
     EXPECT_EQ(order[0].meaning, QStringLiteral("librettó"));
-    EXPECT_TRUE(order[0].fixed);
+    EXPECT_EQ(order[0].group, 0);
     EXPECT_EQ(order[1].meaning, QStringLiteral("könyv"));
 }
 

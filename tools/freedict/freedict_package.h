@@ -37,6 +37,8 @@ struct Entry {
     QString pronunciation{};
     /// How many meanings stand in front whatever their score; a package says so of none.
     qsizetype fixed = 0;
+    /// How many behind them stand in front of the others, by their score.
+    qsizetype led = 0;
 
     friend bool operator==(const Entry &, const Entry &) = default;
 };

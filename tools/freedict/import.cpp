@@ -5,6 +5,9 @@
 #include <optional>
 
 #include "freedict/meaning_order.h"
+#include "freedict/preparation.h"
+#include "freedict/pronunciations.h"
+#include "freedict/usual_verbs.h"
 
 namespace freedict {
 namespace {
@@ -34,109 +37,80 @@ class Percent final {
     int told_ = -1;
 };
 
-/// Both packages, English first.
-using Packages = std::array<Package, 2>;
-
-std::variant<Packages, Failure> read_packages(const Sources &sources, Percent &percent) {
-    Packages packages;
-    for (std::size_t i = 0; i < dictionaries.size(); ++i) {
-        const int first = 10 * static_cast<int>(i);
-        PackageResult read =
-            read_package(sources.freedict, dictionaries[i].package.toString(), percent.stage(first, first + 10));
-        if (const auto *failure = std::get_if<Failure>(&read))
-            return *failure;
-        packages[i] = std::get<Package>(std::move(read));
-        if (const auto wrong = difference(packages[i], counts_of(packages[i].entries)))
-            return *wrong;
-    }
-    return packages;
-}
-
-std::variant<OutsideKnowledge, Failure> read_outside(const Sources &sources) {
-    OutsideKnowledge outside;
-    if (!sources.wordnet.isEmpty()) {
-        auto net = WordNet::read(sources.wordnet);
-        if (const auto *failure = std::get_if<Failure>(&net))
-            return *failure;
-        outside.net = std::get<WordNet>(std::move(net));
-    }
-    if (!sources.scowl.isEmpty()) {
-        auto classes = WordClasses::read(sources.scowl);
-        if (const auto *failure = std::get_if<Failure>(&classes))
-            return *failure;
-        outside.classes = std::get<WordClasses>(std::move(classes));
-    }
-    return outside;
-}
-
-struct Made {
-    Imported imported;
-    QByteArray text;
+struct File {
+    QStringView name;
+    QByteArray bytes;
 };
 
-std::variant<Made, Failure> made(const Dictionary &dictionary, const Package &package, const QVector<Entry> &entries,
-                                 const Steps &steps) {
+struct Made {
+    QVector<Imported> imported;
+    QVector<File> files;
+};
+
+/// Adds the file of one dictionary; the failure when it cannot be written or is not whole.
+std::optional<Failure> add_file(Made &made, Imported done, const Package &package, const QVector<Entry> &entries,
+                                const Steps &steps) {
     Package whole = package;
     whole.entries = entries;
-    FileContent text = dictionary_text(whole, dictionary, steps);
+    FileContent text = dictionary_text(whole, done.dictionary, steps);
     if (const auto *failure = std::get_if<Failure>(&text))
         return *failure;
-    auto &bytes = std::get<QByteArray>(text);
-    const Counts written = counts_in(bytes);
+    done.written = counts_in(std::get<QByteArray>(text));
     whole.stated_headwords = entries.size();
-    if (const auto lost = difference(whole, written))
-        return *lost;
-    return Made{{dictionary, counts_of(package.entries), written}, std::move(bytes)};
+    if (const auto lost = difference(whole, done.written))
+        return lost;
+    made.files.append({done.dictionary.file, std::get<QByteArray>(text)});
+    made.imported.append(done);
+    return std::nullopt;
 }
 
-std::variant<QVector<Made>, Failure> make_all(const Sources &sources, const Progress &progress) {
+std::variant<Made, Failure> make_all(const Sources &sources, const Progress &progress) {
     Percent first(dictionaries[0], progress);
-    const auto packages = read_packages(sources, first);
-    if (const auto *failure = std::get_if<Failure>(&packages))
+    const auto read = read_material(sources, first.stage(0, 20));
+    if (const auto *failure = std::get_if<Failure>(&read))
         return *failure;
-    const auto outside = read_outside(sources);
-    if (const auto *failure = std::get_if<Failure>(&outside))
+    const auto &material = std::get<Material>(read);
+    auto ready = prepared(material);
+    if (const auto *failure = std::get_if<Failure>(&ready))
         return *failure;
-    first.tell(30);
-    Lexicon lexicon;
-    for (std::size_t i = 0; i < dictionaries.size(); ++i)
-        lexicon.in(dictionaries[i].language) = mended_entries(std::get<Packages>(packages)[i], dictionaries[i]);
+    auto &[lexicon, done, mends, doubled_left] = std::get<Prepared>(ready);
+    first.tell(35);
     const WordPairs pairs = word_pairs(lexicon.english, lexicon.hungarian);
-    first.tell(40);
-    const Steps learn = first.stage(40, 60);
+    const Steps learn = first.stage(40, 55);
     int learned = 0;
-    const MeaningFeatures features(pairs, std::get<OutsideKnowledge>(outside),
+    const MeaningFeatures features(pairs, material.outside,
                                    [&] { learn(++learned, MeaningFeatures::alignment_count); });
-    QVector<Made> all;
+    Made made;
     std::optional<Percent> second;
     for (std::size_t i = 0; i < dictionaries.size(); ++i) {
         Percent &percent = i == 0 ? first : second.emplace(dictionaries[i], progress);
-        order_meanings(lexicon, dictionaries[i].language, features, percent.stage(i == 0 ? 60 : 0, 90));
-        auto one = made(dictionaries[i], std::get<Packages>(packages)[i], lexicon.in(dictionaries[i].language),
-                        percent.stage(90, 100));
-        if (const auto *failure = std::get_if<Failure>(&one))
+        const Language language = dictionaries[i].language;
+        order_meanings(lexicon, language, features, percent.stage(i == 0 ? 55 : 0, 90));
+        if (language == Language::english && material.outside.net)
+            done[i].lent = lend_usual_verbs(lexicon, *material.outside.net);
+        if (const auto failure =
+                add_file(made, done[i], material.packages[i], lexicon.in(language), percent.stage(90, 100)))
             return *failure;
         percent.tell(100);
-        all.append(std::get<Made>(std::move(one)));
     }
-    return all;
+    made.files.append({pronunciation_file, pronunciation_text(material.packages[0], lexicon.english)});
+    return made;
 }
 
 }  // namespace
 
 std::variant<QVector<Imported>, Failure> import_dictionaries(const Sources &sources, const QString &output_folder,
                                                              const Progress &progress) {
-    const auto all = make_all(sources, progress);
-    if (const auto *failure = std::get_if<Failure>(&all))
+    const auto result = make_all(sources, progress);
+    if (const auto *failure = std::get_if<Failure>(&result))
         return *failure;
-    QVector<Imported> imported;
-    for (const Made &one : std::get<QVector<Made>>(all)) {
-        const QString path = QDir(output_folder).filePath(one.imported.dictionary.file.toString());
-        if (const std::optional<Failure> failure = files::replace_whole(path, one.text))
+    const auto &made = std::get<Made>(result);
+    for (const File &file : made.files) {
+        const QString path = QDir(output_folder).filePath(file.name.toString());
+        if (const std::optional<Failure> failure = files::replace_whole(path, file.bytes))
             return *failure;
-        imported.append(one.imported);
     }
-    return imported;
+    return made.imported;
 }
 
 }  // namespace freedict

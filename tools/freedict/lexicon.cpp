@@ -37,7 +37,7 @@ void rename_headwords(QVector<Entry> &entries, const QHash<QString, QString> &na
             continue;
         }
         entries[*place].meanings += entries[i].meanings;
-        done.doubled += entries[*place].meanings.removeDuplicates();
+        done.doubled_in_joined += entries[*place].meanings.removeDuplicates();
         gone[i] = true;
         ++done.joined;
     }

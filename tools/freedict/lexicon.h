@@ -30,7 +30,8 @@ struct Renamed {
     /// Of the headwords those that went into an entry that was there.
     qsizetype joined = 0;
     qsizetype meanings = 0;
-    /// Meanings that stood in their entry already.
+    /// Meanings that stood in their entry already: of joined headwords, and of renamed meanings.
+    qsizetype doubled_in_joined = 0;
     qsizetype doubled = 0;
 };
 

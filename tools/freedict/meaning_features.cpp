@@ -101,6 +101,7 @@ MeaningFeatures::MeaningFeatures(const WordPairs &pairs, const OutsideKnowledge 
       hungarian_texts_(texts_with_part(pairs.hungarian)),
       english_families_(pairs.english, pairs.hungarian),
       hungarian_families_(pairs.hungarian, pairs.english) {
+    counts_ = {QVector<int>(pairs.hungarian.part_count, 0), QVector<int>(pairs.english.part_count, 0)};
     if (outside.net)
         senses_.emplace(pairs, *outside.net);
 }
@@ -177,7 +178,8 @@ void MeaningFeatures::measure_together(const Direction &way, int head, const QVe
         if (one != 0 && (part < 0 || way.heads.part_pairs[one] < way.heads.part_pairs[part]))
             part = one;
     }
-    QHash<int, int> counts;
+    QVector<int> &counts = counts_[way.heads.language == Language::english ? 0 : 1];
+    QVector<int> counted;
     int pairs = 0;
     if (part >= 0) {
         for (const int text : texts[part]) {
@@ -185,22 +187,26 @@ void MeaningFeatures::measure_together(const Direction &way, int head, const QVe
                 continue;
             for (const int meaning : way.heads.partners[text]) {
                 ++pairs;
-                for (const int other : way.meanings.parts[meaning])
-                    ++counts[other];
+                for (const int other_part : way.meanings.parts[meaning]) {
+                    ++counts[other_part];
+                    counted.append(other_part);
+                }
             }
         }
     }
     for (qsizetype i = 0; i < meanings.size(); ++i) {
         int least = -1;
         for (const int one : way.meanings.parts[meanings[i]]) {
-            if (one != 0 && (least < 0 || counts.value(one) < least))
-                least = counts.value(one);
+            if (one != 0 && (least < 0 || counts[one] < least))
+                least = counts[one];
         }
         least = std::max(least, 0);
         const int of_meaning = rarest(way.meanings.parts[meanings[i]], way.meanings.part_pairs);
         features[i][together] = natural_logarithm((2 * least + 0.5) / (pairs + of_meaning + 5));
         features[i][together_given_head] = natural_logarithm((least + 0.5) / (pairs + 5));
     }
+    for (const int counted_part : std::as_const(counted))
+        counts[counted_part] = 0;
 }
 
 }  // namespace freedict

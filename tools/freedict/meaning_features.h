@@ -93,6 +93,8 @@ class MeaningFeatures final {
     WordFamilies english_families_;
     WordFamilies hungarian_families_;
     std::optional<SenseMatch> senses_;
+    /// Room for counting the parts of meanings in, for each direction; zero between two calls.
+    mutable std::array<QVector<int>, 2> counts_;
 };
 
 }  // namespace freedict

@@ -6,11 +6,26 @@
 
 namespace freedict {
 
+namespace {
+
+int group_of(Language language, const Entry &entry, qsizetype place) {
+    if (place < entry.fixed)
+        return 0;
+    if (place < entry.fixed + entry.led)
+        return 1;
+    // The package has names in small letters too: China is one, china is not.
+    const bool is_name = language == Language::english && entry.meanings[place].front().isUpper() &&
+                         entry.headword == entry.headword.toLower();
+    return is_name ? 3 : 2;
+}
+
+}  // namespace
+
 QVector<PlacedMeaning> placed_meanings(const MeaningFeatures &features, Language language, const Entry &entry) {
     const QVector<Features> measured = features.of(language, entry.headword, entry.meanings);
     QVector<PlacedMeaning> all;
     for (qsizetype i = 0; i < measured.size(); ++i) {
-        PlacedMeaning placed{.meaning = entry.meanings[i], .fixed = i < entry.fixed};
+        PlacedMeaning placed{.meaning = entry.meanings[i], .group = group_of(language, entry, i)};
         placed.coarse = is_coarse(placed.meaning, other(language));
         for (std::size_t feature = 0; feature < feature_count; ++feature) {
             placed.added[feature] = weights(language)[feature] * measured[i][feature];
@@ -21,9 +36,9 @@ QVector<PlacedMeaning> placed_meanings(const MeaningFeatures &features, Language
     std::ranges::stable_sort(all, [](const PlacedMeaning &left, const PlacedMeaning &right) {
         if (left.coarse != right.coarse)
             return right.coarse;
-        if (left.fixed != right.fixed)
-            return left.fixed;
-        return !left.fixed && left.score > right.score;
+        if (left.group != right.group)
+            return left.group < right.group;
+        return left.group != 0 && left.score > right.score;
     });
     return all;
 }

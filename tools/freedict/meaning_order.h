@@ -18,13 +18,15 @@ struct PlacedMeaning {
     double score = 0;
     /// What each feature adds: its value by its weight.
     Features added{};
-    /// It stands where it stands by the supplement.
-    bool fixed = false;
+    /// 0 and 1 are the supplement's: 0 stands where it stands, 1 in front of the others by its score; 2 is all the
+    /// rest.
+    int group = 2;
     /// It stands behind all others, because it is coarse.
     bool coarse = false;
 };
 
-/// An entry's meanings from the best to the worst: what is fixed, the others by their score, what is coarse; equal
+/// An entry's meanings from the best to the worst: what is fixed, what is led
+/// there, the others, these two by their score; at last what is coarse; equal
 /// ones as the package has them.
 [[nodiscard]] QVector<PlacedMeaning> placed_meanings(const MeaningFeatures &features, Language language,
                                                      const Entry &entry);
