@@ -1,4 +1,5 @@
-// zimbora-import: makes the program's dictionary files am.txt and ma.txt of the FreeDict packages.
+// zimbora-import: makes the program's dictionary files am.txt and ma.txt, and that of the
+// pronunciations, of the FreeDict packages.
 
 #include <unistd.h>
 
@@ -7,6 +8,7 @@
 #include <QTextStream>
 #include <variant>
 
+#include "freedict/explanation.h"
 #include "freedict/import.h"
 
 namespace {
@@ -16,45 +18,88 @@ constexpr int failed = 1;
 constexpr int called_wrongly = 2;
 
 const char *const usage =
-    "Használat: zimbora-import [--help] [--freedict MAPPA] KIMENETI-MAPPA\n"
+    "Használat: zimbora-import [KAPCSOLÓK] KIMENETI-MAPPA\n"
     "\n"
     "A FreeDict angol–magyar és magyar–angol szótárából elkészíti a Zimbora\n"
-    "szótárfájljait (am.txt, ma.txt) a KIMENETI-MAPPA mappában.\n"
+    "szótárfájljait (am.txt, ma.txt) és a kiejtések fájlját (kiejt.txt) a\n"
+    "KIMENETI-MAPPA mappában.\n"
     "\n"
-    "  --freedict MAPPA  a szótárcsomagok dictd-fájljainak mappája\n"
-    "                    (alapértelmezés: /usr/share/dictd)\n"
-    "  --help, -h        kiírja ezt a leírást\n";
+    "  --freedict MAPPA    a szótárcsomagok dictd-fájljainak mappája\n"
+    "                      (alapértelmezés: /usr/share/dictd)\n"
+    "  --wordnet MAPPA     a WordNet fájljainak mappája\n"
+    "                      (alapértelmezés: /usr/share/wordnet)\n"
+    "  --scowl MAPPA       a SCOWL szólistáinak mappája\n"
+    "                      (alapértelmezés: /usr/share/dict/scowl)\n"
+    "  --hunspell MAPPA    a helyesírási szótárak mappája\n"
+    "                      (alapértelmezés: /usr/share/hunspell)\n"
+    "  --supplement MAPPA  a saját szócikkek mappája\n"
+    "                      (nélküle csak a csomagok szócikkei)\n"
+    "  --explain SZÓ       fájlok helyett a szó jelentéseit írja ki, pontszámukkal\n"
+    "                      és azzal, hogy melyik jellemző mennyit ad hozzá\n"
+    "  --mends             fájlok helyett a kijavított elírásokat írja ki\n"
+    "  --help, -h          kiírja ezt a leírást\n";
 
 struct Request {
     bool help = false;
-    QString freedict_folder = QStringLiteral("/usr/share/dictd");
+    freedict::Sources sources{.freedict = QStringLiteral("/usr/share/dictd"),
+                              .wordnet = QStringLiteral("/usr/share/wordnet"),
+                              .scowl = QStringLiteral("/usr/share/dict/scowl"),
+                              .hunspell = QStringLiteral("/usr/share/hunspell")};
+    QString explained;
+    bool mends = false;
     QString output_folder;
 };
 
+/// An option with a value, and what lacks without the value.
+struct Option {
+    const char *name;
+    const char *value;
+    QString &target;
+};
+
+/// Takes an option's value from the argument or from the next one; false when it is another argument.
+std::variant<bool, Failure> taken(const Option &option, const QString &argument, QStringList &rest) {
+    const QString name = QString::fromLatin1(option.name);
+    if (argument != name && !argument.startsWith(name + u'='))
+        return false;
+    option.target = argument.sliced(name.size()).mid(1);
+    if (argument == name && !rest.isEmpty())
+        option.target = rest.takeFirst();
+    if (option.target.isEmpty()) {
+        return Failure{QStringLiteral("A %1 kapcsoló után hiányzik a %2.").arg(name, QString::fromUtf8(option.value))};
+    }
+    return true;
+}
+
 std::variant<Request, Failure> request_of(QStringList arguments) {
-    const QString freedict = QStringLiteral("--freedict");
     Request request;
+    const Option options[] = {
+        {"--freedict", "mappa", request.sources.freedict},     {"--wordnet", "mappa", request.sources.wordnet},
+        {"--scowl", "mappa", request.sources.scowl},           {"--hunspell", "mappa", request.sources.hunspell},
+        {"--supplement", "mappa", request.sources.supplement}, {"--explain", "szó", request.explained}};
     while (!arguments.isEmpty()) {
         const QString argument = arguments.takeFirst();
         if (argument == u"--help" || argument == u"-h") {
             request.help = true;
             return request;
         }
-        if (argument == freedict || argument.startsWith(freedict + u'=')) {
-            request.freedict_folder = argument.sliced(freedict.size()).mid(1);
-            if (argument == freedict && !arguments.isEmpty())
-                request.freedict_folder = arguments.takeFirst();
-            if (request.freedict_folder.isEmpty())
-                return Failure{QStringLiteral("A --freedict kapcsoló után hiányzik a mappa.")};
-        } else if (argument.startsWith(u'-')) {
-            return Failure{QStringLiteral("Ismeretlen kapcsoló: „%1”.").arg(argument)};
-        } else if (!request.output_folder.isEmpty()) {
-            return Failure{QStringLiteral("Csak egy kimeneti mappa adható meg, fölösleges: „%1”.").arg(argument)};
-        } else {
-            request.output_folder = argument;
+        bool is_option = argument == u"--mends";
+        request.mends = request.mends || is_option;
+        for (const Option &option : options) {
+            const auto result = taken(option, argument, arguments);
+            if (const auto *failure = std::get_if<Failure>(&result))
+                return *failure;
+            is_option = is_option || std::get<bool>(result);
         }
+        if (is_option)
+            continue;
+        if (argument.startsWith(u'-'))
+            return Failure{QStringLiteral("Ismeretlen kapcsoló: „%1”.").arg(argument)};
+        if (!request.output_folder.isEmpty())
+            return Failure{QStringLiteral("Csak egy kimeneti mappa adható meg, fölösleges: „%1”.").arg(argument)};
+        request.output_folder = argument;
     }
-    if (request.output_folder.isEmpty())
+    if (request.output_folder.isEmpty() && request.explained.isEmpty() && !request.mends)
         return Failure{QStringLiteral("Hiányzik a kimeneti mappa.")};
     return request;
 }
@@ -92,10 +137,34 @@ class ProgressBar final {
     bool open_ = false;
 };
 
+QString counts_line(const freedict::Imported &one) {
+    return QStringLiteral("%1 (%2 szótár): %3 szócikkből és %4 jelentésből %5 szócikk és %6 jelentés lett.\n")
+        .arg(one.dictionary.file, one.dictionary.title, QString::number(one.read.entries),
+             QString::number(one.read.meanings), QString::number(one.written.entries),
+             QString::number(one.written.meanings));
+}
+
+/// What the difference consists of; empty when nothing was changed.
+QString changes_line(const freedict::Imported &one) {
+    const std::pair<const char *, qsizetype> changes[] = {
+        {"új szócikk", one.added.entries},         {"új jelentés", one.added.meanings},
+        {"összevont szócikk", one.joined.entries}, {"kétszer álló jelentés", one.joined.meanings},
+        {"javított elírás", one.mended},           {"nagybetűs lett", one.capitals},
+        {"igétől kölcsönzött jelentés", one.lent},
+    };
+    QStringList parts;
+    for (const auto &[what, count] : changes) {
+        if (count != 0)
+            parts.append(QString::number(count) + u' ' + QString::fromUtf8(what));
+    }
+    return parts.isEmpty() ? QString()
+                           : QStringLiteral("%1: %2.\n").arg(one.dictionary.file, parts.join(QStringLiteral(", ")));
+}
+
 int run(const Request &request) {
     ProgressBar bar;
     const auto result = freedict::import_dictionaries(
-        request.freedict_folder, request.output_folder,
+        request.sources, request.output_folder,
         [&](const freedict::Dictionary &dictionary, int percent) { bar.show(dictionary, percent); });
     bar.leave();
     const auto *imported = std::get_if<QVector<freedict::Imported>>(&result);
@@ -104,12 +173,19 @@ int run(const Request &request) {
         return failed;
     }
     QTextStream out(stdout);
-    for (const auto &one : *imported) {
-        out << QStringLiteral("%1 (%2 szótár): %3 szócikkből és %4 jelentésből %5 szócikk és %6 jelentés lett.\n")
-                   .arg(one.dictionary.file, one.dictionary.title, QString::number(one.read.entries),
-                        QString::number(one.read.meanings), QString::number(one.written.entries),
-                        QString::number(one.written.meanings));
+    for (const auto &one : *imported)
+        out << counts_line(one);
+    for (const auto &one : *imported)
+        out << changes_line(one);
+    return done;
+}
+
+int print(const std::variant<QString, Failure> &text) {
+    if (const auto *failure = std::get_if<Failure>(&text)) {
+        QTextStream(stderr) << failure->sentence << Qt::endl;
+        return failed;
     }
+    QTextStream(stdout) << std::get<QString>(text);
     return done;
 }
 
@@ -130,5 +206,9 @@ int main(int count, char *values[]) {
         QTextStream(stdout) << QString::fromUtf8(usage);
         return done;
     }
+    if (!request->explained.isEmpty())
+        return print(freedict::explanation(request->sources, request->explained));
+    if (request->mends)
+        return print(freedict::list_of_mends(request->sources));
     return run(*request);
 }

@@ -8,6 +8,7 @@ build_packages=(
     pkg-config libxcb1-dev libxcb-xfixes0-dev libcups2-dev
     libasound2-dev libsdl2-mixer-dev timgm6mb-soundfont
     fonts-liberation2 dict-freedict-eng-hun dict-freedict-hun-eng
+    libhunspell-dev hunspell-en-gb hunspell-en-us hunspell-hu wordnet-base scowl
     sox abcmidi
 )
 # What a virtual display takes.

@@ -63,6 +63,16 @@ FileContent notice_of(const Package &package, const Dictionary &dictionary) {
 
 }  // namespace
 
+QVector<Entry> mended_entries(const Package &package, const Dictionary &dictionary) {
+    QVector<Entry> entries = package.entries;
+    for (Entry &entry : entries) {
+        entry.headword = without_colon(mended(entry.headword, dictionary));
+        for (QString &meaning : entry.meanings)
+            meaning = mended(meaning, dictionary);
+    }
+    return entries;
+}
+
 FileContent dictionary_text(const Package &package, const Dictionary &dictionary, const Steps &steps) {
     FileContent notice = notice_of(package, dictionary);
     if (std::holds_alternative<Failure>(notice))
@@ -85,9 +95,9 @@ FileContent dictionary_text(const Package &package, const Dictionary &dictionary
     return text;
 }
 
-Counts counts_of(const Package &package) {
-    Counts counts{.entries = package.entries.size()};
-    for (const Entry &entry : package.entries)
+Counts counts_of(const QVector<Entry> &entries) {
+    Counts counts{.entries = entries.size()};
+    for (const Entry &entry : entries)
         counts.meanings += entry.meanings.size();
     return counts;
 }
@@ -103,7 +113,7 @@ Counts counts_in(QByteArrayView text) {
 }
 
 std::optional<Failure> difference(const Package &package, const Counts &written) {
-    const Counts read = counts_of(package);
+    const Counts read = counts_of(package.entries);
     if (written.entries != package.stated_headwords) {
         return Failure{
             QStringLiteral("A(z) „%1” leírása szerint %2 címszava van, de %3 szócikke írható ki.")

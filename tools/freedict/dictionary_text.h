@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "freedict/freedict_package.h"
+#include "freedict/words_of.h"
 #include "platform/files.h"
 
 // The program's dictionary file: text in windows-1250, one line an entry, every line ended by CR LF:
@@ -26,13 +27,19 @@ struct Dictionary {
     QStringView package;
     QStringView file;
     QStringView title;
+    /// The language of the headwords.
+    Language language = Language::english;
     /// The package writes û and ô, which Hungarian does not have, for ű and ő.
     bool circumflex_is_double_acute = false;
 };
 
-inline constexpr Dictionary english_hungarian{u"freedict-eng-hun", u"am.txt", u"angol–magyar", true};
-inline constexpr Dictionary hungarian_english{u"freedict-hun-eng", u"ma.txt", u"magyar–angol", false};
+inline constexpr Dictionary english_hungarian{u"freedict-eng-hun", u"am.txt", u"angol–magyar", Language::english, true};
+inline constexpr Dictionary hungarian_english{u"freedict-hun-eng", u"ma.txt", u"magyar–angol", Language::hungarian,
+                                              false};
 inline constexpr std::array dictionaries{english_hungarian, hungarian_english};
+
+/// The package's entries with the letters mended as dictionary_text() does.
+[[nodiscard]] QVector<Entry> mended_entries(const Package &package, const Dictionary &dictionary);
 
 /// The file's bytes, with these mends of the package's entries: û, ô become ű, ő where they stand for them, the grave
 /// accent ` becomes an apostrophe, and a ":" in a headword becomes " –". A failure that names the entry when one cannot
@@ -47,8 +54,8 @@ struct Counts {
     friend bool operator==(const Counts &, const Counts &) = default;
 };
 
-/// How much the package holds.
-[[nodiscard]] Counts counts_of(const Package &package);
+/// How much entries hold.
+[[nodiscard]] Counts counts_of(const QVector<Entry> &entries);
 
 /// How much the bytes of a dictionary file hold.
 [[nodiscard]] Counts counts_in(QByteArrayView text);

@@ -25,12 +25,14 @@ bool is_meaningful(const QString &text) {
     });
 }
 
-/// The headword of an entry's first line; empty when the line has no headword or no pronunciation.
-QString headword_of(const QString &line) {
+/// The headword and the pronunciation of an entry's first line; empty when one of them is not there.
+std::pair<QString, QString> taken_apart(const QString &line) {
     if (!line.endsWith(u'/'))
         return {};
     const qsizetype pronunciation = QStringView(line).chopped(1).lastIndexOf(u" /");
-    return line.left(std::max<qsizetype>(pronunciation, 0));
+    if (pronunciation < 0)
+        return {};
+    return {line.left(pronunciation), line.sliced(pronunciation + 2).chopped(1)};
 }
 
 /// Takes the numbers off an entry's meanings; false when they are not 1, 2, 3, …
@@ -50,12 +52,12 @@ std::optional<Entry> entry_of(QByteArrayView definition) {
         return std::nullopt;
     text->chop(1);
     QStringList meanings = text->split(u'\n');
-    const QString headword = headword_of(meanings.takeFirst());
+    const auto [headword, pronunciation] = taken_apart(meanings.takeFirst());
     if (meanings.size() > 1 && !take_numbers_off(meanings))
         return std::nullopt;
     if (meanings.isEmpty() || !is_meaningful(headword) || !std::all_of(meanings.begin(), meanings.end(), is_meaningful))
         return std::nullopt;
-    return Entry{headword, meanings};
+    return Entry{headword, meanings, pronunciation};
 }
 
 bool names_licence(const QString &text) {

@@ -33,6 +33,12 @@ namespace freedict {
 struct Entry {
     QString headword;
     QStringList meanings;
+    /// In the international phonetic alphabet, as the package has it; empty for an entry of another origin.
+    QString pronunciation{};
+    /// How many meanings stand in front whatever their score; a package says so of none.
+    qsizetype fixed = 0;
+    /// How many behind them stand in front of the others, by their score.
+    qsizetype led = 0;
 
     friend bool operator==(const Entry &, const Entry &) = default;
 };
