@@ -115,7 +115,8 @@ void képbe(PictureBox &hova, const QString &szöveg) {
         kész = sorokban(látszó, hely, std::max(egy_sorban, legkisebb_pont), olvasható_pont, próba);
     hova.setFont(próba.betű(kész.pont));
     const QSizeF végső = PictureBox::text_size(kész.sorok, hova.font());
-    const bool csupa_nagybetű = látszó == látszó.toUpper();
+    // A line of letters without descenders looks centred then; one of several would lose its feet.
+    const bool csupa_nagybetű = kész.sorok == kész.sorok.toUpper() && !kész.sorok.contains(u'\n');
     const double közép = csupa_nagybetű ? hely.height() * 0.6 : hely.height() / 2;
     hova.print({hely.width() / 2 - végső.width() / 2, közép - végső.height() / 2}, kész.sorok);
     hova.setProperty("tag", kiírt);
