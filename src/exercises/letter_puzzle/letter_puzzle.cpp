@@ -5,18 +5,34 @@ using namespace Qt::StringLiterals;
 kirakójáték::kirakójáték(const QVector<szópár> &szavak, RandomNumbers &véletlen)
     : sor_(szavak, véletlen), véletlen_(véletlen) {}
 
+void kirakójáték::újrakezd() {
+    sor_.újrakezd();
+    kérdezett_ = false;
+}
+
 bool kirakójáték::következő(irány merre) {
+    hosszúak_ = 0;
     do {
         if (sor_.végére_ért())
             return false;
         véletlen_.reseed();
         aktuális_ = sor_.kihúz();
-    } while (pár().angol.isEmpty() || pár().magyar.isEmpty());
+    } while (!kérdez(merre));
+    kérdezett_ = true;
+    return true;
+}
+
+bool kirakójáték::kérdez(irány merre) {
+    if (pár().angol.isEmpty() || pár().magyar.isEmpty())
+        return false;
     nyelv_ = kérdés_nyelve(merre, véletlen_);
     megoldás_.szövegnyelv(nyelv_ == kérdésnyelv::magyar ? kszöveg::angol : kszöveg::magyar);
     megoldás_.value(sor_.megoldás(aktuális_, nyelv_));
     megoldás_.csere(u" "_s, u"_"_s);
-    return true;
+    if (megoldás_.MAGYARBETŰKSZÁMA() <= legtöbb_betű)
+        return true;
+    ++hosszúak_;
+    return false;
 }
 
 QStringList kirakójáték::betűk() const {

@@ -11,11 +11,11 @@
 #include <QRadioButton>
 #include <QStringList>
 #include <algorithm>
-#include <utility>
 
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
 #include "ui/window/colour_copy.h"
+#include "ui/window/text_lines.h"
 
 using namespace Qt::StringLiterals;
 
@@ -89,82 +89,14 @@ QString látható(const QString &felirat) {
     return szöveg.replace(u"&&"_s, u"\u0001"_s).remove(u'&').replace(u"\u0001"_s, u"&"_s);
 }
 
-constexpr double legkisebb_pont = 8;
+constexpr int legkisebb_pont = 8;
+constexpr int felirat_legkisebb_pontja = 6;
 /// In a smaller size a line is hard to read from where one sits; a text of several words is broken into lines then.
-constexpr double olvasható_pont = 14;
+constexpr int olvasható_pont = 14;
 /// So is a line that leaves most of a high box empty: one that is lower than this part of it.
 constexpr double olvasható_rész = 1.0 / 5;
 /// No picture box holds more letters that could be read.
 constexpr int leghosszabb = 600;
-
-/// Sizes of a text in the type face of fitted texts.
-class Betűpróba final {
-  public:
-    explicit Betűpróba(QFont betű) : betű_(std::move(betű)) { betű_.setFamilies({fonts::times_new_roman}); }
-
-    [[nodiscard]] QFont betű(double pont) {
-        fonts::set_points(betű_, pont);
-        return betű_;
-    }
-    /// In twips.
-    [[nodiscard]] QSizeF méret(double pont, const QString &szöveg) { return PictureBox::text_size(szöveg, betű(pont)); }
-
-  private:
-    QFont betű_;
-};
-
-bool elfér(const QSizeF &szöveg, const QSizeF &hely) {
-    return szöveg.width() < hely.width() && szöveg.height() < hely.height();
-}
-
-/// `szöveg` broken at blanks into lines narrower than `szélesség`; a word that is wider alone is broken inside.
-QString tördelt(const QString &szöveg, double szélesség, double pont, Betűpróba &próba) {
-    const auto befér = [&](const QString &sor) { return próba.méret(pont, sor).width() < szélesség; };
-    QStringList sorok{QString()};
-    for (const QString &szó : szöveg.split(u' ')) {
-        const QString bővebb = sorok.back().isEmpty() ? szó : sorok.back() + u' ' + szó;
-        if (befér(bővebb)) {
-            sorok.back() = bővebb;
-            continue;
-        }
-        if (!sorok.back().isEmpty())
-            sorok.append(QString());
-        if (befér(szó)) {
-            sorok.back() = szó;
-            continue;
-        }
-        for (const QChar betű : szó) {
-            if (!sorok.back().isEmpty() && !befér(sorok.back() + betű))
-                sorok.append(QString());
-            sorok.back() += betű;
-        }
-    }
-    return sorok.join(u'\n');
-}
-
-/// How a text stands in a picture box.
-struct Betördelt {
-    QString sorok;
-    double pont;
-};
-
-/// The text in lines, in the largest size in which all of them fit; a word is broken only where the letters would be
-/// too small to read otherwise.
-Betördelt sorokban(const QString &szöveg, const QSizeF &hely, double legalább, Betűpróba &próba) {
-    const QStringList szavak = szöveg.split(u' ');
-    const auto törés_nélkül = [&](double pont) {
-        return std::all_of(szavak.cbegin(), szavak.cend(),
-                           [&](const QString &szó) { return próba.méret(pont, szó).width() < hely.width(); });
-    };
-    Betördelt eddig{tördelt(szöveg, hely.width(), legalább, próba), legalább};
-    for (double pont = legalább + 1; pont <= olvasható_pont || törés_nélkül(pont); ++pont) {
-        const QString sorok = tördelt(szöveg, hely.width(), pont, próba);
-        if (!elfér(próba.méret(pont, sorok), hely))
-            break;
-        eddig = {sorok, pont};
-    }
-    return eddig;
-}
 
 QString rövidített(const QString &szöveg) {
     return szöveg.size() > leghosszabb ? szöveg.left(leghosszabb) + u'…' : szöveg;
@@ -175,17 +107,16 @@ void képbe(PictureBox &hova, const QString &szöveg) {
     const QString kiírt = szöveg.isEmpty() ? u"Kéne írni ide valamit!"_s : szöveg;
     const QString látszó = rövidített(kiírt);
     const QSizeF hely = hova.inner_size();
-    Betűpróba próba(hova.font());
-    double pont = legkisebb_pont;
-    while (elfér(próba.méret(pont, látszó), hely))
-        ++pont;
-    Betördelt kész{látszó, pont - 1};
-    const double olvasható = std::max(olvasható_pont, hely.height() / twips::per_point * olvasható_rész);
-    if (kész.pont < olvasható && (látszó.contains(u' ') || kész.pont < legkisebb_pont))
-        kész = sorokban(látszó, hely, std::max(kész.pont, legkisebb_pont), próba);
+    const Betűpróba próba(hova.font());
+    const int egy_sorban = próba.legnagyobb(látszó, hely, legkisebb_pont);
+    Betördelt kész{látszó, static_cast<double>(egy_sorban)};
+    const double olvasható = std::max<double>(olvasható_pont, hely.height() / twips::per_point * olvasható_rész);
+    if (egy_sorban < olvasható && (látszó.contains(u' ') || egy_sorban < legkisebb_pont))
+        kész = sorokban(látszó, hely, std::max(egy_sorban, legkisebb_pont), olvasható_pont, próba);
     hova.setFont(próba.betű(kész.pont));
     const QSizeF végső = PictureBox::text_size(kész.sorok, hova.font());
-    const bool csupa_nagybetű = látszó == látszó.toUpper();
+    // A line of letters without descenders looks centred then; one of several would lose its feet.
+    const bool csupa_nagybetű = kész.sorok == kész.sorok.toUpper() && !kész.sorok.contains(u'\n');
     const double közép = csupa_nagybetű ? hely.height() * 0.6 : hely.height() / 2;
     hova.print({hely.width() / 2 - végső.width() / 2, közép - végső.height() / 2}, kész.sorok);
     hova.setProperty("tag", kiírt);
@@ -194,11 +125,8 @@ void képbe(PictureBox &hova, const QString &szöveg) {
 void feliratba(QWidget &hova, const QString &szöveg) {
     const QString kiírt = szöveg.isEmpty() ? felirat(hova) : szöveg;
     const QSizeF hely(twips::from_pixels(0.9 * hova.width()), twips::from_pixels(0.9 * hova.height()));
-    Betűpróba próba(hova.font());
-    double pont = 6;
-    while (elfér(próba.méret(pont, látható(kiírt)), hely))
-        ++pont;
-    hova.setFont(próba.betű(pont));
+    const Betűpróba próba(hova.font());
+    hova.setFont(próba.betű(próba.legnagyobb(látható(kiírt), hely, felirat_legkisebb_pontja) + 1));
     feliratbeállít(hova, kiírt);
 }
 
@@ -264,9 +192,9 @@ void Module_hasznos::szövegbeigazít(QWidget &hova, const QString &szöveg) {
 }
 
 QString Module_hasznos::sorokra(const PictureBox &hova, const QString &szöveg, double pont) {
-    Betűpróba próba(hova.font());
+    const Betűpróba próba(hova.font());
     const QSizeF hely = hova.inner_size();
-    QStringList sorok = tördelt(rövidített(szöveg), hely.width(), pont, próba).split(u'\n');
+    QStringList sorok = tördelt(rövidített(szöveg), hely.width(), pont, próba);
     const auto elférő =
         std::max<qsizetype>(1, static_cast<qsizetype>(hely.height() / próba.méret(pont, szöveg).height()));
     if (sorok.size() > elférő) {

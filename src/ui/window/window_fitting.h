@@ -36,10 +36,10 @@ class Module_hasznos final {
     /// Writes `szöveg` into a control in the largest font that fits.
     ///
     /// A picture box has it printed in its middle, in the last size at which it fits, and keeps it as its property
-    /// "tag"; an empty text becomes a reminder, a text without small letters stands a little lower, and one of several
-    /// words that would come out smaller than 14 points, or than a fifth of the box, is broken into lines. A label or
-    /// button takes it, or its own caption when it is empty, in the first size in which it reaches 90 % of the
-    /// control's width or height.
+    /// "tag"; an empty text becomes a reminder, a line without small letters stands a little lower, and a text of
+    /// several words that would come out smaller than 14 points, or than a fifth of the box, is broken into lines. A
+    /// label or button takes it, or its own caption when it is empty, in the first size in which it reaches 90 % of
+    /// the control's width or height.
     static void szövegbeigazít(QWidget &hova, const QString &szöveg);
     /// `szöveg`, broken into lines where it is wider than a picture box in letters of `pont` points; "…" ends what is
     /// longer than the box is high.

@@ -261,6 +261,42 @@ TEST_F(LetterPuzzle, ends_when_all_pairs_lack_a_side) {
     EXPECT_FALSE(puzzle.következő(irány::változó));
 }
 
+TEST_F(LetterPuzzle, asks_for_two_hundred_letters_and_passes_over_more) {
+    // A Hungarian letter may have several characters.
+    kirakójáték whole({{u"ox"_s, u"sz"_s.repeated(200)}}, random_);
+    ASSERT_TRUE(whole.következő(irány::angolról));
+    EXPECT_EQ(whole.betűk().size(), 200);
+    EXPECT_EQ(whole.hosszúak(), 0);
+    EXPECT_FALSE(whole.semmi_kérdezhető());
+
+    kirakójáték longer({{u"ox"_s, QString(201, u'a')}, {QString(30000, u'x'), u"hal"_s}}, random_);
+    QStringList asked;
+    int passed_over = 0;
+    while (longer.következő(irány::angolról)) {
+        asked.append(longer.megoldás().value());
+        passed_over += longer.hosszúak();
+    }
+    passed_over += longer.hosszúak();
+    EXPECT_EQ(asked, QStringList(u"hal"_s));
+    EXPECT_EQ(passed_over, 1);
+}
+
+TEST_F(LetterPuzzle, knows_when_there_are_pairs_but_none_to_ask) {
+    kirakójáték one_sided(pairs_of({{u"", u"semmi"}, {u"cat", u""}}), random_);
+    EXPECT_FALSE(one_sided.következő(irány::változó));
+    EXPECT_TRUE(one_sided.semmi_kérdezhető());
+    EXPECT_EQ(one_sided.hosszúak(), 0);
+
+    kirakójáték none({}, random_);
+    EXPECT_FALSE(none.következő(irány::változó));
+    EXPECT_FALSE(none.semmi_kérdezhető());
+
+    kirakójáték some(numbered_pairs(1), random_);
+    EXPECT_TRUE(some.következő(irány::változó));
+    EXPECT_FALSE(some.következő(irány::változó));
+    EXPECT_FALSE(some.semmi_kérdezhető());
+}
+
 TEST_F(LetterPuzzle, counts_with_a_leading_blank_before_each_number) {
     kirakójáték puzzle(numbered_pairs(12), random_);
     QStringList counters;

@@ -172,6 +172,19 @@ TEST_F(TextFitting, draws_a_text_of_capitals_lower) {
     EXPECT_NEAR(box_.printed_area().center().y(), box_.inner_size().height() * 0.6, 1);
 }
 
+TEST_F(TextFitting, centres_capitals_and_digits_that_are_broken_into_lines) {
+    box_.resize(430, 180);
+    for (const QString &text :
+         {u"EGYESÜLT NEMZETEK SZERVEZETE, ENSZ"_s, u"1222 1456 1526 1686 1703 1848 1867 1918"_s}) {
+        Module_hasznos::szövegbeigazít(box_, text);
+
+        const QSizeF one_line = size_at(fonts::points(box_.font()), text);
+        ASSERT_GT(box_.printed_area().height(), one_line.height());
+        EXPECT_NEAR(box_.printed_area().center().y(), box_.inner_size().height() / 2, 1);
+        EXPECT_LE(box_.printed_area().bottom(), box_.inner_size().height());
+    }
+}
+
 TEST_F(TextFitting, reminds_of_a_missing_text) {
     Module_hasznos::szövegbeigazít(box_, QString());
 

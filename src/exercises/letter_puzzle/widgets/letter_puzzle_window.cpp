@@ -87,10 +87,24 @@ void frm_kirakó::újrakezd() {
 
 void frm_kirakó::következő() {
     vége_ = !játék_.következő(beállító_.get().merre());
-    if (vége_) {
+    if (!vége_)
+        kérdez();
+    kihagyottakat_mond();
+    if (vége_)
         close();
-        return;
-    }
+}
+
+void frm_kirakó::kihagyottakat_mond() {
+    const int hosszúak = játék_.hosszúak();
+    if (hosszúak > 0)
+        k_.üzenetmutat(üzenetidő, {hosszúak == 1 ? u"Egy szó kimaradt,"_s : u"%1 szó kimaradt,"_s.arg(hosszúak),
+                                   u"mert %1 betűnél hosszabb."_s.arg(kirakójáték::legtöbb_betű)});
+    else if (játék_.semmi_kérdezhető())
+        k_.üzenetmutat(üzenetidő,
+                       {u"Sajnos ehhez a játékhoz"_s, u"olyan szópár kell,"_s, u"amelynek mindkét oldala megvan!"_s});
+}
+
+void frm_kirakó::kérdez() {
     Module_hasznos::szövegbeigazít(*pic_feladvány_, játék_.kérdés());
     pic_feladvány_->setAccessibleDescription(játék_.kérdés());
     const bool magyarul = játék_.kérdésnyelve() == kérdésnyelv::angol;

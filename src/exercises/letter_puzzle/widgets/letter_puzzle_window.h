@@ -30,8 +30,10 @@ class frm_kirakó final : public ablak {
     void elhelyezés();
     void elrendez();
     void újrakezd();
-    /// Asks the next pair; without one the window closes.
+    /// Asks the next pair; without one the window closes. What was passed over is told when the question stands.
     void következő();
+    void kérdez();
+    void kihagyottakat_mond();
     void betűket_rak();
     /// Moves the tiles to where they lie; Tab goes through them as they lie now, from left to right. Returns the
     /// leftmost; without tiles, the button.

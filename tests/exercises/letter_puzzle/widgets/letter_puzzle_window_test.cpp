@@ -275,9 +275,10 @@ TEST_F(LetterPuzzleWindow, passes_pairs_over_that_lack_a_side) {
     EXPECT_EQ(messages_.size(), 1);
 }
 
-TEST_F(LetterPuzzleWindow, closes_at_once_when_no_pair_has_both_sides) {
+TEST_F(LetterPuzzleWindow, closes_at_once_and_says_why_when_no_pair_has_both_sides) {
     const QVector<szópár> lists[] = {{{u"nothing"_s, QString()}, {QString(), u"semmi"_s}}, {}};
     for (const QVector<szópár> &pairs : lists) {
+        messages_.clear();
         load(pairs);
 
         window_->mutatmodálisan();
@@ -285,8 +286,40 @@ TEST_F(LetterPuzzleWindow, closes_at_once_when_no_pair_has_both_sides) {
         EXPECT_FALSE(window_->isVisible());
         EXPECT_FALSE(window_->windowHandle() && window_->windowHandle()->isVisible());
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-        EXPECT_TRUE(messages_.isEmpty());
+        ASSERT_EQ(messages_.size(), pairs.isEmpty() ? 0 : 1);
     }
+    load(lists[0]);
+    EXPECT_EQ(messages_.back().lines, QStringList({u"Sajnos ehhez a játékhoz"_s, u"olyan szópár kell,"_s,
+                                                   u"amelynek mindkét oldala megvan!"_s}));
+}
+
+TEST_F(LetterPuzzleWindow, passes_answers_over_that_are_too_long_and_tells_so) {
+    start({{QString(30000, u'x'), u"hosszú"_s}, {QString(201, u'y'), u"ez is"_s}, {u"grape"_s, u"szőlő"_s}});
+
+    EXPECT_EQ(question(), u"szőlő"_s);
+    answer_rightly();
+
+    EXPECT_FALSE(window_->isVisible());
+    int passed_over = 0;
+    for (const Message &one : messages_) {
+        if (one.lines.front() == u"Egy szó kimaradt,"_s)
+            ++passed_over;
+        if (one.lines.front() == u"2 szó kimaradt,"_s)
+            passed_over += 2;
+    }
+    EXPECT_EQ(passed_over, 2);
+    EXPECT_LE(messages_.size(), 3);
+}
+
+TEST_F(LetterPuzzleWindow, closes_and_tells_so_when_every_answer_is_too_long) {
+    load({{QString(30000, u'x'), u"hosszú"_s}});
+
+    window_->mutatmodálisan();
+
+    EXPECT_FALSE(window_->isVisible());
+    ASSERT_EQ(messages_.size(), 1);
+    EXPECT_EQ(messages_[0].milliseconds, 2000);
+    EXPECT_EQ(messages_[0].lines, QStringList({u"Egy szó kimaradt,"_s, u"mert 200 betűnél hosszabb."_s}));
 }
 
 TEST_F(LetterPuzzleWindow, ends_its_modal_display_with_escape_menu_and_frame) {
