@@ -1,15 +1,27 @@
 #include "ui/controls/choosable_picture.h"
 
 #include <QApplication>
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
+#include <algorithm>
+#include <chrono>
+
+#include "ui/drawing/fonts.h"
 
 namespace {
 
 constexpr int frame_width = 1;
 constexpr int focused_frame_width = 4;
+constexpr int room_for_frame = focused_frame_width + frame_width;
+/// Of the picture's height.
+constexpr double hint_height = 0.5;
+constexpr std::chrono::milliseconds warning_time(600);
+constexpr QColor warning_colour(0xd0, 0x20, 0x20);
+constexpr QColor hint_colour(0x60, 0x60, 0x60);
 
 }  // namespace
 
@@ -17,6 +29,26 @@ ChoosablePicture::ChoosablePicture(QWidget *parent) : PictureBox(parent) {
     setFocusPolicy(Qt::StrongFocus);
     // A move without the button tells that it was let go unseen.
     setMouseTracking(true);
+    warning_.setSingleShot(true);
+    connect(&warning_, &QTimer::timeout, this, [this] { update(); });
+}
+
+void ChoosablePicture::reserve_frame(const QString &hint) {
+    hint_ = hint;
+    const int room = hint.isEmpty() ? 0 : qCeil(QFontMetricsF(hint_font()).horizontalAdvance(hint) * 2);
+    // Above and below, lines have some room of their own.
+    setContentsMargins(room_for_frame + room, focused_frame_width, room_for_frame, focused_frame_width);
+    update();
+}
+
+void ChoosablePicture::warn() {
+    warning_.start(warning_time);
+    update();
+}
+
+void ChoosablePicture::end_warning() {
+    warning_.stop();
+    update();
 }
 
 void ChoosablePicture::set_drag_mode(DragMode mode) {
@@ -116,11 +148,16 @@ void ChoosablePicture::focusOutEvent(QFocusEvent *event) {
 void ChoosablePicture::paintEvent(QPaintEvent *event) {
     PictureBox::paintEvent(event);
     QPainter painter(this);
+    draw_hint(painter);
     const auto draw_frame = [&](const QColor &colour, double inset, double width) {
         const double middle = inset + width / 2;
         painter.setPen(QPen(colour, width));
         painter.drawRect(QRectF(rect()).adjusted(middle, middle, -middle, -middle));
     };
+    if (warning_.isActive()) {
+        draw_frame(warning_colour, 0, focused_frame_width);
+        return;
+    }
     if (!hasFocus()) {
         draw_frame(palette().color(QPalette::Mid), 0, frame_width);
         return;
@@ -128,4 +165,19 @@ void ChoosablePicture::paintEvent(QPaintEvent *event) {
     // Two colours, so that one of them stands out from any picture.
     draw_frame(palette().color(QPalette::Highlight), 0, focused_frame_width);
     draw_frame(Qt::white, focused_frame_width, frame_width);
+}
+
+QFont ChoosablePicture::hint_font() const {
+    QFont font(QStringList{fonts::times_new_roman});
+    font.setPixelSize(std::max(1, qRound(height() * hint_height)));
+    return font;
+}
+
+void ChoosablePicture::draw_hint(QPainter &painter) const {
+    if (hint_.isEmpty())
+        return;
+    painter.setFont(hint_font());
+    painter.setPen(hint_colour);
+    const QRect place(room_for_frame, 0, contentsRect().left() - room_for_frame, height());
+    painter.drawText(place, static_cast<int>(Qt::AlignCenter), hint_);
 }

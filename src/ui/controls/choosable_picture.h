@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPoint>
 #include <QPointer>
+#include <QTimer>
 
 #include "ui/controls/picture_box.h"
 
@@ -21,6 +22,13 @@ class ChoosablePicture : public PictureBox {
     /// Automatic: the mouse drags, and a click does nothing. Manual: a click chooses. The space key chooses always.
     void set_drag_mode(DragMode mode);
     [[nodiscard]] DragMode drag_mode() const { return drag_mode_; }
+
+    /// Keeps what is printed from now on clear of the frame, and of `hint`, which stands at its left side.
+    void reserve_frame(const QString &hint = {});
+
+    /// Shows its frame in red for a moment.
+    void warn();
+    void end_warning();
 
     /// Lets a press or drag that is under way come to nothing; so does the escape key.
     void end_drag();
@@ -42,7 +50,13 @@ class ChoosablePicture : public PictureBox {
     void paintEvent(QPaintEvent *event) override;
 
   private:
+    [[nodiscard]] QFont hint_font() const;
+    void draw_hint(QPainter &painter) const;
+
     DragMode drag_mode_ = DragMode::manual;
+    QString hint_;
+    /// Runs while the frame is red.
+    QTimer warning_;
     /// Where the left button went down; nothing when it is up.
     bool pressed_ = false;
     QPoint grip_;

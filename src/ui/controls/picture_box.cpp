@@ -32,7 +32,7 @@ void PictureBox::set_picture(const QPixmap &picture) {
 }
 
 QSizeF PictureBox::inner_size() const {
-    return {twips::from_pixels(width()), twips::from_pixels(height())};
+    return QSizeF(contentsRect().size()) * twips::per_pixel;
 }
 
 QSizeF PictureBox::text_size(const QString &text, const QFont &font) {
@@ -70,6 +70,7 @@ void PictureBox::paintEvent(QPaintEvent *) {
         else
             painter.drawPixmap(rect(), picture_);
     }
+    painter.translate(contentsRect().topLeft());
     for (const Printed &one : printed_) {
         painter.setFont(one.font);
         const QFontMetricsF metrics(one.font);

@@ -9,7 +9,8 @@
 #include <vector>
 
 /// A picture box: a surface with a picture, on which texts are printed in its current font and stay until it is
-/// cleared. Lengths are twips of its own; nothing printed depends on the resolution it is shown in.
+/// cleared. Lengths are twips of its own; nothing printed depends on the resolution it is shown in. Printed texts lie
+/// on its inner surface, which the widget's contents margins leave.
 class PictureBox : public QWidget {
   public:
     explicit PictureBox(QWidget *parent = nullptr);

@@ -184,14 +184,14 @@ TEST(LetterTilesOfManyLetters, larger_than_the_frame_lie_at_its_corner) {
 }
 
 TEST(LetterTilesOfManyLetters, longer_than_the_frame_close_up_from_side_to_side_and_cover_each_other) {
-    // Three hundred in 250.
-    constexpr QSizeF frame(250, 600);
+    // Three hundred in 250, and no room for a second row.
+    constexpr QSizeF frame(250, 150);
     SeededRandom random;
     betűlapok tiles(frame);
     tiles.kirak(plain_letters(3), hundred_each, 7, 7, random);
-    tiles.mozgat(0, {150, 400});
-    tiles.mozgat(1, {75, 200});
-    tiles.mozgat(2, {20, 300});
+    tiles.mozgat(0, {150, 50});
+    tiles.mozgat(1, {75, 20});
+    tiles.mozgat(2, {20, 30});
 
     EXPECT_EQ(tiles.kirakott_szó(), u"cba"_s);
 
@@ -199,11 +199,53 @@ TEST(LetterTilesOfManyLetters, longer_than_the_frame_close_up_from_side_to_side_
     const QRectF &first = tiles.lapok()[2].hely;
     const QRectF &second = tiles.lapok()[1].hely;
     const QRectF &third = tiles.lapok()[0].hely;
-    EXPECT_EQ(first.topLeft(), QPointF(0, 300));
+    EXPECT_EQ(first.topLeft(), QPointF(0, 30));
     EXPECT_NEAR(third.right(), 250, rounding);
     EXPECT_TRUE(first.left() < second.left() && second.left() < third.left());
-    EXPECT_EQ(second.top(), 300);
-    EXPECT_EQ(third.top(), 300);
+    EXPECT_EQ(second.top(), 30);
+    EXPECT_EQ(third.top(), 30);
+}
+
+TEST(LetterTilesOfManyLetters, close_up_to_rows_in_the_order_of_reading) {
+    constexpr QSizeF frame(250, 600);
+    SeededRandom random;
+    betűlapok tiles(frame);
+    tiles.kirak(plain_letters(5), hundred_each, 7, 7, random);
+    const QPointF laid[] = {{20, 420}, {130, 350}, {10, 330}, {0, 490}, {140, 310}};
+    for (int i = 0; i < 5; ++i)
+        tiles.mozgat(i, laid[i]);
+
+    EXPECT_EQ(tiles.kirakott_szó(), u"cbead"_s);
+
+    // From the top of the first one on, but no further down than three rows reach.
+    const QPointF closed[] = {{100, 400}, {100, 300}, {0, 300}, {0, 500}, {0, 400}};
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(tiles.lapok()[i].hely.topLeft(), closed[i]) << i;
+    EXPECT_EQ(tiles.kirakott_szó(), u"cbead"_s);
+}
+
+TEST(LetterTilesOfManyLetters, are_as_large_as_rows_allow_with_room_for_the_word_below) {
+    constexpr QSizeF frame(12000, 4500);
+    for (const int count : {50, 86, 200}) {
+        SeededRandom random;
+        betűlapok tiles(frame);
+
+        const int points = tiles.kirak(plain_letters(count), measured, 40, 7, random, 40);
+
+        double lowest = 0;
+        for (const betűlapok::lap &one : tiles.lapok())
+            lowest = std::max(lowest, one.hely.bottom());
+        const double height = measured(u"a"_s, points).height();
+        EXPECT_LE(lowest * 2 + height, frame.height()) << count;
+        const auto in_row = [&](int at) { return static_cast<int>(frame.width() / measured(u"a"_s, at).width()); };
+        const int rows_of_larger = (count + in_row(points + 1) - 1) / in_row(points + 1);
+        EXPECT_TRUE(points == 40 || (2 * rows_of_larger + 1) * measured(u"a"_s, points + 1).height() > frame.height())
+            << count << ' ' << points;
+        // In one row they would have this size.
+        EXPECT_GE(points, 2 * static_cast<int>(frame.width() / count / 18)) << count;
+        expect_no_overlap(tiles);
+        expect_all_inside(tiles, frame);
+    }
 }
 
 TEST(LetterTilesOfManyLetters, longer_than_the_frame_make_the_same_word_when_they_are_closed_up_again) {

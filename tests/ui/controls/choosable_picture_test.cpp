@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QtTest/QTest>
 
+#include "ui/window/window_fitting.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -190,6 +192,57 @@ TEST_F(ChoosablePictureTest, hides_its_ghost_when_its_window_is_left_and_deletes
         release({90, 100});
         EXPECT_EQ(dropped_.count(), 0);
     }
+}
+
+TEST_F(ChoosablePictureTest, keeps_its_text_clear_of_its_frame_and_its_hint) {
+    QApplication::setActiveWindow(&window_);
+    picture_->setFocus();
+    for (const QString &hint : {QString(), u"1"_s}) {
+        picture_->clear();
+        picture_->reserve_frame(hint);
+        const QImage without = picture_->grab().toImage();
+
+        Module_hasznos::szövegbeigazít(*picture_, u"Ágyúgolyó"_s);
+
+        const QImage with = picture_->grab().toImage();
+        QRect changed;
+        for (int y = 0; y < with.height(); ++y) {
+            for (int x = 0; x < with.width(); ++x)
+                changed |= with.pixel(x, y) == without.pixel(x, y) ? QRect() : QRect(x, y, 1, 1);
+        }
+        const QRect inside = picture_->rect().adjusted(hint.isEmpty() ? 5 : 20, 4, -5, -4);
+        EXPECT_FALSE(changed.isEmpty());
+        EXPECT_TRUE(inside.contains(changed)) << changed.left() << ' ' << changed.top() << ' ' << changed.right();
+        EXPECT_EQ(picture_->property("tag").toString(), u"Ágyúgolyó"_s);
+    }
+}
+
+TEST_F(ChoosablePictureTest, shows_its_hint) {
+    const QImage without = picture_->grab().toImage();
+
+    picture_->reserve_frame(u"1"_s);
+    const QImage one = picture_->grab().toImage();
+    picture_->reserve_frame(u"2"_s);
+
+    EXPECT_NE(one, without);
+    EXPECT_NE(picture_->grab().toImage(), one);
+}
+
+TEST_F(ChoosablePictureTest, warns_with_a_red_frame_for_a_moment) {
+    QApplication::setActiveWindow(&window_);
+    picture_->setFocus();
+    const QImage before = picture_->grab().toImage();
+
+    picture_->warn();
+    const QColor frame = picture_->grab().toImage().pixelColor(2, 2);
+    EXPECT_GT(frame.red(), 180);
+    EXPECT_LT(frame.green(), 80);
+    EXPECT_LT(frame.blue(), 80);
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture_->grab().toImage() == before; }));
+    picture_->warn();
+    picture_->end_warning();
+    EXPECT_EQ(picture_->grab().toImage(), before);
 }
 
 }  // namespace

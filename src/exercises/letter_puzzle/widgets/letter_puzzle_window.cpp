@@ -30,7 +30,9 @@ constexpr qint16 üzenetidő = 2000;
 /// Letters in the size that is tried first have this part of the frame's height.
 constexpr double betűmagasság = 0.14;
 constexpr int legkisebb_pont = 7;
-/// Ctrl and an arrow key move a tile by this part of its height.
+/// Smaller letters in one row are hard to read; larger ones in several rows are not.
+constexpr int egy_sor_pontja = 14;
+/// Ctrl and an arrow key move a tile by its own size, with Shift by this part of its height.
 constexpr double lépés = 0.25;
 
 }  // namespace
@@ -122,7 +124,7 @@ void frm_kirakó::betűket_rak() {
         return LetterTile::size_of(betű, betűtípus);
     };
     const int nagy = static_cast<int>(pic_keret_->inner_size().height() * betűmagasság / twips::per_point);
-    fonts::set_points(betűtípus, lapok_.kirak(játék_.betűk(), mér, nagy, legkisebb_pont, k_.véletlen));
+    fonts::set_points(betűtípus, lapok_.kirak(játék_.betűk(), mér, nagy, legkisebb_pont, k_.véletlen, egy_sor_pontja));
     for (int i = 0; i < lapok_.lapok().size(); ++i) {
         auto *lap = new LetterTile(lapok_.lapok()[i].betű, pic_keret_);
         lap->setObjectName(u"Label_betű(%1)"_s.arg(i));
@@ -188,8 +190,24 @@ void frm_kirakó::mnu_fájl_beáll_Click() {
 
 void frm_kirakó::keyPressEvent(QKeyEvent *event) {
     const auto i = static_cast<int>(Label_betű_.indexOf(focusWidget()));
-    if (i < 0 || !nyíl(*event, i))
+    if ((i < 0 || !nyíl(*event, i)) && !gépelés(*event))
         ablak::keyPressEvent(event);
+}
+
+bool frm_kirakó::gépelés(const QKeyEvent &billentyű) {
+    if (billentyű.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier) || billentyű.isAutoRepeat())
+        return false;
+    const bool vissza = billentyű.key() == Qt::Key_Backspace;
+    const QString jel = billentyű.text();
+    if (!vissza && (jel.isEmpty() || !jel.front().isPrint() || jel.front().isSpace()))
+        return false;
+    const int i = vissza ? lapok_.visszavesz() : lapok_.gépel(jel);
+    if (i < 0)
+        return false;
+    lapokat_igazít();
+    Label_betű_[i]->raise();
+    Label_betű_[i]->setFocus();
+    return true;
 }
 
 bool frm_kirakó::nyíl(const QKeyEvent &billentyű, int i) {
@@ -199,7 +217,9 @@ bool frm_kirakó::nyíl(const QKeyEvent &billentyű, int i) {
         return false;
     if (billentyű.modifiers() & Qt::ControlModifier) {
         const QRectF hely = lapok_.lapok()[i].hely;
-        mozgat(i, hely.topLeft() + merre * std::round(lépés * hely.height()));
+        const double finom = std::round(lépés * hely.height());
+        const QSizeF mennyit = billentyű.modifiers() & Qt::ShiftModifier ? QSizeF(finom, finom) : hely.size();
+        mozgat(i, hely.topLeft() + QPointF(merre.x() * mennyit.width(), merre.y() * mennyit.height()));
         return true;
     }
     QVector<QRect> helyek;

@@ -42,6 +42,8 @@ class frm_kirakó final : public ablak {
     void mozgat(int i, const QPointF &hová);
     /// Acts on an arrow key while tile `i` has the focus; true when the key was one.
     bool nyíl(const QKeyEvent &billentyű, int i);
+    /// Takes up the next free tile with the letter that was typed, or puts the last one back; true when there was one.
+    bool gépelés(const QKeyEvent &billentyű);
 
     void Label_betű_MouseDown(const QPointF &hol) { fogás_ = hol.toPoint(); }
     void Label_betű_MouseMove(int i, Qt::MouseButtons gombok, const QPointF &hol);

@@ -121,7 +121,11 @@ void frm_memory::újjáték() {
 }
 
 void frm_memory::infokiír() {
-    Module_hasznos::szövegbeigazít(*Label_info_, játék_.állás());
+    // In the size of the last one: with a digit more, the letters would shrink in the middle of the game.
+    const QString állás = játék_.állás();
+    const QString összes = állás.section(u'/', 1);
+    Module_hasznos::szövegbeigazít(*Label_info_, összes + u'/' + összes);
+    Label_info_->setText(állás);
 }
 
 void frm_memory::lefed(int i) {

@@ -90,6 +90,7 @@ void választás::elhelyezés() {
 void választás::elrendez() {
     k_.közös.hasznos.öltöztet(*this, k_.közös.főablak, 0.9);
     pic_kötőjel_->set_background(k_.közös.főablak.háttérszín());
+    pic_megoldás_->reserve_frame();
     Module_hasznos::szövegbeigazít(*pic_kötőjel_, u"-"_s);
     Module_hasznos::szövegbeigazít(*label_felirat_, QString());
     for (QPushButton *gomb : {cmd_ok_, cmd_kilép_})
@@ -118,6 +119,7 @@ void választás::kínálatot_rak(int darab) {
             QWidget::setTabOrder(pic_kínálat_[k - 1], pic_kínálat_[k]);
         }
         ChoosablePicture *kép = pic_kínálat_[k];
+        kép->reserve_frame(QString::number(k + 1));
         kép->disconnect(this);
         kép->set_drag_mode(húzás);
         connect(kép, &ChoosablePicture::chosen, this, [this, k] { pic_kínálat_Click(k); });
@@ -137,6 +139,7 @@ void választás::következő() {
     Module_hasznos::szövegbeigazít(*pic_feladat_, játék_.kérdés());
     pic_feladat_->setAccessibleDescription(játék_.kérdés());
     keretet_ürít();
+    pic_megoldás_->end_warning();
     Module_hasznos::szövegbeigazít(*Label_info_, játék_.számláló());
     // Where hiding the picked candidate has moved the focus is nobody's choice.
     pic_kínálat_.front()->setFocus();
@@ -146,6 +149,7 @@ void választás::választ(int k) {
     if (játék_.vége() || pic_kínálat_[k]->isHidden())
         return;
     pic_megoldás_Click();
+    pic_megoldás_->end_warning();
     választott_ = k;
     pic_kínálat_[k]->hide();
     Module_hasznos::szövegbeigazít(*pic_megoldás_, játék_.kínálat()[k]);
@@ -192,6 +196,7 @@ void választás::cmd_ok_Click() {
             következő();
             break;
         case választójáték::eredmény::hibás:
+            pic_megoldás_->warn();
             if (választott_ >= 0) {
                 ChoosablePicture *visszatérő = pic_kínálat_[választott_];
                 pic_megoldás_Click();

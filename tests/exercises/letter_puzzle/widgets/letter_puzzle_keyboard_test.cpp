@@ -33,7 +33,7 @@ class LetterPuzzleKeyboard : public LetterPuzzleTest {
             for (int k = 0; tile(i)->x() > 0 && k < 1000; ++k)
                 press_key(Qt::Key_Left, Qt::ControlModifier);
             for (int k = 0; k < i; ++k)
-                press_key(Qt::Key_Right, Qt::ControlModifier);
+                press_key(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
         }
     }
 };
@@ -102,7 +102,25 @@ TEST_F(LetterPuzzleKeyboard, arrows_move_the_focus_up_and_down) {
     EXPECT_TRUE(tile(0)->hasFocus());
 }
 
-TEST_F(LetterPuzzleKeyboard, ctrl_and_arrows_move_the_tile_by_equal_steps_and_keep_the_focus) {
+TEST_F(LetterPuzzleKeyboard, ctrl_and_arrows_move_the_tile_by_its_own_size) {
+    start(2);
+    drag(1, frame()->rect().center());
+    tile(1)->setFocus();
+    const QRect from = tile(1)->geometry();
+
+    press_key(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_NEAR(tile(1)->x(), from.x() + from.width(), 1);
+    EXPECT_EQ(tile(1)->y(), from.y());
+    press_key(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_NEAR(tile(1)->y(), from.y() - from.height(), 1);
+    press_key(Qt::Key_Down, Qt::ControlModifier);
+    press_key(Qt::Key_Left, Qt::ControlModifier);
+
+    EXPECT_EQ(tile(1)->geometry(), from);
+    EXPECT_TRUE(tile(1)->hasFocus());
+}
+
+TEST_F(LetterPuzzleKeyboard, ctrl_shift_and_arrows_move_the_tile_by_small_steps_and_keep_the_focus) {
     start(2);
     drag(1, frame()->rect().center());
     tile(1)->setFocus();
@@ -112,15 +130,15 @@ TEST_F(LetterPuzzleKeyboard, ctrl_and_arrows_move_the_tile_by_equal_steps_and_ke
     others.removeAt(1);
 
     for (int i = 0; i < 4; ++i)
-        press_key(Qt::Key_Right, Qt::ControlModifier);
+        press_key(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_NEAR(tile(1)->x() - from.x(), 4 * step, 1);
     EXPECT_EQ(tile(1)->y(), from.y());
     for (int i = 0; i < 4; ++i)
-        press_key(Qt::Key_Up, Qt::ControlModifier);
+        press_key(Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_NEAR(tile(1)->y() - from.y(), -4 * step, 1);
     for (int i = 0; i < 4; ++i) {
-        press_key(Qt::Key_Left, Qt::ControlModifier);
-        press_key(Qt::Key_Down, Qt::ControlModifier);
+        press_key(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+        press_key(Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
     }
 
     EXPECT_EQ(tile(1)->pos(), from);
@@ -145,6 +163,40 @@ TEST_F(LetterPuzzleKeyboard, ctrl_and_arrows_never_move_a_tile_out_of_the_frame)
             press_key(key, Qt::ControlModifier);
         EXPECT_TRUE(at_the_edge()) << key;
     }
+}
+
+TEST_F(LetterPuzzleKeyboard, typing_takes_the_tiles_up_and_backspace_puts_the_last_one_back) {
+    store("nyelv", 0);
+    start(grape);
+    const QVector<QRect> before = places();
+
+    press_key(Qt::Key_S);
+    EXPECT_TRUE(tile(0)->hasFocus());
+    EXPECT_EQ(tile(0)->x(), 0);
+    press_key(Qt::Key_Backspace);
+    EXPECT_EQ(tile(0)->geometry(), before[0]);
+    press_key(Qt::Key_Q);
+    EXPECT_TRUE(tile(0)->hasFocus());
+
+    QTest::keyClicks(window_->focusWidget(), u"sz"_s);
+    for (const QChar letter : u"őlő"_s) {
+        QKeyEvent typed(QEvent::KeyPress, 0, Qt::NoModifier, letter);
+        QApplication::sendEvent(window_->focusWidget(), &typed);
+    }
+    press_key(Qt::Key_Return);
+
+    EXPECT_EQ(messages_.back().lines, QStringList(u"grape - szőlő"_s));
+}
+
+TEST_F(LetterPuzzleKeyboard, typing_solves_an_answer_that_stands_in_rows) {
+    const QString word = u"antidisestablishmentarianism"_s.repeated(4).left(86);
+    start({{word, u"kérdés"_s}});
+
+    for (const QChar letter : word)
+        QTest::keyClick(window_->focusWidget(), letter.toLatin1());
+    press_key(Qt::Key_Return);
+
+    EXPECT_EQ(messages_.back().lines, QStringList(word + u" - kérdés"_s));
 }
 
 TEST_F(LetterPuzzleKeyboard, space_closes_the_tiles_up_without_checking) {

@@ -403,4 +403,38 @@ TEST_F(MultipleChoicePicking, after_the_result_nothing_is_picked_or_checked_unti
     }
 }
 
+TEST_F(MultipleChoicePicking, wrong_answer_makes_the_frame_red_until_the_next_one) {
+    start();
+    const auto is_red = [this] {
+        const QColor colour = frame()->grab().toImage().pixelColor(2, 2);
+        return colour.red() > 180 && colour.green() < 80;
+    };
+    EXPECT_FALSE(is_red());
+
+    answer_with(wrong());
+    EXPECT_TRUE(is_red());
+    pick(right());
+    EXPECT_FALSE(is_red());
+    check();
+    EXPECT_FALSE(is_red());
+
+    check();
+    EXPECT_TRUE(is_red());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !is_red(); }));
+}
+
+TEST_F(MultipleChoicePicking, candidates_show_their_digits_beside_their_words) {
+    start();
+    for (int k = 0; k < 5; ++k) {
+        EXPECT_TRUE(text(k).startsWith(u"word"_s));
+        const QRect words = candidate(k)->contentsRect();
+        EXPECT_GT(words.left(), candidate(k)->height() / 3);
+        candidate(k)->clear();
+    }
+    const QRect left(6, 6, candidate(1)->contentsRect().left() - 6, candidate(1)->height() - 12);
+
+    // Without their words, the digits are what makes them differ.
+    EXPECT_NE(candidate(1)->grab(left).toImage(), candidate(2)->grab(left).toImage());
+}
+
 }  // namespace
