@@ -121,11 +121,7 @@ void frm_memory::újjáték() {
 }
 
 void frm_memory::infokiír() {
-    // In the size of the last one: with a digit more, the letters would shrink in the middle of the game.
-    const QString állás = játék_.állás();
-    const QString összes = állás.section(u'/', 1);
-    Module_hasznos::szövegbeigazít(*Label_info_, összes + u'/' + összes);
-    Label_info_->setText(állás);
+    Module_hasznos::szövegbeigazít(*Label_info_, játék_.állás());
 }
 
 void frm_memory::lefed(int i) {

@@ -123,22 +123,6 @@ TEST_F(MemoryPlaying, right_pair_disappears_and_counts_whichever_card_is_turned_
     EXPECT_EQ(board().count(u'-'), 4);
 }
 
-TEST_F(MemoryPlaying, counter_keeps_the_size_of_its_letters) {
-    start();
-    const QFont at_the_beginning = control<QLabel>(*window_, "Label_info")->font();
-    bool was_won = false;
-    during_message_ = [&] {
-        was_won = true;
-        EXPECT_EQ(progress(), u"10/10"_s);
-        EXPECT_EQ(control<QLabel>(*window_, "Label_info")->font(), at_the_beginning);
-        expect_whole_caption(*window_, u"Label_info"_s);
-    };
-
-    find_all_pairs();
-
-    EXPECT_TRUE(was_won);
-}
-
 TEST_F(MemoryPlaying, cards_are_turned_as_ever_after_a_found_pair) {
     start();
     find_a_pair();
