@@ -93,8 +93,8 @@ void copy_folder_once(const QDir &installed, const QDir &own, const QString &nam
         unfinished.setAutoRemove(false);
 }
 
-/// Gives the folder `own` its copy of the word lists, once for all time: what the user has changed or deleted, and be it
-/// the whole folder, neither is written over nor comes back. An empty hidden file says that they have been given.
+/// Gives the folder `own` its copy of the word lists, once for all time: what the user has changed or deleted, and be
+/// it the whole folder, neither is written over nor comes back. An empty hidden file says that they have been given.
 void give_word_lists(const QDir &installed, const QDir &own) {
     const QString name = u"szószedetek"_s;
     const QString given = own.filePath(u".szószedetek-megvoltak"_s);
