@@ -20,7 +20,7 @@ const QStringList &patterns(Language language) {
         QStringLiteral(
             "baszik basz baszás baszakod* basztat* megbasz* elbasz* kibasz* lebasz* felbasz* összebasz* átbasz* "
             "baszd baszott bassza* buzi* buzer* buzeráns cigó fasz faszt fasza faszok faszfej* faszság* faszkalap "
-            "faszkarika faszopó fos fosik fosás* fosos geci* gecis kurva kurvá* kurvul* megkúr* lekúr* "
+            "faszkarika faszopó fos fosik fosás* fosos geci* gecis kurva kurvá* kurvul* kúr megkúr* lekúr* "
             "nigger* pina piná* picsa picsá* punci* ribanc* riherongy segg* szajha* "
             "szar szaros* szarik szarás szarok szart szarrágó* szarfészek szarkupac szarság* szarházi* leszar* "
             "beszarik beszari* elszar* kiszar* megszar* összeszar* szarakod* szopat* leszop* faszszopó* "

@@ -34,7 +34,7 @@ std::variant<SpellingDictionary, Failure> SpellingDictionary::read(const QString
             std::make_unique<Hunspell>(QFile::encodeName(base + QStringLiteral(".aff")).constData(),
                                        QFile::encodeName(base + QStringLiteral(".dic")).constData()));
         for (const QByteArray &line : std::get<QByteArray>(words).split('\n')) {
-            const QString word = QString::fromUtf8(line.left(line.indexOf('/')).trimmed());
+            const QString word = QString::fromUtf8(line).section(u'/', 0, 0).trimmed();
             QStringList &spellings = spelling.capitals_[word.toLower()];
             if (word != word.toLower() && !spellings.contains(word))
                 spellings.append(word);

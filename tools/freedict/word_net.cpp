@@ -38,7 +38,8 @@ QString word_from(const QByteArray &lemma) {
 QStringList gloss_words(const QByteArray &gloss) {
     QStringList words;
     QString word;
-    const QByteArray text = gloss.left(gloss.indexOf('"')).toLower() + ' ';
+    const qsizetype examples = gloss.indexOf('"');
+    const QByteArray text = gloss.first(examples < 0 ? gloss.size() : examples).toLower() + ' ';
     for (const char character : text) {
         if (character >= 'a' && character <= 'z') {
             word += QLatin1Char(character);
