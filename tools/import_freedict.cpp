@@ -11,6 +11,8 @@
 #include "freedict/explanation.h"
 #include "freedict/import.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int done = 0;
@@ -41,10 +43,10 @@ const char *const usage =
 
 struct Request {
     bool help = false;
-    freedict::Sources sources{.freedict = QStringLiteral("/usr/share/dictd"),
-                              .wordnet = QStringLiteral("/usr/share/wordnet"),
-                              .scowl = QStringLiteral("/usr/share/dict/scowl"),
-                              .hunspell = QStringLiteral("/usr/share/hunspell")};
+    freedict::Sources sources{.freedict = u"/usr/share/dictd"_s,
+                              .wordnet = u"/usr/share/wordnet"_s,
+                              .scowl = u"/usr/share/dict/scowl"_s,
+                              .hunspell = u"/usr/share/hunspell"_s};
     QString explained;
     bool mends = false;
     QString output_folder;
@@ -66,7 +68,7 @@ std::variant<bool, Failure> taken(const Option &option, const QString &argument,
     if (argument == name && !rest.isEmpty())
         option.target = rest.takeFirst();
     if (option.target.isEmpty()) {
-        return Failure{QStringLiteral("A %1 kapcsoló után hiányzik a %2.").arg(name, QString::fromUtf8(option.value))};
+        return Failure{u"A %1 kapcsoló után hiányzik a %2."_s.arg(name, QString::fromUtf8(option.value))};
     }
     return true;
 }
@@ -94,13 +96,13 @@ std::variant<Request, Failure> request_of(QStringList arguments) {
         if (is_option)
             continue;
         if (argument.startsWith(u'-'))
-            return Failure{QStringLiteral("Ismeretlen kapcsoló: „%1”.").arg(argument)};
+            return Failure{u"Ismeretlen kapcsoló: „%1”."_s.arg(argument)};
         if (!request.output_folder.isEmpty())
-            return Failure{QStringLiteral("Csak egy kimeneti mappa adható meg, fölösleges: „%1”.").arg(argument)};
+            return Failure{u"Csak egy kimeneti mappa adható meg, fölösleges: „%1”."_s.arg(argument)};
         request.output_folder = argument;
     }
     if (request.output_folder.isEmpty() && request.explained.isEmpty() && !request.mends)
-        return Failure{QStringLiteral("Hiányzik a kimeneti mappa.")};
+        return Failure{u"Hiányzik a kimeneti mappa."_s};
     return request;
 }
 
@@ -111,13 +113,12 @@ class ProgressBar final {
     void show(const freedict::Dictionary &dictionary, int percent) {
         if (!is_terminal_) {
             if (percent == 0)
-                out_ << dictionary.title << QStringLiteral(" szótár átalakítása…") << Qt::endl;
+                out_ << dictionary.title << u" szótár átalakítása…"_s << Qt::endl;
             return;
         }
         const int filled = percent * width / 100;
-        out_ << u'\r' << dictionary.title << QStringLiteral(" [") << QString(filled, u'#')
-             << QString(width - filled, u'.') << QStringLiteral("] ") << qSetFieldWidth(3) << percent
-             << qSetFieldWidth(0) << QStringLiteral(" %") << Qt::flush;
+        out_ << u'\r' << dictionary.title << u" ["_s << QString(filled, u'#') << QString(width - filled, u'.')
+             << u"] "_s << qSetFieldWidth(3) << percent << qSetFieldWidth(0) << u" %"_s << Qt::flush;
         open_ = percent < 100;
         if (!open_)
             out_ << Qt::endl;
@@ -138,10 +139,10 @@ class ProgressBar final {
 };
 
 QString counts_line(const freedict::Imported &one) {
-    return QStringLiteral("%1 (%2 szótár): %3 szócikkből és %4 jelentésből %5 szócikk és %6 jelentés lett.\n")
-        .arg(one.dictionary.file, one.dictionary.title, QString::number(one.read.entries),
-             QString::number(one.read.meanings), QString::number(one.written.entries),
-             QString::number(one.written.meanings));
+    return u"%1 (%2 szótár): %3 szócikkből és %4 jelentésből %5 szócikk és %6 jelentés lett.\n"_s.arg(
+        one.dictionary.file, one.dictionary.title, QString::number(one.read.entries),
+        QString::number(one.read.meanings), QString::number(one.written.entries),
+        QString::number(one.written.meanings));
 }
 
 /// What the difference consists of; empty when nothing was changed.
@@ -157,8 +158,7 @@ QString changes_line(const freedict::Imported &one) {
         if (count != 0)
             parts.append(QString::number(count) + u' ' + QString::fromUtf8(what));
     }
-    return parts.isEmpty() ? QString()
-                           : QStringLiteral("%1: %2.\n").arg(one.dictionary.file, parts.join(QStringLiteral(", ")));
+    return parts.isEmpty() ? QString() : u"%1: %2.\n"_s.arg(one.dictionary.file, parts.join(u", "_s));
 }
 
 int run(const Request &request) {
@@ -199,7 +199,7 @@ int main(int count, char *values[]) {
     const auto result = request_of(arguments);
     const auto *request = std::get_if<Request>(&result);
     if (const auto *failure = std::get_if<Failure>(&result); request == nullptr) {
-        QTextStream(stderr) << failure->sentence << QStringLiteral("\n\n") << QString::fromUtf8(usage);
+        QTextStream(stderr) << failure->sentence << u"\n\n"_s << QString::fromUtf8(usage);
         return called_wrongly;
     }
     if (request->help) {

@@ -5,11 +5,13 @@
 #include "platform/files.h"
 #include "support/test_places.h"
 
+using namespace Qt::StringLiterals;
+
 BuiltDictionary::BuiltDictionary(const QString &file) {
     const FileContent content = files::read_whole(test_places::in_program(file));
     if (const auto *failure = std::get_if<Failure>(&content))
         qFatal("%s", qPrintable(failure->sentence));
-    const QStringList lines = code_page::decode(std::get<QByteArray>(content)).split(QStringLiteral("\r\n"));
+    const QStringList lines = code_page::decode(std::get<QByteArray>(content)).split(u"\r\n"_s);
     for (qsizetype i = 1; i < lines.size(); ++i) {
         const qsizetype colon = lines[i].indexOf(u':');
         if (colon < 0)
@@ -43,10 +45,10 @@ QStringList lines_of_list(const QString &path) {
 QList<AcceptedMeanings> accepted_meanings(const QString &path) {
     QList<AcceptedMeanings> all;
     for (const QString &line : lines_of_list(path)) {
-        const QStringList fields = line.split(QStringLiteral(" | "));
+        const QStringList fields = line.split(u" | "_s);
         if (fields.size() != 2)
-            qFatal("%s", qPrintable(path + QStringLiteral(": ") + line));
-        all.append({fields[0], fields[1].split(QStringLiteral("; "))});
+            qFatal("%s", qPrintable(path + u": "_s + line));
+        all.append({fields[0], fields[1].split(u"; "_s)});
     }
     return all;
 }

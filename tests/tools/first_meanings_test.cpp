@@ -6,12 +6,14 @@
 
 #include "tools/built_dictionary.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using freedict::Language;
 
-const QString lists = QStringLiteral(ZIMBORA_TEST_DATA "/first_meanings/");
-const QString known = QStringLiteral(ZIMBORA_KNOWN_MEANINGS "/");
+const QString lists = u"" ZIMBORA_TEST_DATA "/first_meanings/"_s;
+const QString known = u"" ZIMBORA_KNOWN_MEANINGS "/"_s;
 
 /// The part of a list's words whose first meaning is accepted; the others are named in `missed`.
 double right_first(const QString &file, Language language, const QList<AcceptedMeanings> &list, QStringList &missed) {
@@ -28,21 +30,19 @@ double right_first(const QString &file, Language language, const QList<AcceptedM
 }
 
 TEST(FirstMeanings, are_right_for_everyday_english_words) {
-    const auto list = accepted_meanings(lists + QStringLiteral("english.txt"));
+    const auto list = accepted_meanings(lists + u"english.txt"_s);
     QStringList missed;
 
     EXPECT_GE(list.size(), 600);
-    EXPECT_GE(right_first(QStringLiteral("am.txt"), Language::hungarian, list, missed), 0.94)
-        << qPrintable(missed.join(u'\n'));
+    EXPECT_GE(right_first(u"am.txt"_s, Language::hungarian, list, missed), 0.94) << qPrintable(missed.join(u'\n'));
 }
 
 TEST(FirstMeanings, are_right_for_everyday_hungarian_words) {
-    const auto list = accepted_meanings(lists + QStringLiteral("hungarian.txt"));
+    const auto list = accepted_meanings(lists + u"hungarian.txt"_s);
     QStringList missed;
 
     EXPECT_GE(list.size(), 400);
-    EXPECT_GE(right_first(QStringLiteral("ma.txt"), Language::english, list, missed), 0.94)
-        << qPrintable(missed.join(u'\n'));
+    EXPECT_GE(right_first(u"ma.txt"_s, Language::english, list, missed), 0.94) << qPrintable(missed.join(u'\n'));
 }
 
 TEST(FirstMeanings, are_tested_with_words_that_the_weights_do_not_come_from) {
@@ -56,11 +56,11 @@ TEST(FirstMeanings, are_tested_with_words_that_the_weights_do_not_come_from) {
 }
 
 TEST(FirstMeanings, of_a_verb_that_is_beyond_comparison_more_usual_than_its_noun_are_the_verbs) {
-    const BuiltDictionary dictionary(QStringLiteral("am.txt"));
+    const BuiltDictionary dictionary(u"am.txt"_s);
 
-    EXPECT_EQ(dictionary.meanings(QStringLiteral("go")).value(0), QStringLiteral("megy"));
-    EXPECT_EQ(dictionary.meanings(QStringLiteral("see")).value(0), QStringLiteral("lát"));
-    EXPECT_EQ(dictionary.meanings(QStringLiteral("offer")).value(0), QStringLiteral("ajánlat"));
+    EXPECT_EQ(dictionary.meanings(u"go"_s).value(0), u"megy"_s);
+    EXPECT_EQ(dictionary.meanings(u"see"_s).value(0), u"lát"_s);
+    EXPECT_EQ(dictionary.meanings(u"offer"_s).value(0), u"ajánlat"_s);
 }
 
 /// What a learner may look up instead of a form: the word without a regular ending.
@@ -94,14 +94,14 @@ bool leads_to_hit(const BuiltDictionary &dictionary, const QString &word) {
 
 /// The first `count` words of spoken English, without names and pieces of words, that lead to no hit.
 QStringList words_without_hit(qsizetype count) {
-    const QString data = QStringLiteral(ZIMBORA_TEST_DATA "/");
-    QStringList words = lines_of_list(data + QStringLiteral("spoken_english.txt")).first(count);
+    const QString data = u"" ZIMBORA_TEST_DATA "/"_s;
+    QStringList words = lines_of_list(data + u"spoken_english.txt"_s).first(count);
     QSet<QString> left_out;
     for (const char *name : {"left_out_names.txt", "left_out_scraps.txt"}) {
         for (const QString &word : lines_of_list(data + QString::fromLatin1(name)))
             left_out.insert(word);
     }
-    const BuiltDictionary dictionary(QStringLiteral("am.txt"));
+    const BuiltDictionary dictionary(u"am.txt"_s);
     words.removeIf([&](const QString &word) { return left_out.contains(word) || leads_to_hit(dictionary, word); });
     return words;
 }

@@ -13,6 +13,8 @@
 #include "freedict/import.h"
 #include "platform/code_page.h"
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 
 /// GoogleTest's way of showing a test's parameter; by itself it would print addresses.
@@ -32,7 +34,7 @@ QByteArray bytes_of(const QString &path) {
 
 /// The packages alone: what the supplement, the spelling dictionaries and WordNet add would hide what is lost.
 freedict::Sources sources() {
-    return {.freedict = QStringLiteral(ZIMBORA_FREEDICT_DIR), .scowl = QStringLiteral(ZIMBORA_SCOWL_DIR)};
+    return {.freedict = u"" ZIMBORA_FREEDICT_DIR ""_s, .scowl = u"" ZIMBORA_SCOWL_DIR ""_s};
 }
 
 /// One import for all tests.
@@ -86,28 +88,24 @@ QString sorted_line(const QByteArray &line) {
 /// one, doubled blanks, a bracket.
 QString mended_text(const QString &text) {
     static const QHash<QString, QString> joined{
-        {QStringLiteral("to beat, beat"), QStringLiteral("to beat, beat, beaten")},
-        {QStringLiteral("to crow, crew"), QStringLiteral("to crow, crowed, crew")},
-        {QStringLiteral("to get, got"), QStringLiteral("to get, got, gotten")},
-        {QStringLiteral("to hide, hid"), QStringLiteral("to hide, hid, hidden")},
-        {QStringLiteral("to hold, held, holden"), QStringLiteral("to hold, held")},
-        {QStringLiteral("to slink, slank, slunk"), QStringLiteral("to slink, slunk")},
-        {QStringLiteral("to spin, span, spun"), QStringLiteral("to spin, spun")},
-        {QStringLiteral("to stink, stunk, stunk"), QStringLiteral("to stink, stank, stunk")}};
+        {u"to beat, beat"_s, u"to beat, beat, beaten"_s}, {u"to crow, crew"_s, u"to crow, crowed, crew"_s},
+        {u"to get, got"_s, u"to get, got, gotten"_s},     {u"to hide, hid"_s, u"to hide, hid, hidden"_s},
+        {u"to hold, held, holden"_s, u"to hold, held"_s}, {u"to slink, slank, slunk"_s, u"to slink, slunk"_s},
+        {u"to spin, span, spun"_s, u"to spin, spun"_s},   {u"to stink, stunk, stunk"_s, u"to stink, stank, stunk"_s}};
     if (text == u"sorozat (pókerban(")
-        return QStringLiteral("sorozat (pókerban)");
+        return u"sorozat (pókerban)"_s;
     const QString simple = text.simplified();
     return joined.value(simple, simple);
 }
 
 /// The same of each definition of the package, mended.
 QStringList mended_definitions(const Dictionary &dictionary) {
-    const QString base = QStringLiteral(ZIMBORA_FREEDICT_DIR "/") + dictionary.package.toString();
-    const QByteArray index = bytes_of(base + QStringLiteral(".index"));
-    const auto unpacked = freedict::unpacked(bytes_of(base + QStringLiteral(".dict.dz")), base);
+    const QString base = u"" ZIMBORA_FREEDICT_DIR "/"_s + dictionary.package.toString();
+    const QByteArray index = bytes_of(base + u".index"_s);
+    const auto unpacked = freedict::unpacked(bytes_of(base + u".dict.dz"_s), base);
     const auto found = freedict::definitions(index, std::get<QByteArray>(unpacked), base);
-    const QRegularExpression pronunciation(QStringLiteral(" /[^/\n]+/\n"));
-    const QRegularExpression number(QStringLiteral("^[0-9]+\\. "));
+    const QRegularExpression pronunciation(u" /[^/\n]+/\n"_s);
+    const QRegularExpression number(u"^[0-9]+\\. "_s);
     QHash<QString, QStringList> entries;
     for (const auto &definition : std::get<QVector<freedict::Definition>>(found)) {
         if (definition.index_word.startsWith("00database"))
@@ -116,8 +114,8 @@ QStringList mended_definitions(const Dictionary &dictionary) {
         if (dictionary.file == u"am.txt")
             text.replace(u'û', u'ű').replace(u'ô', u'ő');
         else
-            text.replace(QStringLiteral("válasszatok: tett"), QStringLiteral("válasszatok – tett"));
-        QStringList lines = text.replace(pronunciation, QStringLiteral("\n")).split(u'\n', Qt::SkipEmptyParts);
+            text.replace(u"válasszatok: tett"_s, u"válasszatok – tett"_s);
+        QStringList lines = text.replace(pronunciation, u"\n"_s).split(u'\n', Qt::SkipEmptyParts);
         const QString headword = lines.takeFirst();
         if (lines.size() > 1)
             lines.replaceInStrings(number, QString());
@@ -170,7 +168,7 @@ TEST_P(EachFreedictDictionary, stand_in_byte_order_with_a_leading_to_left_out_of
 }
 
 TEST_P(EachFreedictDictionary, have_a_headword_without_colon_and_a_meaning_in_every_line) {
-    const QRegularExpression entry(QStringLiteral("^[^:÷]+:([^÷]+÷)+$"));
+    const QRegularExpression entry(u"^[^:÷]+:([^÷]+÷)+$"_s);
     qsizetype more_colons = 0;
 
     for (const QByteArray &line : entry_lines_of(GetParam())) {
@@ -229,7 +227,7 @@ TEST_F(FreedictDictionaries, name_their_edition_and_licence) {
 TEST_F(FreedictDictionaries, hold_the_same_pairs_in_both_directions) {
     QStringList english = pairs_of(entry_lines_of(freedict::english_hungarian), false);
     QStringList hungarian = pairs_of(entry_lines_of(freedict::hungarian_english), true);
-    english.replaceInStrings(QStringLiteral("válasszatok: tett"), QStringLiteral("válasszatok – tett"));
+    english.replaceInStrings(u"válasszatok: tett"_s, u"válasszatok – tett"_s);
 
     english.sort();
 

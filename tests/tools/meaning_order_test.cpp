@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using freedict::Entry;
@@ -15,19 +17,17 @@ using freedict::PlacedMeaning;
 
 /// A dictionary whose phrases tell that a book is above all a "könyv".
 Lexicon sample() {
-    return {{{QStringLiteral("book"),
-              {QStringLiteral("librettó"), QStringLiteral("könyv"), QStringLiteral("jegyzék"), QStringLiteral("segg"),
-               QStringLiteral("könyv (fiókban)")}},
-             {QStringLiteral("book review"), {QStringLiteral("könyvismertetés")}},
-             {QStringLiteral("review"), {QStringLiteral("ismertetés")}},
-             {QStringLiteral("school book"), {QStringLiteral("iskolai könyv")}},
-             {QStringLiteral("old book"), {QStringLiteral("régi könyv")}},
-             {QStringLiteral("old list"), {QStringLiteral("régi jegyzék")}},
-             {QStringLiteral("list"), {QStringLiteral("jegyzék")}},
-             {QStringLiteral("to list"), {QStringLiteral("jegyzék"), QStringLiteral("felsorol")}},
-             {QStringLiteral("to list names"), {QStringLiteral("neveket felsorol")}},
-             {QStringLiteral("to list reasons"), {QStringLiteral("okokat felsorol")}},
-             {QStringLiteral("to name"), {QStringLiteral("felsorol")}}},
+    return {{{u"book"_s, {u"librettó"_s, u"könyv"_s, u"jegyzék"_s, u"segg"_s, u"könyv (fiókban)"_s}},
+             {u"book review"_s, {u"könyvismertetés"_s}},
+             {u"review"_s, {u"ismertetés"_s}},
+             {u"school book"_s, {u"iskolai könyv"_s}},
+             {u"old book"_s, {u"régi könyv"_s}},
+             {u"old list"_s, {u"régi jegyzék"_s}},
+             {u"list"_s, {u"jegyzék"_s}},
+             {u"to list"_s, {u"jegyzék"_s, u"felsorol"_s}},
+             {u"to list names"_s, {u"neveket felsorol"_s}},
+             {u"to list reasons"_s, {u"okokat felsorol"_s}},
+             {u"to name"_s, {u"felsorol"_s}}},
             {}};
 }
 
@@ -48,13 +48,13 @@ QStringList meanings_of(const QVector<PlacedMeaning> &placed) {
 TEST(MeaningOrder, the_meaning_that_the_phrases_speak_for_stands_first) {
     const QVector<PlacedMeaning> order = placed(sample().english[0]);
 
-    EXPECT_EQ(order.first().meaning, QStringLiteral("könyv"));
+    EXPECT_EQ(order.first().meaning, u"könyv"_s);
 }
 
 TEST(MeaningOrder, a_verbs_first_meaning_is_a_verb) {
     const QVector<PlacedMeaning> order = placed(sample().english[7]);
 
-    EXPECT_EQ(order.first().meaning, QStringLiteral("felsorol"));
+    EXPECT_EQ(order.first().meaning, u"felsorol"_s);
 }
 
 TEST(MeaningOrder, no_meaning_is_lost_or_doubled) {
@@ -71,7 +71,7 @@ TEST(MeaningOrder, no_meaning_is_lost_or_doubled) {
 TEST(MeaningOrder, a_coarse_meaning_stands_last) {
     const QVector<PlacedMeaning> order = placed(sample().english[0]);
 
-    EXPECT_EQ(order.last().meaning, QStringLiteral("segg"));
+    EXPECT_EQ(order.last().meaning, u"segg"_s);
     EXPECT_TRUE(order.last().coarse);
 }
 
@@ -81,9 +81,9 @@ TEST(MeaningOrder, what_is_fixed_stands_in_front_as_it_was) {
 
     const QVector<PlacedMeaning> order = placed(entry);
 
-    EXPECT_EQ(order[0].meaning, QStringLiteral("librettó"));
+    EXPECT_EQ(order[0].meaning, u"librettó"_s);
     EXPECT_EQ(order[0].group, 0);
-    EXPECT_EQ(order[1].meaning, QStringLiteral("könyv"));
+    EXPECT_EQ(order[1].meaning, u"könyv"_s);
 }
 
 TEST(MeaningOrder, a_score_is_the_sum_of_what_the_features_add) {
@@ -96,8 +96,7 @@ TEST(MeaningOrder, a_score_is_the_sum_of_what_the_features_add) {
 }
 
 TEST(MeaningOrder, meanings_of_equal_score_stay_as_they_were) {
-    const Lexicon lexicon{
-        {{QStringLiteral("word"), {QStringLiteral("bbb"), QStringLiteral("aaa"), QStringLiteral("ccc")}}}, {}};
+    const Lexicon lexicon{{{u"word"_s, {u"bbb"_s, u"aaa"_s, u"ccc"_s}}}, {}};
 
     const QVector<PlacedMeaning> order = placed(lexicon.english[0], lexicon);
 

@@ -10,6 +10,8 @@
 #include "freedict/typing_errors.h"
 #include "tools/sample_package.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using freedict::Entry;
@@ -28,8 +30,8 @@ Spelling sample_spelling() {
     };
     for (const auto &[name, text] : words) {
         const QString base = folder.filePath(QString::fromLatin1(name));
-        SamplePackage::put(base + QStringLiteral(".aff"), "SET UTF-8\n");
-        SamplePackage::put(base + QStringLiteral(".dic"), text);
+        SamplePackage::put(base + u".aff"_s, "SET UTF-8\n");
+        SamplePackage::put(base + u".dic"_s, text);
     }
     auto read = freedict::read_spelling(folder.path());
     return std::get<Spelling>(std::move(read));
@@ -49,91 +51,81 @@ Lexicon lexicon_of(const QVector<Entry> &english) {
 }
 
 TEST(TypingErrors, a_word_one_letter_from_a_known_one_with_the_same_meaning_is_mended) {
-    const Lexicon lexicon = lexicon_of({{QStringLiteral("apple souce"), {QStringLiteral("almaszósz")}},
-                                        {QStringLiteral("apple sauce"), {QStringLiteral("almaszósz")}}});
+    const Lexicon lexicon = lexicon_of({{u"apple souce"_s, {u"almaszósz"_s}}, {u"apple sauce"_s, {u"almaszósz"_s}}});
 
-    EXPECT_EQ(mended(lexicon, QStringLiteral("apple souce")), QStringLiteral("apple sauce"));
+    EXPECT_EQ(mended(lexicon, u"apple souce"_s), u"apple sauce"_s);
 }
 
 TEST(TypingErrors, one_with_another_meaning_or_at_its_beginning_or_that_is_known_stays) {
-    const Lexicon lexicon = lexicon_of({{QStringLiteral("apple souce"), {QStringLiteral("valami más")}},
-                                        {QStringLiteral("apple sauce"), {QStringLiteral("almaszósz")}},
-                                        {QStringLiteral("opple"), {QStringLiteral("alma")}},
-                                        {QStringLiteral("apple"), {QStringLiteral("alma")}},
-                                        {QStringLiteral("may"), {QStringLiteral("lehet")}},
-                                        {QStringLiteral("mauy"), {QStringLiteral("más")}}});
+    const Lexicon lexicon = lexicon_of({{u"apple souce"_s, {u"valami más"_s}},
+                                        {u"apple sauce"_s, {u"almaszósz"_s}},
+                                        {u"opple"_s, {u"alma"_s}},
+                                        {u"apple"_s, {u"alma"_s}},
+                                        {u"may"_s, {u"lehet"_s}},
+                                        {u"mauy"_s, {u"más"_s}}});
 
     for (const Entry &entry : lexicon.english)
         EXPECT_EQ(mended(lexicon, entry.headword), entry.headword);
 }
 
 TEST(TypingErrors, a_letter_that_stands_three_times_makes_a_known_word) {
-    const Lexicon lexicon = lexicon_of({{QStringLiteral("promisssory note"), {QStringLiteral("álllvány")}},
-                                        {QStringLiteral("psssst"), {QStringLiteral("sssz")}}});
+    const Lexicon lexicon = lexicon_of({{u"promisssory note"_s, {u"álllvány"_s}}, {u"psssst"_s, {u"sssz"_s}}});
 
-    EXPECT_EQ(mended(lexicon, QStringLiteral("promisssory note")), QStringLiteral("promissory note"));
-    EXPECT_EQ(mended(lexicon, QStringLiteral("álllvány")), QStringLiteral("állvány"));
-    EXPECT_EQ(mended(lexicon, QStringLiteral("psssst")), QStringLiteral("psssst"));
+    EXPECT_EQ(mended(lexicon, u"promisssory note"_s), u"promissory note"_s);
+    EXPECT_EQ(mended(lexicon, u"álllvány"_s), u"állvány"_s);
+    EXPECT_EQ(mended(lexicon, u"psssst"_s), u"psssst"_s);
 }
 
 TEST(TypingErrors, blanks_and_a_bracket_are_mended_without_spelling_dictionaries) {
-    const auto mends = freedict::typing_errors(
-        lexicon_of({{QStringLiteral("a  b"), {QStringLiteral(" c"), QStringLiteral("sorozat (pókerban(")}}}), nullptr);
+    const auto mends = freedict::typing_errors(lexicon_of({{u"a  b"_s, {u" c"_s, u"sorozat (pókerban("_s}}}), nullptr);
 
     ASSERT_EQ(mends.size(), 3);
-    EXPECT_EQ(mends[0].mended, QStringLiteral("a b"));
-    EXPECT_EQ(mends[1].mended, QStringLiteral("c"));
-    EXPECT_EQ(mends[2].mended, QStringLiteral("sorozat (pókerban)"));
+    EXPECT_EQ(mends[0].mended, u"a b"_s);
+    EXPECT_EQ(mends[1].mended, u"c"_s);
+    EXPECT_EQ(mends[2].mended, u"sorozat (pókerban)"_s);
 }
 
 TEST(Renaming, an_entry_whose_name_is_there_is_joined_and_its_meanings_stand_once) {
-    Lexicon lexicon{{{QStringLiteral("wrong"), {QStringLiteral("a"), QStringLiteral("b")}},
-                     {QStringLiteral("right"), {QStringLiteral("b"), QStringLiteral("c")}}},
-                    {{QStringLiteral("b"), {QStringLiteral("wrong"), QStringLiteral("right")}}}};
+    Lexicon lexicon{{{u"wrong"_s, {u"a"_s, u"b"_s}}, {u"right"_s, {u"b"_s, u"c"_s}}},
+                    {{u"b"_s, {u"wrong"_s, u"right"_s}}}};
 
-    const auto done =
-        freedict::rename_texts(lexicon, Language::english, {{QStringLiteral("wrong"), QStringLiteral("right")}});
+    const auto done = freedict::rename_texts(lexicon, Language::english, {{u"wrong"_s, u"right"_s}});
 
     ASSERT_EQ(lexicon.english.size(), 1);
-    EXPECT_EQ(lexicon.english[0].meanings,
-              (QStringList{QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("a")}));
-    EXPECT_EQ(lexicon.hungarian[0].meanings, QStringList{QStringLiteral("right")});
+    EXPECT_EQ(lexicon.english[0].meanings, (QStringList{u"b"_s, u"c"_s, u"a"_s}));
+    EXPECT_EQ(lexicon.hungarian[0].meanings, QStringList{u"right"_s});
     EXPECT_EQ(done.joined, 1);
     EXPECT_EQ(done.doubled_in_joined, 1);
     EXPECT_EQ(done.doubled, 1);
 }
 
 TEST(DoubledHeadwords, forms_that_another_one_has_too_are_joined_and_others_are_counted) {
-    const auto doubled = freedict::doubled_headwords(
-        {{QStringLiteral("to get, got"), {QStringLiteral("a")}},
-         {QStringLiteral("to get, got, gotten"), {QStringLiteral("a"), QStringLiteral("b")}},
-         {QStringLiteral("to lie, lay, lain"), {QStringLiteral("c")}},
-         {QStringLiteral("to lie, lied"), {QStringLiteral("d")}},
-         {QStringLiteral("to burn"), {QStringLiteral("e")}},
-         {QStringLiteral("to burn, burnt"), {QStringLiteral("e")}}});
+    const auto doubled = freedict::doubled_headwords({{u"to get, got"_s, {u"a"_s}},
+                                                      {u"to get, got, gotten"_s, {u"a"_s, u"b"_s}},
+                                                      {u"to lie, lay, lain"_s, {u"c"_s}},
+                                                      {u"to lie, lied"_s, {u"d"_s}},
+                                                      {u"to burn"_s, {u"e"_s}},
+                                                      {u"to burn, burnt"_s, {u"e"_s}}});
 
-    EXPECT_EQ(doubled.joined,
-              (QHash<QString, QString>{{QStringLiteral("to get, got"), QStringLiteral("to get, got, gotten")}}));
+    EXPECT_EQ(doubled.joined, (QHash<QString, QString>{{u"to get, got"_s, u"to get, got, gotten"_s}}));
     EXPECT_EQ(doubled.left, 2);
 }
 
 TEST(Capitals, are_given_back_where_a_word_is_accepted_only_with_them) {
     const Spelling spelling = sample_spelling();
-    const auto supplement = std::get<0>(freedict::parse_supplement("English | adjective | angol\nTV | noun | tévé\n",
-                                                                   QStringLiteral("s"), Language::english));
+    const auto supplement = std::get<0>(
+        freedict::parse_supplement("English | adjective | angol\nTV | noun | tévé\n", u"s"_s, Language::english));
 
-    const auto names =
-        freedict::texts_with_capitals(lexicon_of({{QStringLiteral("monday"), {QStringLiteral("x")}},
-                                                  {QStringLiteral("may"), {QStringLiteral("x")}},
-                                                  {QStringLiteral("on monday i'm 10th"), {QStringLiteral("x")}},
-                                                  {QStringLiteral("english tv"), {QStringLiteral("x")}},
-                                                  {QStringLiteral("unknownword"), {QStringLiteral("x")}}}),
-                                      Language::english, spelling, {supplement, {}});
+    const auto names = freedict::texts_with_capitals(lexicon_of({{u"monday"_s, {u"x"_s}},
+                                                                 {u"may"_s, {u"x"_s}},
+                                                                 {u"on monday i'm 10th"_s, {u"x"_s}},
+                                                                 {u"english tv"_s, {u"x"_s}},
+                                                                 {u"unknownword"_s, {u"x"_s}}}),
+                                                     Language::english, spelling, {supplement, {}});
 
-    EXPECT_EQ(names,
-              (QHash<QString, QString>{{QStringLiteral("monday"), QStringLiteral("Monday")},
-                                       {QStringLiteral("on monday i'm 10th"), QStringLiteral("on Monday I'm 10th")},
-                                       {QStringLiteral("english tv"), QStringLiteral("English TV")}}));
+    EXPECT_EQ(names, (QHash<QString, QString>{{u"monday"_s, u"Monday"_s},
+                                              {u"on monday i'm 10th"_s, u"on Monday I'm 10th"_s},
+                                              {u"english tv"_s, u"English TV"_s}}));
 }
 
 TEST(Pronunciation, the_stress_stands_before_the_syllable) {
@@ -142,24 +134,23 @@ TEST(Pronunciation, the_stress_stands_before_the_syllable) {
         {"ˌʌndəstˈandɪŋ", "ˌʌndəˈstandɪŋ"}, {"tʃˈɜːtʃ", "ˈtʃɜːtʃ"}, {"ɪndʒˈɔɪ", "ɪnˈdʒɔɪ"},
     };
     for (const auto &[before, after] : words) {
-        EXPECT_EQ(freedict::mended_pronunciation(QStringLiteral("x"), QString::fromUtf8(before)).toStdString(), after);
+        EXPECT_EQ(freedict::mended_pronunciation(u"x"_s, QString::fromUtf8(before)).toStdString(), after);
     }
 }
 
 TEST(Pronunciation, sy_and_sg_are_read_out) {
-    EXPECT_EQ(freedict::mended_pronunciation(QStringLiteral("to give sy sg"), QStringLiteral("tə ɡˈɪv sˈaɪ ˌɛsdʒˈiː")),
-              QStringLiteral("tə ˈɡɪv ˈsʌmbədi ˈsʌmθɪŋ"));
+    EXPECT_EQ(freedict::mended_pronunciation(u"to give sy sg"_s, u"tə ɡˈɪv sˈaɪ ˌɛsdʒˈiː"_s),
+              u"tə ˈɡɪv ˈsʌmbədi ˈsʌmθɪŋ"_s);
 }
 
 TEST(Pronunciation, the_file_is_ordered_like_the_dictionary_and_begins_with_a_notice) {
     freedict::Package package;
-    package.name = QStringLiteral("N: M");
+    package.name = u"N: M"_s;
 
     const QList<QByteArray> lines =
-        freedict::pronunciation_text(package, {{QStringLiteral("to go"), {}, QStringLiteral("tə ɡˈəʊ")},
-                                               {QStringLiteral("goal"), {}, QStringLiteral("ɡˈəʊl")},
-                                               {QStringLiteral("new"), {}},
-                                               {QStringLiteral("Ada"), {}, QStringLiteral("ˈeɪdə")}})
+        freedict::pronunciation_text(
+            package,
+            {{u"to go"_s, {}, u"tə ɡˈəʊ"_s}, {u"goal"_s, {}, u"ɡˈəʊl"_s}, {u"new"_s, {}}, {u"Ada"_s, {}, u"ˈeɪdə"_s}})
             .split('\n');
 
     ASSERT_EQ(lines.size(), 5);

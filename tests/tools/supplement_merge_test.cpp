@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using freedict::Entry;
@@ -12,17 +14,16 @@ using freedict::Lexicon;
 using freedict::Supplement;
 
 Supplement supplement_of(const QByteArray &english, const QByteArray &hungarian = {}) {
-    return {std::get<0>(freedict::parse_supplement(english, QStringLiteral("e"), Language::english)),
-            std::get<0>(freedict::parse_supplement(hungarian, QStringLiteral("h"), Language::hungarian))};
+    return {std::get<0>(freedict::parse_supplement(english, u"e"_s, Language::english)),
+            std::get<0>(freedict::parse_supplement(hungarian, u"h"_s, Language::hungarian))};
 }
 
 Lexicon sample() {
-    return {{{QStringLiteral("book"), {QStringLiteral("rész"), QStringLiteral("könyv")}},
-             {QStringLiteral("to go, went, gone"), {QStringLiteral("működik")}},
-             {QStringLiteral("to lie, lay, lain"), {QStringLiteral("fekszik")}},
-             {QStringLiteral("to lie, lied"), {QStringLiteral("füllent"), QStringLiteral("hazudik")}}},
-            {{QStringLiteral("könyv"), {QStringLiteral("volume"), QStringLiteral("book")}},
-             {QStringLiteral("működik"), {QStringLiteral("to work"), QStringLiteral("to go, went, gone")}}}};
+    return {{{u"book"_s, {u"rész"_s, u"könyv"_s}},
+             {u"to go, went, gone"_s, {u"működik"_s}},
+             {u"to lie, lay, lain"_s, {u"fekszik"_s}},
+             {u"to lie, lied"_s, {u"füllent"_s, u"hazudik"_s}}},
+            {{u"könyv"_s, {u"volume"_s, u"book"_s}}, {u"működik"_s, {u"to work"_s, u"to go, went, gone"_s}}}};
 }
 
 const Entry &entry_of(const QVector<Entry> &entries, const QString &headword) {
@@ -41,8 +42,8 @@ TEST(SupplementMerge, meanings_go_in_front_and_stand_once) {
 
     merge_supplement(lexicon, supplement_of("book | noun | könyv; kötet\n"));
 
-    EXPECT_EQ(meanings(lexicon.english, QStringLiteral("book")), "könyv|kötet|rész");
-    EXPECT_EQ(entry_of(lexicon.english, QStringLiteral("book")).fixed, 2);
+    EXPECT_EQ(meanings(lexicon.english, u"book"_s), "könyv|kötet|rész");
+    EXPECT_EQ(entry_of(lexicon.english, u"book"_s).fixed, 2);
 }
 
 TEST(SupplementMerge, a_new_headword_makes_an_entry) {
@@ -50,8 +51,8 @@ TEST(SupplementMerge, a_new_headword_makes_an_entry) {
 
     const auto merged = merge_supplement(lexicon, supplement_of("Monday | noun | hétfő <<\n"));
 
-    EXPECT_EQ(meanings(lexicon.english, QStringLiteral("Monday")), "hétfő");
-    EXPECT_EQ(meanings(lexicon.hungarian, QStringLiteral("hétfő")), "Monday");
+    EXPECT_EQ(meanings(lexicon.english, u"Monday"_s), "hétfő");
+    EXPECT_EQ(meanings(lexicon.hungarian, u"hétfő"_s), "Monday");
     EXPECT_EQ(merged.english, (freedict::Added{.entries = 1, .meanings = 1}));
     EXPECT_EQ(merged.hungarian, (freedict::Added{.entries = 1, .meanings = 1}));
 }
@@ -61,9 +62,9 @@ TEST(SupplementMerge, what_leads_back_in_front_stands_before_the_others_and_what
 
     merge_supplement(lexicon, supplement_of("book | noun | könyv <<\nnotebook | noun | könyv <\n"));
 
-    EXPECT_EQ(meanings(lexicon.hungarian, QStringLiteral("könyv")), "book|volume|notebook");
-    EXPECT_EQ(entry_of(lexicon.hungarian, QStringLiteral("könyv")).fixed, 0);
-    EXPECT_EQ(entry_of(lexicon.hungarian, QStringLiteral("könyv")).led, 1);
+    EXPECT_EQ(meanings(lexicon.hungarian, u"könyv"_s), "book|volume|notebook");
+    EXPECT_EQ(entry_of(lexicon.hungarian, u"könyv"_s).fixed, 0);
+    EXPECT_EQ(entry_of(lexicon.hungarian, u"könyv"_s).led, 1);
 }
 
 TEST(SupplementMerge, an_entrys_own_line_stands_before_what_leads_back) {
@@ -71,7 +72,7 @@ TEST(SupplementMerge, an_entrys_own_line_stands_before_what_leads_back) {
 
     merge_supplement(lexicon, supplement_of("book | noun | könyv <<\n", "könyv | noun | volume\n"));
 
-    EXPECT_EQ(meanings(lexicon.hungarian, QStringLiteral("könyv")), "volume|book");
+    EXPECT_EQ(meanings(lexicon.hungarian, u"könyv"_s), "volume|book");
 }
 
 TEST(SupplementMerge, a_verb_is_found_with_its_further_forms_and_stands_with_them_in_the_other_direction) {
@@ -79,9 +80,9 @@ TEST(SupplementMerge, a_verb_is_found_with_its_further_forms_and_stands_with_the
 
     const auto merged = merge_supplement(lexicon, supplement_of("to go | verb | megy <<; működik <\n"));
 
-    EXPECT_EQ(meanings(lexicon.english, QStringLiteral("to go, went, gone")), "megy|működik");
-    EXPECT_EQ(meanings(lexicon.hungarian, QStringLiteral("megy")), "to go, went, gone");
-    EXPECT_EQ(meanings(lexicon.hungarian, QStringLiteral("működik")), "to work|to go, went, gone");
+    EXPECT_EQ(meanings(lexicon.english, u"to go, went, gone"_s), "megy|működik");
+    EXPECT_EQ(meanings(lexicon.hungarian, u"megy"_s), "to go, went, gone");
+    EXPECT_EQ(meanings(lexicon.hungarian, u"működik"_s), "to work|to go, went, gone");
     EXPECT_EQ(merged.english.entries, 0);
 }
 
@@ -90,8 +91,8 @@ TEST(SupplementMerge, verbs_of_different_forms_get_none_of_each_others_meanings)
 
     merge_supplement(lexicon, supplement_of("to lie | verb | hazudik; fekszik\n"));
 
-    EXPECT_EQ(meanings(lexicon.english, QStringLiteral("to lie, lay, lain")), "fekszik");
-    EXPECT_EQ(meanings(lexicon.english, QStringLiteral("to lie, lied")), "hazudik|füllent");
+    EXPECT_EQ(meanings(lexicon.english, u"to lie, lay, lain"_s), "fekszik");
+    EXPECT_EQ(meanings(lexicon.english, u"to lie, lied"_s), "hazudik|füllent");
 }
 
 TEST(SupplementMerge, an_empty_supplement_changes_nothing) {

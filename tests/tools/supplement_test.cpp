@@ -7,6 +7,8 @@
 
 #include "tools/sample_package.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using freedict::Language;
@@ -15,7 +17,7 @@ using freedict::SupplementMeaning;
 using Back = freedict::SupplementMeaning::Back;
 
 QVector<SupplementEntry> entries_of(const QByteArray &text, Language language = Language::english) {
-    auto result = freedict::parse_supplement(text, QStringLiteral("s.txt"), language);
+    auto result = freedict::parse_supplement(text, u"s.txt"_s, language);
     if (const auto *failure = std::get_if<Failure>(&result)) {
         ADD_FAILURE() << qPrintable(failure->sentence);
         return {};
@@ -24,7 +26,7 @@ QVector<SupplementEntry> entries_of(const QByteArray &text, Language language = 
 }
 
 std::string sentence(const QByteArray &text, Language language = Language::english) {
-    const auto result = freedict::parse_supplement(text, QStringLiteral("s.txt"), language);
+    const auto result = freedict::parse_supplement(text, u"s.txt"_s, language);
     const auto *failure = std::get_if<Failure>(&result);
     return failure == nullptr ? std::string() : failure->sentence.toStdString();
 }
@@ -33,11 +35,11 @@ TEST(Supplement, an_entry_has_a_headword_a_part_of_speech_and_meanings_that_may_
     const auto entries = entries_of("# comment\n\nbook | noun | könyv <<; füzet <; libretto (operáé)\n");
 
     ASSERT_EQ(entries.size(), 1);
-    EXPECT_EQ(entries[0], (SupplementEntry{QStringLiteral("book"),
-                                           QStringLiteral("noun"),
-                                           {{QStringLiteral("könyv"), Back::in_front},
-                                            {QStringLiteral("füzet"), Back::yes},
-                                            {QStringLiteral("libretto (operáé)"), Back::no}}}));
+    EXPECT_EQ(
+        entries[0],
+        (SupplementEntry{u"book"_s,
+                         u"noun"_s,
+                         {{u"könyv"_s, Back::in_front}, {u"füzet"_s, Back::yes}, {u"libretto (operáé)"_s, Back::no}}}));
 }
 
 TEST(Supplement, an_empty_file_has_no_entries) {
@@ -91,17 +93,17 @@ TEST(Supplement, a_hungarian_headword_may_begin_with_to) {
 
 TEST(SupplementFolder, both_directions_are_read_by_the_names_of_their_files) {
     const QTemporaryDir folder;
-    QDir(folder.path()).mkdir(QStringLiteral("english"));
-    QDir(folder.path()).mkdir(QStringLiteral("hungarian"));
-    SamplePackage::put(folder.filePath(QStringLiteral("english/b.txt")), "b | noun | két\n");
-    SamplePackage::put(folder.filePath(QStringLiteral("english/a.txt")), "a | noun | egy\n");
-    SamplePackage::put(folder.filePath(QStringLiteral("hungarian/c.txt")), "c | noun | three\n");
+    QDir(folder.path()).mkdir(u"english"_s);
+    QDir(folder.path()).mkdir(u"hungarian"_s);
+    SamplePackage::put(folder.filePath(u"english/b.txt"_s), "b | noun | két\n");
+    SamplePackage::put(folder.filePath(u"english/a.txt"_s), "a | noun | egy\n");
+    SamplePackage::put(folder.filePath(u"hungarian/c.txt"_s), "c | noun | three\n");
 
     const auto result = freedict::read_supplement(folder.path());
 
     const auto &supplement = std::get<freedict::Supplement>(result);
     ASSERT_EQ(supplement.english.size(), 2);
-    EXPECT_EQ(supplement.english[0].headword, QStringLiteral("a"));
+    EXPECT_EQ(supplement.english[0].headword, u"a"_s);
     ASSERT_EQ(supplement.hungarian.size(), 1);
 }
 
@@ -112,7 +114,7 @@ TEST(SupplementFolder, one_without_entries_is_told) {
 
     ASSERT_TRUE(std::holds_alternative<Failure>(result));
     EXPECT_EQ(std::get<Failure>(result).sentence,
-              QStringLiteral("A(z) „%1/english” mappában nincs szótárkiegészítés.").arg(folder.path()));
+              u"A(z) „%1/english” mappában nincs szótárkiegészítés."_s.arg(folder.path()));
 }
 
 }  // namespace

@@ -14,13 +14,15 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using word_lists::Source;
 
 QVector<Source> all_sources() {
     QVector<Source> all;
-    const QDir folder(QStringLiteral(ZIMBORA_WORD_LISTS));
+    const QDir folder(u"" ZIMBORA_WORD_LISTS ""_s);
     for (const QString &file : folder.entryList({u"*.txt"_s}, QDir::Files, QDir::Name)) {
         const auto source = word_lists::parse(read_file(folder.filePath(file)), file);
         if (const auto *failure = std::get_if<Failure>(&source))

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -10,23 +12,19 @@ namespace {
 // szarv) are kept out by naming the forms.
 const QStringList &patterns(Language language) {
     static const QStringList english =
-        QStringLiteral(
-            "arse arsehole* arseholes ass asshole* bastard bastards bitch* bollocks boner bugger* bullshit* cunt* "
-            "cocksucker* dickhead* fag faggot fuck* motherfuck* mothafuck* nigger* nigga* dago kike spic wop "
-            "jap gook coon paki piss pissed pissing poof poofter poofta pussy queer shit* shite slut* "
-            "tits titties turd turds twat* wank* whore* knobhead crap crappy screw-up jism jizz blowjob")
-            .split(u' ');
+        u"arse arsehole* arseholes ass asshole* bastard bastards bitch* bollocks boner bugger* bullshit* cunt* "
+        "cocksucker* dickhead* fag faggot fuck* motherfuck* mothafuck* nigger* nigga* dago kike spic wop "
+        "jap gook coon paki piss pissed pissing poof poofter poofta pussy queer shit* shite slut* "
+        "tits titties turd turds twat* wank* whore* knobhead crap crappy screw-up jism jizz blowjob"_s.split(u' ');
     static const QStringList hungarian =
-        QStringLiteral(
-            "baszik basz baszás baszakod* basztat* megbasz* elbasz* kibasz* lebasz* felbasz* összebasz* átbasz* "
-            "baszd baszott bassza* buzi* buzer* buzeráns cigó fasz faszt fasza faszok faszfej* faszság* faszkalap "
-            "faszkarika faszopó fos fosik fosás* fosos geci* gecis kurva kurvá* kurvul* megkúr* lekúr* "
-            "nigger* pina piná* picsa picsá* punci* ribanc* riherongy segg* szajha* "
-            "szar szaros* szarik szarás szarok szart szarrágó* szarfészek szarkupac szarság* szarházi* leszar* "
-            "beszarik beszari* elszar* kiszar* megszar* összeszar* szarakod* szopat* leszop* faszszopó* "
-            "bassz baszó köcsög*  pöcs* pöcsfej rüfke lotyó* lófasz* bibsi zsidrák csöcs* "
-            "didkó* megkefél* hímringyó ringyó*")
-            .split(u' ');
+        u"baszik basz baszás baszakod* basztat* megbasz* elbasz* kibasz* lebasz* felbasz* összebasz* átbasz* "
+        "baszd baszott bassza* buzi* buzer* buzeráns cigó fasz faszt fasza faszok faszfej* faszság* faszkalap "
+        "faszkarika faszopó fos fosik fosás* fosos geci* gecis kurva kurvá* kurvul* kúr megkúr* lekúr* "
+        "nigger* pina piná* picsa picsá* punci* ribanc* riherongy segg* szajha* "
+        "szar szaros* szarik szarás szarok szart szarrágó* szarfészek szarkupac szarság* szarházi* leszar* "
+        "beszarik beszari* elszar* kiszar* megszar* összeszar* szarakod* szopat* leszop* faszszopó* "
+        "bassz baszó köcsög*  pöcs* pöcsfej rüfke lotyó* lófasz* bibsi zsidrák csöcs* "
+        "didkó* megkefél* hímringyó ringyó*"_s.split(u' ');
     return language == Language::english ? english : hungarian;
 }
 

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -79,13 +81,13 @@ std::variant<Definition, QString> definition_of(QByteArrayView line, QByteArrayV
     const qsizetype first_tab = line.indexOf('\t');
     const qsizetype second_tab = line.indexOf('\t', first_tab + 1);
     if (first_tab < 1 || second_tab < 0)
-        return QStringLiteral("nem három oszlop van.");
+        return u"nem három oszlop van."_s;
     const auto offset = base64_number(line.sliced(first_tab + 1, second_tab - first_tab - 1));
     const auto length = base64_number(line.sliced(second_tab + 1));
     if (!offset || !length)
-        return QStringLiteral("értelmezhetetlen szám van.");
+        return u"értelmezhetetlen szám van."_s;
     if (*offset + *length > data.size())
-        return QStringLiteral("az adatfájlon kívülre mutató hely van.");
+        return u"az adatfájlon kívülre mutató hely van."_s;
     return Definition{line.first(first_tab), data.sliced(*offset, *length)};
 }
 
@@ -98,9 +100,9 @@ FileContent unpacked(QByteArrayView gzip, const QString &file) {
     while (status == Z_OK)
         status = inflater.append_to(bytes);
     if (status != Z_STREAM_END)
-        return damaged(file, QStringLiteral("nem ép gzip-fájl."));
+        return damaged(file, u"nem ép gzip-fájl."_s);
     if (!inflater.all_read())
-        return damaged(file, QStringLiteral("a gzip-adatok vége után is van benne valami."));
+        return damaged(file, u"a gzip-adatok vége után is van benne valami."_s);
     return bytes;
 }
 
@@ -111,11 +113,10 @@ std::variant<QVector<Definition>, Failure> definitions(QByteArrayView index, QBy
     while (!index.isEmpty()) {
         const qsizetype end = index.indexOf('\n');
         if (end < 0)
-            return damaged(index_file, QStringLiteral("az utolsó sora csonka."));
+            return damaged(index_file, u"az utolsó sora csonka."_s);
         const auto definition = definition_of(index.first(end), data);
         if (const auto *reason = std::get_if<QString>(&definition))
-            return damaged(index_file,
-                           QStringLiteral("a(z) %1. sorban %2").arg(QString::number(found.size() + 1), *reason));
+            return damaged(index_file, u"a(z) %1. sorban %2"_s.arg(QString::number(found.size() + 1), *reason));
         found.append(std::get<Definition>(definition));
         index = index.sliced(end + 1);
     }
@@ -123,7 +124,7 @@ std::variant<QVector<Definition>, Failure> definitions(QByteArrayView index, QBy
 }
 
 Failure damaged(const QString &file, const QString &reason) {
-    return {QStringLiteral("A(z) „%1” fájl sérült: %2").arg(file, reason)};
+    return {u"A(z) „%1” fájl sérült: %2"_s.arg(file, reason)};
 }
 
 }  // namespace freedict

@@ -6,6 +6,8 @@
 #include "dictionary/dictionary_search.h"
 #include "platform/code_page.h"
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -26,24 +28,24 @@ QString mended(const QString &text, const Dictionary &dictionary) {
 
 /// A colon would end the headword where it stands.
 QString without_colon(QString text) {
-    return text.replace(u':', QStringLiteral(" –"));
+    return text.replace(u':', u" –"_s);
 }
 
 FileContent encoded(const QString &line, const QString &name) {
     const std::optional<QByteArray> bytes = code_page::encode(line);
     if (bytes)
         return *bytes;
-    return Failure{QStringLiteral("A(z) %1 nem írható ki: a „%2” karakter nincs meg a windows-1250 kódlapon.")
-                       .arg(name, code_page::first_missing(line))};
+    return Failure{u"A(z) %1 nem írható ki: a „%2” karakter nincs meg a windows-1250 kódlapon."_s.arg(
+        name, code_page::first_missing(line))};
 }
 
 FileContent line_of(const Entry &entry, const Dictionary &dictionary) {
-    const QString name = QStringLiteral("%1 szótár „%2” szócikke").arg(dictionary.title, entry.headword);
+    const QString name = u"%1 szótár „%2” szócikke"_s.arg(dictionary.title, entry.headword);
     QString line = without_colon(mended(entry.headword, dictionary)) + after_headword;
     for (const QString &raw : entry.meanings) {
         const QString meaning = mended(raw, dictionary);
         if (meaning.contains(after_meaning)) {
-            return Failure{QStringLiteral("A(z) %1 nem írható ki: a(z) „%2” jelentésben „÷” jel áll.").arg(name, raw)};
+            return Failure{u"A(z) %1 nem írható ki: a(z) „%2” jelentésben „÷” jel áll."_s.arg(name, raw)};
         }
         line += meaning + after_meaning;
     }
@@ -52,13 +54,12 @@ FileContent line_of(const Entry &entry, const Dictionary &dictionary) {
 
 FileContent notice_of(const Package &package, const Dictionary &dictionary) {
     QString notice =
-        QStringLiteral(
-            "A FreeDict (freedict.org) %1 szótára a Zimbora szótárfájljává alakítva, az elírt ékezetek javításával. "
-            "%2, kiadása %3, %4 címszó. Felhasználási feltételei – %5")
-            .arg(dictionary.title, package.name, package.edition, QString::number(package.stated_headwords),
-                 package.licence);
+        u"A FreeDict (freedict.org) %1 szótára a Zimbora szótárfájljává alakítva, az elírt ékezetek javításával. "
+        "%2, kiadása %3, %4 címszó. Felhasználási feltételei – %5"_s.arg(
+            dictionary.title, package.name, package.edition, QString::number(package.stated_headwords),
+            package.licence);
     notice = without_colon(notice).replace(after_meaning, u'/').simplified();
-    return encoded(notice, QStringLiteral("%1 szótár első sora").arg(dictionary.title));
+    return encoded(notice, u"%1 szótár első sora"_s.arg(dictionary.title));
 }
 
 }  // namespace
@@ -115,14 +116,13 @@ Counts counts_in(QByteArrayView text) {
 std::optional<Failure> difference(const Package &package, const Counts &written) {
     const Counts read = counts_of(package.entries);
     if (written.entries != package.stated_headwords) {
-        return Failure{
-            QStringLiteral("A(z) „%1” leírása szerint %2 címszava van, de %3 szócikke írható ki.")
-                .arg(package.name, QString::number(package.stated_headwords), QString::number(written.entries))};
+        return Failure{u"A(z) „%1” leírása szerint %2 címszava van, de %3 szócikke írható ki."_s.arg(
+            package.name, QString::number(package.stated_headwords), QString::number(written.entries))};
     }
     if (written != read) {
-        return Failure{QStringLiteral("A(z) „%1” %2 szócikkéből és %3 jelentéséből %4 szócikk és %5 jelentés maradt.")
-                           .arg(package.name, QString::number(read.entries), QString::number(read.meanings),
-                                QString::number(written.entries), QString::number(written.meanings))};
+        return Failure{u"A(z) „%1” %2 szócikkéből és %3 jelentéséből %4 szócikk és %5 jelentés maradt."_s.arg(
+            package.name, QString::number(read.entries), QString::number(read.meanings),
+            QString::number(written.entries), QString::number(written.meanings))};
     }
     return std::nullopt;
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <tuple>
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -12,7 +14,7 @@ bool holds_all(const QStringList &forms, const QStringList &others) {
 
 /// How well a headword tells its forms: by their number, without those that nobody uses any more.
 qsizetype completeness(const Entry &entry) {
-    static const QStringList archaic{QStringLiteral("holden"), QStringLiteral("slank"), QStringLiteral("span")};
+    static const QStringList archaic{u"holden"_s, u"slank"_s, u"span"_s};
     QStringList forms = further_forms(entry.headword, Language::english);
     const bool is_archaic = std::ranges::any_of(forms, [](const QString &form) { return archaic.contains(form); });
     forms.removeDuplicates();

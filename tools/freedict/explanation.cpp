@@ -3,6 +3,8 @@
 #include "freedict/meaning_order.h"
 #include "freedict/preparation.h"
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -23,25 +25,24 @@ QString line_of(const PlacedMeaning &placed) {
     }
     QString place;
     if (placed.group == 0)
-        place = QStringLiteral(" [kiegészítés]");
+        place = u" [kiegészítés]"_s;
     else if (placed.group == 1)
-        place = QStringLiteral(" [kiegészítés másik iránya]");
+        place = u" [kiegészítés másik iránya]"_s;
     if (placed.coarse)
-        place += QStringLiteral(" [durva]");
-    return QStringLiteral("  %1%2 %3 = %4\n")
-        .arg(placed.meaning, place, number(placed.score), parts.join(QStringLiteral(" + ")));
+        place += u" [durva]"_s;
+    return u"  %1%2 %3 = %4\n"_s.arg(placed.meaning, place, number(placed.score), parts.join(u" + "_s));
 }
 
 QString reason_of(Mend::Reason reason) {
     switch (reason) {
         case Mend::Reason::blanks:
-            return QStringLiteral("szóköz");
+            return u"szóköz"_s;
         case Mend::Reason::bracket:
-            return QStringLiteral("zárójel");
+            return u"zárójel"_s;
         case Mend::Reason::three_letters:
-            return QStringLiteral("három betű");
+            return u"három betű"_s;
         case Mend::Reason::neighbour:
-            return QStringLiteral("elírás");
+            return u"elírás"_s;
     }
     return {};
 }
@@ -63,13 +64,13 @@ std::variant<QString, Failure> explanation(const Sources &sources, const QString
         for (const Entry &entry : lexicon.in(dictionary.language)) {
             if (!is_asked_for(entry, word, dictionary.language))
                 continue;
-            text += QStringLiteral("%1 (%2)\n").arg(entry.headword, dictionary.title);
+            text += u"%1 (%2)\n"_s.arg(entry.headword, dictionary.title);
             for (const PlacedMeaning &placed : placed_meanings(features, dictionary.language, entry))
                 text += line_of(placed);
         }
     }
     if (text.isEmpty())
-        return Failure{QStringLiteral("A(z) „%1” szó egyik szótárban sincs meg.").arg(word)};
+        return Failure{u"A(z) „%1” szó egyik szótárban sincs meg."_s.arg(word)};
     return text;
 }
 
@@ -83,10 +84,10 @@ std::variant<QString, Failure> list_of_mends(const Sources &sources) {
     const auto &result = std::get<Prepared>(ready);
     QString text;
     for (const Mend &mend : result.mends)
-        text += QStringLiteral("%1 → %2 (%3)\n").arg(mend.text, mend.mended, reason_of(mend.reason));
-    text += QStringLiteral("Javított elírás: %1. Nagybetűssé lett szöveg: %2. Több címszóként maradt szó: %3.\n")
-                .arg(QString::number(result.mends.size()), QString::number(result.done[0].capitals),
-                     QString::number(result.doubled_left));
+        text += u"%1 → %2 (%3)\n"_s.arg(mend.text, mend.mended, reason_of(mend.reason));
+    text += u"Javított elírás: %1. Nagybetűssé lett szöveg: %2. Több címszóként maradt szó: %3.\n"_s.arg(
+        QString::number(result.mends.size()), QString::number(result.done[0].capitals),
+        QString::number(result.doubled_left));
     return text;
 }
 

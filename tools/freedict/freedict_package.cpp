@@ -7,6 +7,8 @@
 
 #include "freedict/dictd_files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -38,7 +40,7 @@ std::pair<QString, QString> taken_apart(const QString &line) {
 /// Takes the numbers off an entry's meanings; false when they are not 1, 2, 3, …
 bool take_numbers_off(QStringList &meanings) {
     for (qsizetype i = 0; i < meanings.size(); ++i) {
-        const QString number = QString::number(i + 1) + QStringLiteral(". ");
+        const QString number = QString::number(i + 1) + u". "_s;
         if (!meanings[i].startsWith(number))
             return false;
         meanings[i].remove(0, number.size());
@@ -66,7 +68,7 @@ bool names_licence(const QString &text) {
 
 QString licence_of(const QStringList &lines) {
     QString licence;
-    for (qsizetype i = lines.indexOf(QStringLiteral("Availability:")) + 1; i > 0 && i < lines.size(); ++i) {
+    for (qsizetype i = lines.indexOf(u"Availability:"_s) + 1; i > 0 && i < lines.size(); ++i) {
         const bool new_section = !lines[i].isEmpty() && !lines[i].startsWith(u' ');
         const bool new_paragraph = lines[i].startsWith(u"    ");
         if (new_section || (new_paragraph && names_licence(licence)))
@@ -93,7 +95,7 @@ std::optional<Package> described_by(QByteArrayView description) {
     package.edition = labelled(lines, u"Edition:");
     package.licence = licence_of(lines);
     const QString size = labelled(lines, u"Size:");
-    const QString unit = QStringLiteral(" headwords");
+    const QString unit = u" headwords"_s;
     bool is_number = false;
     package.stated_headwords = size.chopped(size.endsWith(unit) ? unit.size() : 0).toLongLong(&is_number);
     if (package.name.isEmpty() || package.edition.isEmpty() || package.licence.isEmpty() || !is_number)
@@ -106,12 +108,12 @@ PackageResult package_of(const QVector<Definition> &definitions, const QString &
         return definition.index_word == "00databaseinfo";
     });
     if (description == definitions.end())
-        return damaged(name, QStringLiteral("nincs benne a csomag leírása (00databaseinfo)."));
+        return damaged(name, u"nincs benne a csomag leírása (00databaseinfo)."_s);
     std::optional<Package> package = described_by(description->text);
     if (!package) {
         return damaged(name,
-                       QStringLiteral("a csomag leírásából (00databaseinfo) hiányzik a név, a kiadás, a címszavak "
-                                      "száma vagy a GNU GPL engedély."));
+                       u"a csomag leírásából (00databaseinfo) hiányzik a név, a kiadás, a címszavak "
+                       "száma vagy a GNU GPL engedély."_s);
     }
     return *std::move(package);
 }
@@ -119,11 +121,11 @@ PackageResult package_of(const QVector<Definition> &definitions, const QString &
 }  // namespace
 
 PackageResult parse_package(QByteArrayView index, QByteArrayView data, const QString &name, const Steps &steps) {
-    const auto found = definitions(index, data, name + QStringLiteral(".index"));
+    const auto found = definitions(index, data, name + u".index"_s);
     if (const auto *failure = std::get_if<Failure>(&found))
         return *failure;
     const auto &all = std::get<QVector<Definition>>(found);
-    const QString data_file = name + QStringLiteral(".dict.dz");
+    const QString data_file = name + u".dict.dz"_s;
     PackageResult result = package_of(all, data_file);
     auto *package = std::get_if<Package>(&result);
     if (package == nullptr)
@@ -136,8 +138,8 @@ PackageResult parse_package(QByteArrayView index, QByteArrayView data, const QSt
             continue;
         std::optional<Entry> entry = entry_of(all[i].text);
         if (!entry) {
-            return damaged(data_file, QStringLiteral("értelmezhetetlen a(z) „%1” szócikk (az index %2. sora).")
-                                          .arg(QString::fromUtf8(all[i].index_word), QString::number(i + 1)));
+            return damaged(data_file, u"értelmezhetetlen a(z) „%1” szócikk (az index %2. sora)."_s.arg(
+                                          QString::fromUtf8(all[i].index_word), QString::number(i + 1)));
         }
         package->entries.append(*std::move(entry));
     }
@@ -146,10 +148,10 @@ PackageResult parse_package(QByteArrayView index, QByteArrayView data, const QSt
 
 PackageResult read_package(const QString &folder, const QString &name, const Steps &steps) {
     const QDir place(folder);
-    const FileContent index = files::read_whole(place.filePath(name + QStringLiteral(".index")));
+    const FileContent index = files::read_whole(place.filePath(name + u".index"_s));
     if (const auto *failure = std::get_if<Failure>(&index))
         return *failure;
-    const QString data_file = name + QStringLiteral(".dict.dz");
+    const QString data_file = name + u".dict.dz"_s;
     const FileContent packed = files::read_whole(place.filePath(data_file));
     if (const auto *failure = std::get_if<Failure>(&packed))
         return *failure;

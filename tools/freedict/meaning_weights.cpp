@@ -2,14 +2,14 @@
 
 namespace freedict {
 
-// zimbora-fit writes these.
+// What zimbora-fit prints for tools/freedict/known_meanings.
 const Features &weights(Language headwords) {
-    static constexpr Features english{0.315,  0.084,  1.126,  0.085, 0.336,  0.665,  0.151, -2.009,
-                                      -2.617, -0.211, -0.133, 0.284, -1.462, -0.165, 2.210, -3.418,
-                                      5.574,  5.488,  0.310,  2.626, 0.000,  0.000};
-    static constexpr Features hungarian{0.455, 0.221,  0.678, 0.346,  0.356,  0.373, 0.060, 0.022,
-                                        0.000, -1.005, 0.064, -0.076, -0.439, 0.000, 0.581, -0.183,
-                                        6.133, 3.641,  1.154, 1.061,  -1.121, 0.665};
+    static constexpr Features english{0.318,  0.089,  1.129,  0.087, 0.328,  0.667,  0.152, -2.009,
+                                      -2.632, -0.194, -0.149, 0.289, -1.460, -0.178, 2.369, -3.457,
+                                      5.546,  5.428,  0.255,  2.800, 0.000,  0.000};
+    static constexpr Features hungarian{0.492, 0.212,  0.646, 0.355,  0.335,  0.356, 0.058, 0.053,
+                                        0.000, -0.983, 0.055, -0.079, -0.482, 0.000, 0.585, -0.193,
+                                        6.925, 3.504,  1.129, 1.152,  -1.141, 0.672};
     return headwords == Language::english ? english : hungarian;
 }
 

@@ -4,6 +4,8 @@
 #include "freedict/doubled_headwords.h"
 #include "freedict/supplement_merge.h"
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -74,10 +76,9 @@ std::optional<Failure> lost(const Prepared &result, Language language) {
                           .meanings = done.read.meanings - done.joined.meanings + done.added.meanings};
     if (now == expected)
         return std::nullopt;
-    return Failure{QStringLiteral("A(z) %1 szótárban %2 szócikk és %3 jelentés helyett %4 és %5 van.")
-                       .arg(done.dictionary.title, QString::number(expected.entries),
-                            QString::number(expected.meanings), QString::number(now.entries),
-                            QString::number(now.meanings))};
+    return Failure{u"A(z) %1 szótárban %2 szócikk és %3 jelentés helyett %4 és %5 van."_s.arg(
+        done.dictionary.title, QString::number(expected.entries), QString::number(expected.meanings),
+        QString::number(now.entries), QString::number(now.meanings))};
 }
 
 }  // namespace

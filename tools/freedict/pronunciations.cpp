@@ -7,6 +7,8 @@
 #include "dictionary/dictionary_search.h"
 #include "freedict/dictionary_text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -20,10 +22,8 @@ bool is_consonant(QChar sound) {
 /// What an English syllable can begin with, beside nothing and one consonant.
 bool begins_syllable(const QString &consonants) {
     static const QStringList list =
-        QStringLiteral(
-            "tʃ dʒ pl bl kl ɡl fl sl pɹ bɹ tɹ dɹ kɹ ɡɹ fɹ θɹ ʃɹ tw dw kw ɡw θw sw sp st sk sm sn sf spl spɹ stɹ skɹ "
-            "skw pj bj tj dj kj fj vj mj nj hj lj sj θj zj ɡj spj stj skj")
-            .split(u' ');
+        u"tʃ dʒ pl bl kl ɡl fl sl pɹ bɹ tɹ dɹ kɹ ɡɹ fɹ θɹ ʃɹ tw dw kw ɡw θw sw sp st sk sm sn sf spl spɹ stɹ skɹ "
+        "skw pj bj tj dj kj fj vj mj nj hj lj sj θj zj ɡj spj stj skj"_s.split(u' ');
     static const QSet<QString> beginnings(list.begin(), list.end());
     return consonants.size() <= 1 ? consonants != u"ŋ" : beginnings.contains(consonants);
 }
@@ -64,11 +64,11 @@ QString with_moved_stress(const QString &word) {
 /// The package reads these abbreviations letter by letter.
 QString read_out(const QString &headword_word, const QString &sounds) {
     if (headword_word == u"sg")
-        return QStringLiteral("sˈʌmθɪŋ");
+        return u"sˈʌmθɪŋ"_s;
     if (headword_word == u"sy")
-        return QStringLiteral("sˈʌmbədi");
+        return u"sˈʌmbədi"_s;
     if (headword_word == u"sy's")
-        return QStringLiteral("sˈʌmbədiz");
+        return u"sˈʌmbədiz"_s;
     return sounds;
 }
 
@@ -93,11 +93,10 @@ QByteArray pronunciation_text(const Package &package, const QVector<Entry> &entr
     }
     std::ranges::stable_sort(lines, {}, [](const QByteArray &line) { return keresőkulcs(QByteArrayView(line)); });
     QString notice =
-        QStringLiteral(
-            "A FreeDict (freedict.org) angol–magyar szótárának kiejtési jelölése, a hangsúlyjelek a szótag "
-            "elé téve. %1, kiadása %2, %3 címszó. Felhasználási feltételei – %4")
-            .arg(package.name, package.edition, QString::number(package.stated_headwords), package.licence);
-    QByteArray text = notice.replace(u':', QStringLiteral(" –")).simplified().toUtf8() + "\r\n";
+        u"A FreeDict (freedict.org) angol–magyar szótárának kiejtési jelölése, a hangsúlyjelek a szótag "
+        "elé téve. %1, kiadása %2, %3 címszó. Felhasználási feltételei – %4"_s.arg(
+            package.name, package.edition, QString::number(package.stated_headwords), package.licence);
+    QByteArray text = notice.replace(u':', u" –"_s).simplified().toUtf8() + "\r\n";
     for (const QByteArray &line : lines)
         text += line + "\r\n";
     return text;

@@ -4,13 +4,15 @@
 #include <QFile>
 #include <hunspell/hunspell.hxx>
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
 QStringList names_of(Language language) {
     if (language == Language::hungarian)
-        return {QStringLiteral("hu_HU")};
-    return {QStringLiteral("en_GB"), QStringLiteral("en_US")};
+        return {u"hu_HU"_s};
+    return {u"en_GB"_s, u"en_US"_s};
 }
 
 }  // namespace
@@ -24,17 +26,16 @@ std::variant<SpellingDictionary, Failure> SpellingDictionary::read(const QString
     SpellingDictionary spelling;
     for (const QString &name : names_of(language)) {
         const QString base = QDir(folder).filePath(name);
-        const FileContent rules = files::read_whole(base + QStringLiteral(".aff"));
+        const FileContent rules = files::read_whole(base + u".aff"_s);
         if (const auto *failure = std::get_if<Failure>(&rules))
             return *failure;
-        const FileContent words = files::read_whole(base + QStringLiteral(".dic"));
+        const FileContent words = files::read_whole(base + u".dic"_s);
         if (const auto *failure = std::get_if<Failure>(&words))
             return *failure;
-        spelling.dictionaries_.push_back(
-            std::make_unique<Hunspell>(QFile::encodeName(base + QStringLiteral(".aff")).constData(),
-                                       QFile::encodeName(base + QStringLiteral(".dic")).constData()));
+        spelling.dictionaries_.push_back(std::make_unique<Hunspell>(QFile::encodeName(base + u".aff"_s).constData(),
+                                                                    QFile::encodeName(base + u".dic"_s).constData()));
         for (const QByteArray &line : std::get<QByteArray>(words).split('\n')) {
-            const QString word = QString::fromUtf8(line.left(line.indexOf('/')).trimmed());
+            const QString word = QString::fromUtf8(line).section(u'/', 0, 0).trimmed();
             QStringList &spellings = spelling.capitals_[word.toLower()];
             if (word != word.toLower() && !spellings.contains(word))
                 spellings.append(word);

@@ -4,6 +4,8 @@
 #include <QSet>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -80,7 +82,7 @@ class Direction final {
         }
         return *std::ranges::min_element(places, {}, [this](qsizetype place) {
             const QString &headword = entries_[place].headword;
-            return headword + (headword.contains(u',') ? QString() : QStringLiteral(":"));
+            return headword + (headword.contains(u',') ? QString() : u":"_s);
         });
     }
 

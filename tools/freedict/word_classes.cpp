@@ -3,6 +3,8 @@
 #include <QDir>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -16,7 +18,7 @@ std::variant<WordClasses, Failure> WordClasses::read(const QString &folder) {
     for (const int size : sizes) {
         for (const char *kind : kinds) {
             const QString path =
-                QDir(folder).filePath(QStringLiteral("%1.%2").arg(QString::fromLatin1(kind), QString::number(size)));
+                QDir(folder).filePath(u"%1.%2"_s.arg(QString::fromLatin1(kind), QString::number(size)));
             // Not every kind has a list of every size.
             if (!classes.classes_.isEmpty() && !files::exists(path))
                 continue;

@@ -3,6 +3,8 @@
 #include <QSet>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -12,15 +14,11 @@ constexpr qsizetype longest_rest = 6;  // letters of a relative behind the stem
 QStringList endings_of(Language language) {
     // The longest that fits comes off, so longer ones stand before their ends.
     static const QStringList english =
-        QStringLiteral(
-            "fully ingly ation ition ness ment able ible tion sion ance ence less edly ful ing ion ity ive "
-            "ily ous ial ed er or ly al ic ce cy y e s")
-            .split(u' ');
+        u"fully ingly ation ition ness ment able ible tion sion ance ence less edly ful ing ion ity ive "
+        "ily ous ial ed er or ly al ic ce cy y e s"_s.split(u' ');
     static const QStringList hungarian =
-        QStringLiteral(
-            "hetetlen hetőség talan telen tlan tlen hető ható ságos séges ság ség tás tés ás és ós ős os "
-            "es ös as i ít ul ül an en ban ben ó ő ik l t ál él")
-            .split(u' ');
+        u"hetetlen hetőség talan telen tlan tlen hető ható ságos séges ság ség tás tés ás és ós ős os "
+        "es ös as i ít ul ül an en ban ben ó ő ik l t ál él"_s.split(u' ');
     return language == Language::english ? english : hungarian;
 }
 
@@ -29,8 +27,7 @@ qsizetype beginning_of(Language language) {
 }
 
 QString without_preverb(const QString &word) {
-    static const QStringList preverbs =
-        QStringLiteral("meg el ki be le fel föl össze vissza át rá hozzá oda túl szét").split(u' ');
+    static const QStringList preverbs = u"meg el ki be le fel föl össze vissza át rá hozzá oda túl szét"_s.split(u' ');
     for (const QString &preverb : preverbs) {
         if (word.startsWith(preverb) && word.size() > preverb.size() + 2)
             return word.sliced(preverb.size());

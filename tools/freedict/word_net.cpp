@@ -8,6 +8,8 @@
 
 #include "freedict/dictd_files.h"
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -22,10 +24,8 @@ constexpr float in_gloss = 0.2F;
 
 const QSet<QString> &little_words() {
     static const QStringList list =
-        QStringLiteral(
-            "a an the of or to in for and by with that is on as be from at not any used his your one having "
-            "something someone")
-            .split(u' ');
+        u"a an the of or to in for and by with that is on as be from at not any used his your one having "
+        "something someone"_s.split(u' ');
     static const QSet<QString> set(list.begin(), list.end());
     return set;
 }
@@ -38,7 +38,8 @@ QString word_from(const QByteArray &lemma) {
 QStringList gloss_words(const QByteArray &gloss) {
     QStringList words;
     QString word;
-    const QByteArray text = gloss.left(gloss.indexOf('"')).toLower() + ' ';
+    const qsizetype examples = gloss.indexOf('"');
+    const QByteArray text = gloss.first(examples < 0 ? gloss.size() : examples).toLower() + ' ';
     for (const char character : text) {
         if (character >= 'a' && character <= 'z') {
             word += QLatin1Char(character);
@@ -64,7 +65,7 @@ std::optional<Failure> for_each_line(const QString &path, const Add &add) {
     const QList<QByteArray> lines = std::get<QByteArray>(content).split('\n');
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (!lines[i].isEmpty() && !lines[i].startsWith("  ") && !add(lines[i])) {
-            return damaged(path, QStringLiteral("értelmezhetetlen a(z) %1. sora.").arg(i + 1));
+            return damaged(path, u"értelmezhetetlen a(z) %1. sora."_s.arg(i + 1));
         }
     }
     return std::nullopt;
@@ -77,12 +78,12 @@ std::variant<WordNet, Failure> WordNet::read(const QString &folder) {
     WordNet net;
     for (const auto &[pos, name] : kinds) {
         const QString ending = QString::fromLatin1(name);
-        if (const auto failure = net.read_data(place.filePath(QStringLiteral("data.") + ending), pos))
+        if (const auto failure = net.read_data(place.filePath(u"data."_s + ending), pos))
             return *failure;
-        if (const auto failure = net.read_index(place.filePath(QStringLiteral("index.") + ending), pos))
+        if (const auto failure = net.read_index(place.filePath(u"index."_s + ending), pos))
             return *failure;
     }
-    if (const auto failure = net.read_counts(place.filePath(QStringLiteral("cntlist.rev"))))
+    if (const auto failure = net.read_counts(place.filePath(u"cntlist.rev"_s)))
         return *failure;
     net.relate();
     return net;

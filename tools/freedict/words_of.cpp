@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace freedict {
 namespace {
 
@@ -11,11 +13,11 @@ bool begins_verb(const QString &text) {
 
 /// Where the further forms begin; −1 when the text has none.
 qsizetype comma_before_forms(const QString &text, Language language) {
-    const qsizetype comma = text.indexOf(QStringLiteral(", "));
+    const qsizetype comma = text.indexOf(u", "_s);
     if (language == Language::hungarian || comma < 0)
         return -1;
     const QString base = text.first(comma).sliced(begins_verb(text) ? verb_mark.size() : 0);
-    const QStringList forms = text.sliced(comma + 2).split(QStringLiteral(", "));
+    const QStringList forms = text.sliced(comma + 2).split(u", "_s);
     const bool all = std::ranges::all_of(forms, [&](const QString &form) {
         const bool same_length = form.count(u' ') == base.count(u' ');
         return same_length && (begins_verb(text) || (!form.isEmpty() && !base.isEmpty() && form[0] == base[0]));
@@ -32,7 +34,7 @@ QString base_form(const QString &text, Language language) {
 
 QStringList further_forms(const QString &text, Language language) {
     const qsizetype comma = comma_before_forms(text, language);
-    return comma < 0 ? QStringList() : text.sliced(comma + 2).split(QStringLiteral(", "));
+    return comma < 0 ? QStringList() : text.sliced(comma + 2).split(u", "_s);
 }
 
 QString without_brackets(const QString &text) {
@@ -72,8 +74,8 @@ QStringList words_of(const QString &text, Language language) {
 }
 
 QString folded(const QString &text) {
-    static const QString from = QStringLiteral("áéíóöőúüű");
-    static const QString to = QStringLiteral("aeiooouuu");
+    static const QString from = u"áéíóöőúüű"_s;
+    static const QString to = u"aeiooouuu"_s;
     QString result = text.toLower();
     for (QChar &character : result) {
         const qsizetype at = from.indexOf(character);

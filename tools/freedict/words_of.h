@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -10,7 +9,7 @@ namespace freedict {
 enum class Language { english, hungarian };
 
 /// What an English verb begins with, as a word of its own: it tells verbs from nouns.
-inline const QString verb_mark = QStringLiteral("to ");
+inline const QString verb_mark = QString::fromUtf16(u"to ");
 
 /// The text without the further forms that the package lists behind it: "to go, went, gone" is "to go", "foot, feet" is
 /// "foot". A comma that stands in a sentence stays.
@@ -25,8 +24,7 @@ inline const QString verb_mark = QStringLiteral("to ");
 /// The words of a text in small letters, without what stands in brackets; an English verb's "to " is the first word.
 [[nodiscard]] QStringList words_of(const QString &text, Language language);
 
-/// The letters and their two neighbours' forms folded: á is a, ő and ó are o and so on, as they change in Hungarian
-/// before an ending.
+/// The text in small letters without accents: á is a; ó, ö and ő are o; and so on.
 [[nodiscard]] QString folded(const QString &text);
 
 }  // namespace freedict
