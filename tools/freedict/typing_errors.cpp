@@ -1,9 +1,12 @@
 #include "freedict/typing_errors.h"
 
+#include <QSet>
 #include <algorithm>
 #include <optional>
 
 #include "freedict/word_pairs.h"
+
+using namespace Qt::StringLiterals;
 
 namespace freedict {
 namespace {
@@ -27,6 +30,17 @@ bool are_neighbours(const QString &first, const QString &second) {
         return true;
     return at + 1 < first.size() && first[at] == second[at + 1] && first[at + 1] == second[at] &&
            first.sliced(at + 2) == second.sliced(at + 2);
+}
+
+/// Rare words, other spellings and endings of words that look like typing errors and are none.
+bool is_right_though_rare(const QString &text) {
+    static const QSet<QString> right{
+        u"-szor"_s,    u"-ször"_s,       u"hippogryff"_s,  u"impellor"_s,    u"knobly"_s,    u"kotow"_s,
+        u"minever"_s,  u"nightshift"_s,  u"nurd"_s,        u"nurseling"_s,   u"pretorian"_s, u"stogy"_s,
+        u"tich"_s,     u"to blatter"_s,  u"to blether"_s,  u"to dumfound"_s, u"to fuze"_s,   u"to indorse"_s,
+        u"to kotow"_s, u"to schmoose"_s, u"to slubber"_s,  u"to wabble"_s,   u"to whump"_s,  u"to womp"_s,
+        u"trist"_s,    u"unbiassed"_s,   u"vortiginous"_s, u"wabble"_s,      u"yoghourt"_s,  u"szipuzik"_s};
+    return right.contains(text);
 }
 
 bool is_known(const QString &word, const SpellingDictionary &spelling) {
@@ -94,6 +108,8 @@ std::optional<Mend> mend_of_signs(const QString &text, Language language) {
 std::optional<Mend> mend_of_letters(const Texts &texts, const Texts &others, int text,
                                     const SpellingDictionary &spelling) {
     const QString &wrong = texts.texts[text];
+    if (is_right_though_rare(wrong))
+        return std::nullopt;
     const QStringList neighbours = neighbours_of(texts, others, text);
     if (neighbours.isEmpty() && three_letters_in(wrong) < 0)
         return std::nullopt;
