@@ -43,8 +43,9 @@ test_the_typed_quiz_is_answered_with_one_mistake() {
 
 # Where the texts of the multiple choice stand: left, top, width and height in twips of the design.
 readonly question="120 860 4500 1000"
-readonly first_candidate="120 2100 6200 640"
-readonly second_candidate="120 2860 6200 640"
+# The candidates without the digits of their keys at their left.
+readonly first_candidate="900 2100 5420 640"
+readonly second_candidate="900 2860 5420 640"
 
 find_place_of_choice() {
     find_place_in_exercise 9880 5780 "$@"
