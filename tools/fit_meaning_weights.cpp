@@ -50,13 +50,13 @@ int run(const QString &folder) {
         QTextStream(stderr) << failure->sentence << Qt::endl;
         return 1;
     }
-    const auto &material = std::get<Material>(read);
+    const auto &material = *std::get_if<Material>(&read);
     const auto ready = prepared(material);
     if (const auto *failure = std::get_if<Failure>(&ready)) {
         QTextStream(stderr) << failure->sentence << Qt::endl;
         return 1;
     }
-    const Lexicon &lexicon = std::get<Prepared>(ready).lexicon;
+    const Lexicon &lexicon = std::get_if<Prepared>(&ready)->lexicon;
     const WordPairs pairs = word_pairs(lexicon.english, lexicon.hungarian);
     const MeaningFeatures features(pairs, material.outside);
     QTextStream out(stdout);
@@ -68,7 +68,7 @@ int run(const QString &folder) {
             return 1;
         }
         out << name << Qt::endl;
-        print_figures(out, choices_of(std::get<QVector<KnownMeanings>>(known), lexicon, language, features));
+        print_figures(out, choices_of(*std::get_if<QVector<KnownMeanings>>(&known), lexicon, language, features));
     }
     return 0;
 }

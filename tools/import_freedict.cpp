@@ -91,7 +91,7 @@ std::variant<Request, Failure> request_of(QStringList arguments) {
             const auto result = taken(option, argument, arguments);
             if (const auto *failure = std::get_if<Failure>(&result))
                 return *failure;
-            is_option = is_option || std::get<bool>(result);
+            is_option = is_option || *std::get_if<bool>(&result);
         }
         if (is_option)
             continue;
@@ -185,7 +185,7 @@ int print(const std::variant<QString, Failure> &text) {
         QTextStream(stderr) << failure->sentence << Qt::endl;
         return failed;
     }
-    QTextStream(stdout) << std::get<QString>(text);
+    QTextStream(stdout) << *std::get_if<QString>(&text);
     return done;
 }
 

@@ -32,14 +32,14 @@ std::variant<word_lists::File, Failure> list_of(const QDir &folder, const QStrin
     const FileContent content = files::read_whole(folder.filePath(file));
     if (const auto *failure = std::get_if<Failure>(&content))
         return *failure;
-    const auto source = word_lists::parse(std::get<QByteArray>(content), file);
+    const auto source = word_lists::parse(*std::get_if<QByteArray>(&content), file);
     if (const auto *failure = std::get_if<Failure>(&source))
         return *failure;
-    const auto &parsed = std::get<word_lists::Source>(source);
+    const auto &parsed = *std::get_if<word_lists::Source>(&source);
     const FileContent bytes = szsfájl::ír(parsed.pairs);
     if (const auto *failure = std::get_if<Failure>(&bytes))
         return Failure{u"%1: %2"_s.arg(file, failure->sentence)};
-    return word_lists::File{parsed.name + u".szs"_s, std::get<QByteArray>(bytes)};
+    return word_lists::File{parsed.name + u".szs"_s, *std::get_if<QByteArray>(&bytes)};
 }
 
 std::variant<int, Failure> make(const QString &sources, const QString &output, const QString &record) {
@@ -49,7 +49,7 @@ std::variant<int, Failure> make(const QString &sources, const QString &output, c
         const auto list = list_of(folder, file);
         if (const auto *failure = std::get_if<Failure>(&list))
             return *failure;
-        lists.append(std::get<word_lists::File>(list));
+        lists.append(*std::get_if<word_lists::File>(&list));
     }
     if (lists.isEmpty())
         return Failure{u"A(z) „%1” mappában nincs szószedet forrása."_s.arg(sources)};
@@ -76,6 +76,6 @@ int main(int count, char *values[]) {
         QTextStream(stderr) << failure->sentence << Qt::endl;
         return failed;
     }
-    QTextStream(stdout) << u"%1 szószedet készült.\n"_s.arg(std::get<int>(result));
+    QTextStream(stdout) << u"%1 szószedet készült.\n"_s.arg(*std::get_if<int>(&result));
     return done;
 }
