@@ -61,7 +61,7 @@ convert -size 164x314 xc:'#dfe7f2' "$here/../../resources/icon/zimbora-128.png" 
     BMP3:"$package/side.bmp"
 makensis -V2 -WX -INPUTCHARSET UTF8 -DVERSION="$version" -DFILES="$package/files.nsh" \
     -DPLAYLIST="$installed/program/kavaro/zenebeáll.ini" -DPICTURE="$package/side.bmp" \
-    -DICON="$build/src/zimbora.ico" -DSIZE="$(du --summarize --block-size=1K --apparent-size "$installed" | cut -f1)" \
+    -DICON="$build/src/app/zimbora.ico" -DSIZE="$(du --summarize --block-size=1K --apparent-size "$installed" | cut -f1)" \
     -DOUTPUT="$package/zimbora-$version-windows-installer.exe" "$here/zimbora.nsi"
 (cd "$package" && cmake -E tar cf "zimbora-$version-windows-portable.zip" --format=zip "$folder")
 ls "$package"/*.exe "$package"/*.zip
