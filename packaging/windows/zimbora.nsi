@@ -179,16 +179,20 @@ Section
     ${EndIf}
   ${EndIf}
 
+  StrCpy $R3 0
+  ${If} ${FileExists} "$INSTDIR\${UNINSTALLER}"
+    StrCpy $R3 1
+  ${EndIf}
   ; What can be removed again is known from the beginning, so that an installation that is broken off can be, too. A
   ; former version in the same folder is written over: every version so far has had the same parts.
   SetOutPath "$INSTDIR"
   WriteUninstaller "$INSTDIR\${UNINSTALLER}"
   !insertmacro install_files
 
-  ; Once for each folder: what the user has deleted of them does not come back.
+  ; Not with an update of a version that has given them: what the user has deleted of them does not come back.
   ReadRegStr $R2 HKCU "${UNINSTALL_KEY}" WordListsGiven
   ${If} $R2 == ""
-  ${OrIf} $R1 != $INSTDIR
+  ${OrIf} $R3 = 0
     !insertmacro install_word_lists
   ${EndIf}
 
