@@ -236,31 +236,50 @@ Section
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
-; Removes an initial setting that has not been changed: "file" has the same bytes as the one it was installed from.
+; $0 = 1 when the files $1 and $2 have the same bytes. They are compared as wholes: each instruction costs a step of the
+; progress bar on the screen, so that a loop over the bytes takes minutes.
+Function un.have_same_bytes
+  StrCpy $0 0
+  ClearErrors
+  FileOpen $3 "$1" r
+  FileOpen $4 "$2" r
+  ${IfNot} ${Errors}
+    FileSeek $3 0 END $5
+    FileSeek $4 0 END $6
+    ${If} $5 = $6
+      FileSeek $3 0
+      FileSeek $4 0
+      System::Alloc $5
+      Pop $7
+      System::Alloc $5
+      Pop $8
+      System::Call 'kernel32::ReadFile(p r3, p r7, i r5, *i .r1, p 0)'
+      System::Call 'kernel32::ReadFile(p r4, p r8, i r5, *i .r2, p 0)'
+      System::Call 'ntdll::RtlCompareMemory(p r7, p r8, p r5) p .r6'
+      ${If} $1 = $5
+      ${AndIf} $2 = $5
+      ${AndIf} $6 = $5
+        StrCpy $0 1
+      ${EndIf}
+      System::Free $7
+      System::Free $8
+    ${EndIf}
+  ${EndIf}
+  FileClose $3
+  FileClose $4
+FunctionEnd
+
+; Removes an initial setting or a given word list that has not been changed: "file" has the same bytes as the one it was
+; installed from.
 !macro remove_when_unchanged file original
   ${If} ${FileExists} "${file}"
     InitPluginsDir
     File "/oname=$PLUGINSDIR\original" "${original}"
-    ClearErrors
-    FileOpen $0 "${file}" r
-    ${IfNot} ${Errors}
-      FileOpen $1 "$PLUGINSDIR\original" r
-      ${Do}
-        ; Nothing is read at the end.
-        StrCpy $2 ""
-        StrCpy $3 ""
-        FileReadByte $0 $2
-        FileReadByte $1 $3
-        ${If} $2 != $3
-        ${OrIf} $3 == ""
-          ${Break}
-        ${EndIf}
-      ${Loop}
-      FileClose $0
-      FileClose $1
-      ${If} $2 == $3
-        Delete "${file}"
-      ${EndIf}
+    StrCpy $1 "${file}"
+    StrCpy $2 "$PLUGINSDIR\original"
+    Call un.have_same_bytes
+    ${If} $0 = 1
+      Delete "${file}"
     ${EndIf}
   ${EndIf}
 !macroend

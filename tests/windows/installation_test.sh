@@ -101,7 +101,7 @@ test_a_word_list_opens_by_its_association() {
 
 test_removal_leaves_lists_own_sounds_and_settings() {
     # Given
-    local program
+    local program given
     install
     program=$(unix_path "$place")/program
     make_list "$program/animals.szs" dog:kutya cat:macska horse:ló
@@ -110,10 +110,13 @@ test_removal_leaves_lists_own_sounds_and_settings() {
     "$wine" reg add "$engine_key" /v zimbora.exe /t REG_DWORD /d 11001 /f >/dev/null
     bytes_of_lines ' 0' >"$program/kavaro/zenebeáll.ini"
     bytes_of_lines 'C:\lists\animals.szs' >"$drive/zbrmkfnh.ini"
+    given=$(find "$program/szószedetek" -name '*.szs' -printf '%P\n' | sort | head -n 1)
+    # Changed in its last byte, so that it is as long as it was.
+    printf '\t' | dd of="$program/szószedetek/$given" bs=1 seek=$(($(stat -c %s "$program/szószedetek/$given") - 1)) conv=notrunc status=none
     # When
     remove
     # Then
-    expect_left_in_place program/animals.szs program/hangok/saját.wav program/kavaro/zenebeáll.ini
+    expect_left_in_place program/animals.szs program/hangok/saját.wav program/kavaro/zenebeáll.ini "program/szószedetek/$given"
     expect_lines "$program/animals.szs" dog:kutya cat:macska horse:ló
     expect_lines "$program/kavaro/zenebeáll.ini" ' 0'
     cmp "$shown_parts/program/hangok/gong.wav" "$program/hangok/saját.wav"
