@@ -35,7 +35,7 @@ test_a_save_that_fails_is_told_and_keeps_the_pairs() {
     start_program
     add_apple
     # When
-    press alt+f m
+    choose alt+f m
     # A folder that takes no files from anybody, and holds only folders, so that the file dialog looks into none.
     name_file "Mentés másként" "/proc/sys/list.szs"
     # Then

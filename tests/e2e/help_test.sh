@@ -53,7 +53,7 @@ test_the_page_of_the_makers_opens_from_the_menu() {
     # Given
     start_program
     # When
-    press alt+i Up Return
+    choose alt+i Up Return
     # Then
     wait_for_title "A Zimbora lapja"
 }

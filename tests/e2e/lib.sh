@@ -130,8 +130,12 @@ main_window_is_in_front() {
     [[ $(title_in_front) == "Zimbora Angol-Magyar "*" szószedet" ]]
 }
 
+# A window that the window manager has put in front takes keys from the moment on when it has the focus, too.
 title_in_front() {
-    xdotool getactivewindow getwindowname 2>/dev/null
+    local window
+    window=$(xdotool getactivewindow 2>/dev/null) || return
+    [[ $(xdotool getwindowfocus 2>/dev/null) == "$window" ]] || return
+    xdotool getwindowname "$window" 2>/dev/null
 }
 
 title_in_front_is() {
@@ -145,7 +149,7 @@ wait_for_title() {
 # practise <keys of the menu item> <caption of the exercise>: opens an exercise from the main window's menu.
 practise() {
     # shellcheck disable=SC2086  # several keys are several words
-    press alt+f Right $1
+    choose alt+f Right $1
     wait_for_title "$(title_of_exercise "$2")"
 }
 
@@ -223,6 +227,29 @@ press() {
     xdotool key "$@"
 }
 
+# choose <keys of a menu> <key of the item>...: the menu is awaited, for a window that has just come to the front may not
+# take keys yet.
+choose() {
+    local windows_before
+    windows_before=$(windows_on_the_screen)
+    wait_until "the menu of $1" opens_menu "$1"
+    press "${@:2}"
+}
+
+opens_menu() {
+    local patience=2
+    press "$1"
+    within_patience there_is_a_new_window
+}
+
+there_is_a_new_window() {
+    [[ -n $(comm -13 <(echo "$windows_before") <(windows_on_the_screen)) ]]
+}
+
+windows_on_the_screen() {
+    xdotool search --onlyvisible --maxdepth 1 --name '.*' 2>/dev/null | sort
+}
+
 write() {
     xdotool type --delay 20 -- "$1"
 }
@@ -287,7 +314,7 @@ name_file() {
 }
 
 save_as() {
-    press alt+f m
+    choose alt+f m
     name_file "Mentés másként" "$1"
     wait_for_title "$(title_of_list "$1")"
 }

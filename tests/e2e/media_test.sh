@@ -13,7 +13,7 @@ something_is_heard() {
 }
 
 open_music_window() {
-    press alt+b z
+    choose alt+b z
     wait_for_title "$(title_of_exercise "Zenei beállítások")"
 }
 
@@ -56,7 +56,7 @@ test_music_that_plays_names_itself_in_the_titles_of_other_windows() {
     allow_music
     wait_until "music" something_is_heard
     # When
-    press alt+b h
+    choose alt+b h
     # Then
     wait_until "the window of the sounds" title_names_a_piece
 }
@@ -86,7 +86,7 @@ test_a_machine_without_a_sound_device_is_silent_and_goes_on() {
     start_program
     allow_music
     # When
-    press alt+b h
+    choose alt+b h
     wait_for_title "$(title_of_exercise "Kavaro Hangbeállítások")"
     press Down Down Return
     # Then

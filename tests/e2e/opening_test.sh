@@ -31,7 +31,7 @@ test_a_path_that_is_typed_into_the_file_dialog_is_opened() {
     make_list "$lists/animals.szs" "dog:kutya"
     start_program
     # When
-    press alt+f n
+    choose alt+f n
     name_file "Megnyitás" "$lists/animals.szs"
     # Then
     expect_open_list "$lists/animals.szs" dog kutya
@@ -45,7 +45,7 @@ test_a_recent_file_is_opened_from_the_menu() {
     bytes_of_lines "$lists/first.szs" "$lists/űrhajó szavak.szs" >"$ZIMBORA_C/zbrmkfnh.ini"
     start_program
     # When
-    press alt+f 2
+    choose alt+f 2
     # Then
     expect_open_list "$lists/űrhajó szavak.szs" rocket rakéta
     expect_lines "$ZIMBORA_C/zbrmkfnh.ini" "$lists/űrhajó szavak.szs" "$lists/first.szs"

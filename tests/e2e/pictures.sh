@@ -77,7 +77,7 @@ picture_valasztas() {
 picture_valasztas_beallitasok() {
     open_long_list
     practise v "Választás"
-    press alt+f b
+    choose alt+f b
     wait_for_title "$(title_of_exercise "Választás Beállítások")"
     take_picture
 }
@@ -87,7 +87,7 @@ picture_kirako() {
     make_list "$lists/szőlő.szs" grape:szőlő
     start_program "$lists/szőlő.szs"
     practise "$to_puzzle" "Kirakó"
-    press alt+f b
+    choose alt+f b
     wait_for_title "$(title_of_exercise "Kirakó - Beállítások")"
     press Up Return
     wait_for_title "$(title_of_exercise "Kirakó")"
@@ -108,7 +108,7 @@ picture_memoria() {
 picture_memoria_beallitasok() {
     open_long_list
     practise m "Memória"
-    press alt+f b
+    choose alt+f b
     wait_for_title "$(title_of_exercise "Memória - Beállítások")"
     take_picture
 }
@@ -131,7 +131,7 @@ picture_nyomtatas() {
 
 picture_zene() {
     start_program
-    press alt+b z
+    choose alt+b z
     wait_for_title "$(title_of_exercise "Zenei beállítások")"
     take_picture
 }
@@ -139,7 +139,7 @@ picture_zene() {
 # Two sounds for a congratulation.
 picture_hangok() {
     start_program
-    press alt+b h
+    choose alt+b h
     wait_for_title "$(title_of_exercise "Kavaro Hangbeállítások")"
     press Down Down Tab Tab Tab Tab space space
     take_picture
@@ -147,7 +147,7 @@ picture_hangok() {
 
 picture_nevjegy() {
     start_program
-    press alt+i n
+    choose alt+i n
     wait_for_title "About Zimbora"
     take_picture
 }

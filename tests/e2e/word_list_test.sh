@@ -49,7 +49,7 @@ test_the_keyboard_alone_finds_adds_and_saves_a_word() {
     wait_for_item alma
     press Return
     wait_until "the word list in sight" word_list_is_shown
-    press alt+f m
+    choose alt+f m
     wait_for_title "Mentés másként"
     press ctrl+a
     write "$lists/keys.szs"
@@ -65,7 +65,7 @@ test_an_existing_file_is_replaced_only_after_a_yes() {
     make_list "$lists/animals.szs" "dog:kutya"
     start_program
     add_apple
-    press alt+f m
+    choose alt+f m
     name_file "Mentés másként" "$lists/animals.szs"
     wait_for_title "Fájl felülírása"
     # When
@@ -91,7 +91,7 @@ test_an_edited_pair_is_saved() {
     press ctrl+a
     paste "kutyus: őz, űr"
     press Return
-    press alt+f m
+    choose alt+f m
     # Then
     expect_lines "$lists/animals.szs" "dog:kutyus: őz, űr" "cat:macska"
 }
@@ -105,7 +105,7 @@ test_a_deleted_pair_is_not_saved() {
     click "$first_pair"
     click "$delete_button"
     expect_selected_pair cat macska
-    press alt+f m
+    choose alt+f m
     # Then
     expect_lines "$lists/animals.szs" "cat:macska" "horse:ló"
 }

@@ -36,7 +36,7 @@ start_installed_program() {
 
 save_apple_as_proposed() {
     add_apple
-    press alt+f m
+    choose alt+f m
     wait_for_title "Mentés másként"
     press Return
     wait_until "the saved list" main_window_names "$place\\program\\apple.szs"

@@ -61,9 +61,22 @@ unix_path() {
     echo "$drive${path//\\//}"
 }
 
-# Keys that come faster than Wine hands them on are lost.
+# Keys that come faster than Wine hands them on are lost, and so are those for a window that is in front but has not been
+# drawn yet.
 press() {
+    wait_until "a screen that stands still" screen_stands_still
     xdotool key --delay 100 "$@"
+}
+
+screen_stands_still() {
+    local before
+    before=$(seen)
+    sleep "$polling"
+    [[ $(seen) == "$before" ]]
+}
+
+seen() {
+    import -window root rgb:- | cksum
 }
 
 main_window_names() {
@@ -72,7 +85,7 @@ main_window_names() {
 
 # save_in_dialog <path>: the dialog is the system's own, which selects the proposed name when it is ready.
 save_in_dialog() {
-    press alt+f m
+    choose alt+f m
     wait_for_title "Mentés másként"
     press ctrl+a
     write "$1"

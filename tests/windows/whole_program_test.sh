@@ -55,7 +55,7 @@ test_music_is_playing_until_the_piece_ends() {
     # Given
     start_program
     # When
-    press alt+b z
+    choose alt+b z
     wait_for_exercise "Zenei beállítások"
     press Tab Tab space Return
     wait_for_exercise "névtelen szószedet"
@@ -70,7 +70,7 @@ test_music_is_playing_until_the_piece_ends() {
 # The window of the sounds, when it opens, has the name of the piece in its title.
 piece_is() {
     local title
-    press alt+b h
+    choose alt+b h
     wait_until "the window of the sounds" sounds_are_in_front
     title=$(title_in_front)
     press Escape
@@ -126,7 +126,7 @@ open_puzzle_settings() {
     start_program "$lists\\animals.szs"
     wait_for_title "$(title_of_list "$lists\\animals.szs")"
     practise "$to_puzzle" "Kirakó"
-    press alt+f b
+    choose alt+f b
     wait_for_exercise "Kirakó - Beállítások"
 }
 
