@@ -73,9 +73,15 @@ piece_is() {
     choose alt+b h
     wait_until "the window of the sounds" sounds_are_in_front
     title=$(title_in_front)
-    press Escape
-    wait_until "the main window in front" main_window_is_in_front
+    wait_until "the main window in front" escape_leads_to_main_window
     [[ $title == "$1 - Kavaro Hangbeállítások" ]]
+}
+
+# Wine loses a key now and then when a window has just come to the front.
+escape_leads_to_main_window() {
+    local patience=5
+    press Escape
+    within_patience main_window_is_in_front
 }
 
 sounds_are_in_front() {
