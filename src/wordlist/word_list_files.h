@@ -62,6 +62,8 @@ class szószedetfájlok final {
 
     /// Offers to save changes; false when the wanted save did not happen, so that the list must stay.
     [[nodiscard]] bool elengedhető();
+    /// Saves because the user has said so; false when that did not happen, and then the reason is known to him.
+    [[nodiscard]] bool kérésre_ment();
     void ürít();
     /// Replaces the list by the file `út`; tells why when it cannot be read, and changes nothing then.
     [[nodiscard]] bool lecserél(const QString &út);
