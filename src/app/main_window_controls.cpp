@@ -2,6 +2,7 @@
 
 #include <QMenuBar>
 
+#include "ui/controls/link_label.h"
 #include "ui/controls/named.h"
 #include "ui/controls/unlimited_line_edit.h"
 
@@ -57,8 +58,7 @@ const QString készítők_lapja = u"A Zimbora lapja"_s;
 
 /// A label that looks like what it is: a click on it opens something.
 QLabel *link(const QString &caption) {
-    auto *label = new QLabel(u"<a href='#'>%1</a>"_s.arg(caption));
-    label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    auto *label = new LinkLabel(caption);
     label->setAlignment(Qt::AlignCenter);
     return label;
 }

@@ -48,6 +48,18 @@ TEST_F(MainWindowInfo, has_its_button_for_the_mini_window_and_a_link_to_the_make
     EXPECT_TRUE(control<QLabel>("Label4")->isVisible());
 }
 
+TEST_F(MainWindowInfo, shows_the_makers_page_at_a_click_anywhere_on_its_label) {
+    QDir(root_.path()).mkpath(u"angolkavaro/help"_s);
+    for (const char *page : {"angolkavaro/help/Kavaro súgó.mht", "angolkavaro/help/keszito.html"})
+        write_file(place(page), "MIME-Version: 1.0\r\n");
+
+    QTest::mouseClick(control<QLabel>("Label4"), Qt::LeftButton, {}, {1, 1});
+
+    ASSERT_NE(browser_, nullptr);
+    ASSERT_FALSE(browser_->done.isEmpty());
+    EXPECT_TRUE(browser_->done.back().endsWith(u"keszito.html"_s)) << browser_->done.back().toStdString();
+}
+
 TEST_F(MainWindowInfo, opens_the_about_box_with_the_programs_name_and_version) {
     bool seen = false;
 

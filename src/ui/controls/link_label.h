@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+#include <QMouseEvent>
+
+/// A label that is one link: a click anywhere on it activates the link, as Enter does while it has the focus.
+class LinkLabel final : public QLabel {
+  public:
+    explicit LinkLabel(const QString &caption)
+        : QLabel(QStringLiteral("<a href='#'>%1</a>").arg(caption.toHtmlEscaped())) {
+        setTextInteractionFlags(Qt::LinksAccessibleByKeyboard);
+        setCursor(Qt::PointingHandCursor);
+    }
+
+  protected:
+    void mousePressEvent(QMouseEvent *event) override { event->setAccepted(event->button() == Qt::LeftButton); }
+
+    void mouseReleaseEvent(QMouseEvent *event) override {
+        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+            Q_EMIT linkActivated(QStringLiteral("#"));
+    }
+};
