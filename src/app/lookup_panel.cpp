@@ -32,14 +32,17 @@ void keresőpanel::eseményeket_köt() {
 }
 
 void keresőpanel::angolszó_Change() {
-    const bool van_szöveg = !v_.angolszó->text().isEmpty();
-    v_.Ok->setEnabled(van_szöveg);
-    if (van_szöveg)
-        Ok_Click();
+    v_.Ok->setEnabled(!v_.angolszó->text().isEmpty());
+    Ok_Click();
 }
 
 void keresőpanel::Ok_Click() {
     v_.hozzáad->setEnabled(false);
+    if (v_.angolszó->text().isEmpty()) {
+        k_.kereső.ürít();
+        v_.Label3->clear();
+        return;
+    }
     // The text is compared with the key on purpose: one that begins with "to " ends after its first line.
     const auto eredmény = k_.kereső.keres(
         v_.angolszó->text(), [this](const QString &kulcs) { return k_.vége() || v_.angolszó->text() != kulcs; });

@@ -26,7 +26,7 @@ class keresőpanel final {
   public:
     keresőpanel(keresővezérlők &vezérlők, keresőpanelkörnyezet környezet);
 
-    /// Looks the text of `angolszó` up in the dictionary of the current direction.
+    /// Looks the text of `angolszó` up in the dictionary of the current direction; an empty one empties the lists.
     void Ok_Click();
     void magyarlist_DblClick() { k_.hozzáad(); }
 

@@ -11,6 +11,13 @@ class MainWindowLookup : public MainWindowTest {
   protected:
     MainWindowLookup() { start(); }
 
+    void expect_nothing_shown() {
+        for (const char *name : {"szólist", "megoldlist", "magyarlist"})
+            EXPECT_EQ(list(name)->count(), 0) << name;
+        EXPECT_EQ(hit_count(), QString());
+        EXPECT_FALSE(button("hozzáad")->isEnabled());
+    }
+
     void look_up_from_hungarian() { QTest::mouseClick(control<QRadioButton>("nyelv(1)"), Qt::LeftButton); }
 };
 
@@ -83,7 +90,7 @@ TEST_F(MainWindowLookup, finds_nothing_for_a_letter_that_no_dictionary_can_hold)
     EXPECT_EQ(list("szólist")->count(), 0);
 }
 
-TEST_F(MainWindowLookup, enables_ok_only_with_a_text_and_keeps_the_last_hits_without) {
+TEST_F(MainWindowLookup, enables_ok_only_with_a_text) {
     EXPECT_FALSE(button("Ok")->isEnabled());
     type("app");
     EXPECT_TRUE(button("Ok")->isEnabled());
@@ -91,7 +98,21 @@ TEST_F(MainWindowLookup, enables_ok_only_with_a_text_and_keeps_the_last_hits_wit
     text_box("angolszó")->clear();
 
     EXPECT_FALSE(button("Ok")->isEnabled());
-    EXPECT_EQ(list("szólist")->count(), 2);
+}
+
+TEST_F(MainWindowLookup, shows_nothing_for_an_emptied_field) {
+    type("app");
+
+    for (int letter = 0; letter < 3; ++letter)
+        QTest::keyClick(text_box("angolszó"), Qt::Key_Backspace);
+
+    expect_nothing_shown();
+}
+
+TEST_F(MainWindowLookup, searches_for_no_empty_text) {
+    window_->Ok_Click();
+
+    expect_nothing_shown();
 }
 
 TEST_F(MainWindowLookup, ok_searches_again) {
@@ -186,6 +207,15 @@ TEST_F(LongSearch, change_of_direction_and_the_same_letter_again_leave_only_the_
 
     EXPECT_EQ(items("szólist"), QStringList{u"gép"_s});
     EXPECT_EQ(hit_count(), u"1 találat"_s);
+}
+
+TEST_F(LongSearch, is_given_up_when_the_field_is_emptied) {
+    QTimer::singleShot(0, window_.get(), [this] { QTest::keyClick(text_box("angolszó"), Qt::Key_Backspace); });
+
+    type("g");
+
+    EXPECT_EQ(list("szólist")->count(), 0);
+    EXPECT_EQ(hit_count(), QString());
 }
 
 TEST_F(LongSearch, ends_at_once_when_the_program_ends) {

@@ -38,7 +38,9 @@ class FakeLargeWindow final : public nagyablak {
     void angolszóba_ír(const QString &text) override {
         calls.append(typed + text);
         text_ = text;
-        if (!text.isEmpty())
+        if (text.isEmpty())
+            lookup_.ürít();
+        else
             search();
         // It may set itself anew.
         const auto act = during_search;
