@@ -1,10 +1,12 @@
 #include "app/lookup_panel.h"
 
 #include <QCoreApplication>
+#include <QShortcut>
 #include <utility>
 #include <variant>
 
 #include "dictionary/order_tool.h"
+#include "ui/controls/lookup_keys.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +23,10 @@ void keresőpanel::eseményeket_köt() {
     köt(v_.Ok, &QPushButton::clicked, &keresőpanel::Ok_Click);
     köt(v_.szólist, &ListBox::itemSelected, &keresőpanel::szólist_Click);
     köt(v_.magyarlist, &ListBox::itemSelected, &keresőpanel::magyarlist_Click);
-    köt(v_.magyarlist, &ListBox::itemDoubleClicked, &keresőpanel::magyarlist_DblClick);
+    QObject::connect(v_.magyarlist, &ListBox::itemDoubleClicked, &események_, [this] { magyarlist_DblClick(); });
+    new LookupKeys(*v_.angolszó, *v_.szólist, *v_.magyarlist);
+    for (const QKeySequence &billentyű : {QKeySequence(Qt::CTRL | Qt::Key_L), QKeySequence(Qt::Key_F6)})
+        köt(new QShortcut(billentyű, v_.angolszó->window()), &QShortcut::activated, &keresőpanel::keresőmezőbe);
     köt(v_.Command2, &QPushButton::clicked, &keresőpanel::Command2_Click);
     for (QRadioButton *irány : v_.nyelv) {
         QObject::connect(irány, &QRadioButton::toggled, &események_, [this](bool kijelölt) {
@@ -56,6 +61,17 @@ void keresőpanel::Ok_Click() {
     v_.Label3->setText(u"%1 találat"_s.arg(vég.darab));
     if (vég.kijelölendő >= 0)
         v_.szólist->select(vég.kijelölendő);
+    v_.szólist->show_selected_in_middle();
+    szótárat_vizsgál();
+}
+
+void keresőpanel::szótárat_vizsgál() {
+    bool &vizsgált = vizsgált_[k_.kereső.angolról() ? 0 : 1];
+    if (vizsgált)
+        return;
+    vizsgált = true;
+    if (const auto hiba = k_.kereső.szótárhiba())
+        k_.üzenetek.tell(hiba->sentence);
 }
 
 void keresőpanel::nincs_szótár(const Failure &hiba) {
@@ -65,6 +81,11 @@ void keresőpanel::nincs_szótár(const Failure &hiba) {
         return;
     szólt = true;
     k_.üzenetek.tell(hiba.sentence);
+}
+
+void keresőpanel::keresőmezőbe() {
+    v_.angolszó->setFocus(Qt::ShortcutFocusReason);
+    v_.angolszó->selectAll();
 }
 
 void keresőpanel::szólist_Click() {

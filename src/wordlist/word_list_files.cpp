@@ -47,6 +47,7 @@ void szószedetfájlok::fájlmegnyit(const QString &út, const QVector<szópár>
     állapot_.aktuálisfájl = út;
     lista_.hozzáfűz(párok);
     állapot_.változott = 0;
+    ablak_.változást_mutat();
     címbeállít();
     ablak_.listához_igazít();
 }
@@ -153,6 +154,7 @@ void szószedetfájlok::mnufájlhozzáfűz() {
         return;
     lista_.hozzáfűz(*párok);
     állapot_.változott = 1;
+    ablak_.változást_mutat();
     if (állapot_.aktuálisfájl.isEmpty()) {
         állapot_.aktuálisfájl = *út;
         címbeállít();
@@ -192,6 +194,7 @@ void szószedetfájlok::szószedetmentés() {
         mentésmégse_ = true;
     } else {
         állapot_.változott = 0;
+        ablak_.változást_mutat();
     }
     címbeállít();
 }

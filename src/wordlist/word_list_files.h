@@ -19,6 +19,8 @@ class szószedetablak {
     /// Enables the menus that fit the list, and gives the window the height that fits it.
     virtual void listához_igazít() = 0;
     virtual void szövegmezőketürít() = 0;
+    /// Shows whether the list has changes that are not saved.
+    virtual void változást_mutat() = 0;
     /// Shows these files, at most four, in the recent-files menu.
     virtual void fájllistmutat(const QStringList &fájlok) = 0;
 };

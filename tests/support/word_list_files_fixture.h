@@ -24,6 +24,7 @@ class FakeWindow final : public szószedetablak {
     void címbeállít(const QString &cím) override { title = cím; }
     void listához_igazít() override { ++fitted; }
     void szövegmezőketürít() override { ++cleared; }
+    void változást_mutat() override {}
     void fájllistmutat(const QStringList &fájlok) override { recent = fájlok; }
 };
 
