@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 
@@ -18,5 +20,19 @@ class LinkLabel final : public QLabel {
     void mouseReleaseEvent(QMouseEvent *event) override {
         if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
             Q_EMIT linkActivated(QStringLiteral("#"));
+    }
+
+    void keyPressEvent(QKeyEvent *event) override {
+        if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+            QLabel::keyPressEvent(event);
+        else if (!event->isAutoRepeat())
+            Q_EMIT linkActivated(QStringLiteral("#"));
+    }
+
+    /// Marks the link at once; the toolkit would do so at the second Tab.
+    void focusInEvent(QFocusEvent *event) override {
+        QLabel::focusInEvent(event);
+        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+            focusNextPrevChild(event->reason() == Qt::TabFocusReason);
     }
 };
