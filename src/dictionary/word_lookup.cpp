@@ -74,7 +74,7 @@ std::optional<Failure> szókereső::szótárhiba() const {
     if (!mi)
         return std::nullopt;
     return Failure{
-        u"A(z) „%1” szótárfájl sérült: %2 Ezért a keresés nem, vagy nem mindent talál. "
+        u"A(z) „%1” szótárfájl sérült: %2 Emiatt a keresés hiányos lehet, vagy semmit sem talál. "
         "Segíthet a program újratelepítése."_s.arg(QDir::toNativeSeparators(szótárfájl()), *mi)};
 }
 

@@ -162,7 +162,7 @@ void frm_súgó::sérülést_elmond() {
     const auto *bytes = std::get_if<QByteArray>(&tartalom);
     const auto mi = bytes ? archívumhiba(*bytes) : std::nullopt;
     if (mi)
-        k_.egyszer_szól(u"A súgó fájlja, a(z) „%1” sérült: %2 Segíthet a program újratelepítése."_s.arg(
+        k_.egyszer_szól(u"A(z) „%1” súgófájl sérült: %2 Segíthet a program újratelepítése."_s.arg(
             QDir::toNativeSeparators(út), *mi));
 }
 

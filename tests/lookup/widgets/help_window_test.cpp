@@ -78,7 +78,7 @@ TEST_F(HelpWindow, tells_when_its_document_is_damaged) {
 
     open();
 
-    EXPECT_EQ(warnings_, QStringList{u"A súgó fájlja, a(z) „%1” sérült: üres. Segíthet a program újratelepítése."_s.arg(
+    EXPECT_EQ(warnings_, QStringList{u"A(z) „%1” súgófájl sérült: üres. Segíthet a program újratelepítése."_s.arg(
                              QDir::toNativeSeparators(document()))});
 }
 
