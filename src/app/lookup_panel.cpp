@@ -1,10 +1,12 @@
 #include "app/lookup_panel.h"
 
 #include <QCoreApplication>
+#include <QShortcut>
 #include <utility>
 #include <variant>
 
 #include "dictionary/order_tool.h"
+#include "ui/controls/lookup_keys.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +23,10 @@ void keresőpanel::eseményeket_köt() {
     köt(v_.Ok, &QPushButton::clicked, &keresőpanel::Ok_Click);
     köt(v_.szólist, &ListBox::itemSelected, &keresőpanel::szólist_Click);
     köt(v_.magyarlist, &ListBox::itemSelected, &keresőpanel::magyarlist_Click);
-    köt(v_.magyarlist, &ListBox::itemDoubleClicked, &keresőpanel::magyarlist_DblClick);
+    QObject::connect(v_.magyarlist, &ListBox::itemDoubleClicked, &események_, [this] { magyarlist_DblClick(); });
+    new LookupKeys(*v_.angolszó, *v_.szólist, *v_.magyarlist);
+    for (const QKeySequence &billentyű : {QKeySequence(Qt::CTRL | Qt::Key_L), QKeySequence(Qt::Key_F6)})
+        köt(new QShortcut(billentyű, v_.angolszó->window()), &QShortcut::activated, &keresőpanel::keresőmezőbe);
     köt(v_.Command2, &QPushButton::clicked, &keresőpanel::Command2_Click);
     for (QRadioButton *irány : v_.nyelv) {
         QObject::connect(irány, &QRadioButton::toggled, &események_, [this](bool kijelölt) {
@@ -32,14 +37,17 @@ void keresőpanel::eseményeket_köt() {
 }
 
 void keresőpanel::angolszó_Change() {
-    const bool van_szöveg = !v_.angolszó->text().isEmpty();
-    v_.Ok->setEnabled(van_szöveg);
-    if (van_szöveg)
-        Ok_Click();
+    v_.Ok->setEnabled(!v_.angolszó->text().isEmpty());
+    Ok_Click();
 }
 
 void keresőpanel::Ok_Click() {
     v_.hozzáad->setEnabled(false);
+    if (v_.angolszó->text().isEmpty()) {
+        k_.kereső.ürít();
+        v_.Label3->clear();
+        return;
+    }
     // The text is compared with the key on purpose: one that begins with "to " ends after its first line.
     const auto eredmény = k_.kereső.keres(
         v_.angolszó->text(), [this](const QString &kulcs) { return k_.vége() || v_.angolszó->text() != kulcs; });
@@ -53,6 +61,17 @@ void keresőpanel::Ok_Click() {
     v_.Label3->setText(u"%1 találat"_s.arg(vég.darab));
     if (vég.kijelölendő >= 0)
         v_.szólist->select(vég.kijelölendő);
+    v_.szólist->show_selected_in_middle();
+    szótárat_vizsgál();
+}
+
+void keresőpanel::szótárat_vizsgál() {
+    bool &vizsgált = vizsgált_[k_.kereső.angolról() ? 0 : 1];
+    if (vizsgált)
+        return;
+    vizsgált = true;
+    if (const auto hiba = k_.kereső.szótárhiba())
+        k_.üzenetek.tell(hiba->sentence);
 }
 
 void keresőpanel::nincs_szótár(const Failure &hiba) {
@@ -62,6 +81,11 @@ void keresőpanel::nincs_szótár(const Failure &hiba) {
         return;
     szólt = true;
     k_.üzenetek.tell(hiba.sentence);
+}
+
+void keresőpanel::keresőmezőbe() {
+    v_.angolszó->setFocus(Qt::ShortcutFocusReason);
+    v_.angolszó->selectAll();
 }
 
 void keresőpanel::szólist_Click() {

@@ -16,8 +16,8 @@ struct keresőpanelkörnyezet {
     MessageBoxes &üzenetek;
     /// True once the program is to end; a search that runs stops then.
     std::function<bool()> vége;
-    /// Adds the selected hit and meaning to the word list.
-    std::function<void()> hozzáad;
+    /// Adds the selected hit and meaning to the word list, and says whether they are in it.
+    std::function<bool()> hozzáad;
 };
 
 /// The upper half of the main window: what is typed is looked up, the lists show the hits and their meanings. Its
@@ -26,9 +26,11 @@ class keresőpanel final {
   public:
     keresőpanel(keresővezérlők &vezérlők, keresőpanelkörnyezet környezet);
 
-    /// Looks the text of `angolszó` up in the dictionary of the current direction.
+    /// Looks the text of `angolszó` up in the dictionary of the current direction; an empty one empties the lists.
     void Ok_Click();
-    void magyarlist_DblClick() { k_.hozzáad(); }
+    /// Why no dictionary can be read has been told.
+    void szótárhiány_elmondva() { hiány_szólt_.fill(true); }
+    bool magyarlist_DblClick() { return k_.hozzáad(); }
 
   private:
     void eseményeket_köt();
@@ -37,12 +39,18 @@ class keresőpanel final {
     void magyarlist_Click();
     void nyelv_Click();
     void Command2_Click();
+    /// Gives the search field the keyboard, its text selected.
+    void keresőmezőbe();
+    /// Tells once for each direction when its dictionary is damaged.
+    void szótárat_vizsgál();
     void nincs_szótár(const Failure &hiba);
 
     keresővezérlők &v_;
     const keresőpanelkörnyezet k_;
     /// Whether the missing dictionary of a direction (0 from English, 1 from Hungarian) has been told.
     std::array<bool, 2> hiány_szólt_{};
+    /// Whether the dictionary of a direction has been looked at.
+    std::array<bool, 2> vizsgált_{};
     /// Every connection of the panel hangs on it, so that no event reaches a panel that is gone.
     QObject események_;
 };

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <utility>
 
+#include "state/program_folder.h"
 #include "ui/drawing/twips.h"
 #include "wordlist/recent_files.h"
 
@@ -32,7 +33,7 @@ szótár::szótár(szótárkörnyezet környezet)
                             .állapot = k_.állapot,
                             .üzenetek = k_.üzenetek,
                             .vége = [this] { return vége_; },
-                            .hozzáad = [this] { hozzáad_Click(); }}),
+                            .hozzáad = [this] { return hozzáad_Click(); }}),
       szószedet_(v_.szószedet,
                  {.lista = lista_, .kereső = kereső_, .állapot = k_.állapot, .üzenetek = k_.üzenetek, .ablak = *this}),
       ablakok_(k_, *this, lista_, [this] { return vége_; }),
@@ -82,6 +83,10 @@ void szótár::menüt_köt() {
 void szótár::Form_Load(const QString &parancssor) {
     k_.referencia.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
     k_.állapot.változott = 0;
+    if (const auto hiba = program_folder_failure(k_.állapot.programkönyvtár)) {
+        keresés_.szótárhiány_elmondva();
+        k_.üzenetek.tell(hiba->sentence);
+    }
     fájlok_.fájlistolvas();
     kisablak_.fájlolvas();
     mentbeállít();
@@ -127,6 +132,10 @@ void szótár::closeEvent(QCloseEvent *event) {
 
 void szótár::címbeállít(const QString &cím) {
     setWindowTitle(cím);
+}
+
+void szótár::változást_mutat() {
+    v_.szószedet.Label_mentetlen->setVisible(k_.állapot.változott == 1);
 }
 
 void szótár::listához_igazít() {

@@ -29,9 +29,9 @@ class szótár final : public ablak, private szószedetablak, private nagyablak 
     void Form_Load(const QString &parancssor);
 
     // What other windows call.
-    void hozzáad_Click() override { szószedet_.hozzáad_Click(); }
+    bool hozzáad_Click() override { return szószedet_.hozzáad_Click(); }
     void Ok_Click() override { keresés_.Ok_Click(); }
-    void magyarlist_DblClick() override { keresés_.magyarlist_DblClick(); }
+    bool magyarlist_DblClick() override { return keresés_.magyarlist_DblClick(); }
     /// Asks about unsaved changes and ends the program unless the user wants to stay.
     void kilép_Click() override;
 
@@ -57,6 +57,7 @@ class szótár final : public ablak, private szószedetablak, private nagyablak 
     void címbeállít(const QString &cím) override;
     void listához_igazít() override;
     void szövegmezőketürít() override { szószedet_.szövegmezőketürít(); }
+    void változást_mutat() override;
     void fájllistmutat(const QStringList &fájlok) override;
 
     // What the mini window wants of the window

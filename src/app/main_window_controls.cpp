@@ -2,7 +2,9 @@
 
 #include <QMenuBar>
 
+#include "ui/controls/link_label.h"
 #include "ui/controls/named.h"
+#include "ui/controls/search_box.h"
 #include "ui/controls/unlimited_line_edit.h"
 
 using namespace Qt::StringLiterals;
@@ -57,10 +59,24 @@ const QString készítők_lapja = u"A Zimbora lapja"_s;
 
 /// A label that looks like what it is: a click on it opens something.
 QLabel *link(const QString &caption) {
-    auto *label = new QLabel(u"<a href='#'>%1</a>"_s.arg(caption));
-    label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    auto *label = new LinkLabel(caption);
     label->setAlignment(Qt::AlignCenter);
     return label;
+}
+
+/// Seen when looked for, and not before; hidden as long as it does not apply.
+QLabel *quiet(QLabel *label) {
+    QFont letters = label->font();
+    letters.setItalic(true);
+    label->setFont(letters);
+    label->hide();
+    return label;
+}
+
+/// A key that does what the menu item does, once while it is held down.
+void set_shortcut(QAction &item, const QKeySequence &keys) {
+    item.setShortcut(keys);
+    item.setAutoRepeat(false);
 }
 
 QAction *separator(QMenu &menu, const char16_t *name) {
@@ -72,8 +88,8 @@ QAction *separator(QMenu &menu, const char16_t *name) {
 keresővezérlők::keresővezérlők(ablak &mire, szókereső &kereső)
     : Label1(placed(mire, new QLabel(u"&Angolul:"_s), u"Label1", {left_column, caption_top, list_width, caption_height},
                     nullptr)),
-      angolszó(placed(mire, unlimited_line_edit(), u"angolszó", {left_column, search_top, list_width, row_height},
-                      u"Keresett szó")),
+      angolszó(
+          placed(mire, new SearchBox, u"angolszó", {left_column, search_top, list_width, row_height}, u"Keresett szó")),
       Ok(placed(mire, disabled_button(u"Ok"_s), u"Ok", {left_column, lookup_buttons_top, list_width * 0.4, row_height},
                 u"Ok, keresés")),
       szólist(placed(mire, new ListBox(&kereső.találatok(), találatlista::címszó_oszlop, &kereső.kijelölt_találat()),
@@ -106,6 +122,8 @@ szószedetvezérlők::szószedetvezérlők(ablak &mire, szópárlista &lista)
                          u"Szószedet, magyar szavak")),
       sztöröl(placed(mire, disabled_button(u"Szószedetből töröl"_s), u"sztöröl",
                      {right_column, pairs_top, button_width, row_height}, u"Szószedetből töröl")),
+      Label_mentetlen(placed(mire, quiet(new QLabel(u"Mentetlen változások"_s)), u"Label_mentetlen",
+                             {right_column, pairs_top + row_height + 90, button_width, caption_height}, nullptr)),
       szóangtext(placed(mire, unlimited_line_edit(), u"szóangtext", {left_column, edit_top, list_width, row_height},
                         u"A kijelölt pár angol szava")),
       szómagytext(placed(mire, unlimited_line_edit(), u"szómagytext", {middle_column, edit_top, list_width, row_height},
@@ -161,7 +179,10 @@ szótármenü::szótármenü(QMenuBar &sor)
       mnubeállítás(named(sor.addMenu(u"&Beállítások"_s), u"mnubeállítás")),
       mnubeállításhang(named(mnubeállítás->addAction(u"&Hangok..."_s), u"mnubeállításhang")),
       mnubeállítászene(named(mnubeállítás->addAction(u"&Zene..."_s), u"mnubeállítászene")) {
-    mnufájlnyomtatás->setShortcut(QKeySequence::Print);
+    set_shortcut(*mnufájlúj, QKeySequence::New);
+    set_shortcut(*mnufájlmegnyit, QKeySequence::Open);
+    set_shortcut(*mnufájlment, QKeySequence::Save);
+    set_shortcut(*mnufájlnyomtatás, QKeySequence::Print);
     mnu_súgó->setShortcut(Qt::Key_F1);
     sor.setObjectName(u"menüsor"_s);
     for (size_t i = 0; i < mnufájlfájl.size(); ++i) {

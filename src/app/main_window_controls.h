@@ -44,6 +44,8 @@ struct szószedetvezérlők {
     ListBox *szószedet;
     ListBox *szómagylist;
     QPushButton *sztöröl;
+    /// Seen while there are changes that are not saved.
+    QLabel *Label_mentetlen;
     QLineEdit *szóangtext;
     QLineEdit *szómagytext;
     QPushButton *módosít;

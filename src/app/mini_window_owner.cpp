@@ -31,8 +31,11 @@ kisablakgazda::kisablakgazda(const szótárkörnyezet &k, ablak &főablak, nagya
       }) {}
 
 void kisablakgazda::fájlolvas() {
-    const FileContent tartalom = files::read_whole(k_.meghajtó.path(kisablakfájl_helye));
+    const QString fájl = k_.meghajtó.path(kisablakfájl_helye);
+    const FileContent tartalom = files::read_whole(fájl);
     const auto *bytes = std::get_if<QByteArray>(&tartalom);
+    if (!bytes && files::is_taken(fájl))
+        k_.üzenetek.tell(std::get<Failure>(tartalom).sentence);
     const QSizeF képernyő = k_.hasznos.képernyő().size();
     const kisablakfájl::értékek alap{qRound(képernyő.width() / 2), qRound(képernyő.height() / 2), 0};
     const auto olvasott = bytes ? kisablakfájl::olvas(*bytes) : std::nullopt;

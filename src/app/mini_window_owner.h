@@ -18,6 +18,7 @@ class kisablakgazda final {
     kisablakgazda(const szótárkörnyezet &k, ablak &főablak, nagyablak &nagy, szókereső &kereső);
 
     /// Reads place and mode from "c:\zbrmk\angol\kisablak.ini"; without a readable file, the middle of the screen.
+    /// One that is there and cannot be read is told.
     void fájlolvas();
     /// Writes them, but only into a folder that holds a file.
     void fájlír();

@@ -133,6 +133,7 @@ súgókörnyezet ablakok::súgónak() {
     return {.közös = közös(),
             .programkönyvtár = k_.állapot.programkönyvtár,
             .rövidüzenet = [this](const QString &szöveg) { rövid_üzenetet_mutat(szöveg); },
+            .egyszer_szól = [this](const QString &szöveg) { egyszer_szól(szöveg); },
             .böngésző = k_.böngésző,
             .bezárva = [this] { súgó_.unload(); }};
 }
@@ -176,4 +177,11 @@ void ablakok::rendszeradatokat_mutat() {
 
 void ablakok::rövid_üzenetet_mutat(const QString &szöveg) {
     frm_szövegüzenet(k_.hasznos, főablak_).mutat(szöveg, rövid_üzenet_ideje);
+}
+
+void ablakok::egyszer_szól(const QString &szöveg) {
+    if (elmondott_.contains(szöveg))
+        return;
+    elmondott_.append(szöveg);
+    k_.üzenetek.tell(szöveg);
 }

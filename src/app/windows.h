@@ -67,11 +67,14 @@ class ablakok final {
     void súgót_előhoz();
     void rendszeradatokat_mutat();
     void rövid_üzenetet_mutat(const QString &szöveg);
+    void egyszer_szól(const QString &szöveg);
 
     const szótárkörnyezet &k_;
     ablak &főablak_;
     const szópárlista &lista_;
     const std::function<bool()> vége_;
+    /// What is told once.
+    QStringList elmondott_;
     WindowReference<üzenet> üzenet_;
     WindowReference<tanulás> tanulás_;
     WindowReference<kikérdező> kikérdező_;

@@ -20,6 +20,7 @@ void szószedetpanel::eseményeket_köt() {
     köt(v_.szómagytext, &QLineEdit::textChanged, &szószedetpanel::szövegmező_Change);
     köt(v_.módosít, &QPushButton::clicked, &szószedetpanel::módosít_Click);
     köt(v_.sztöröl, &QPushButton::clicked, &szószedetpanel::sztöröl_Click);
+    köt(v_.szószedet, &ListBox::deletePressed, &szószedetpanel::sztöröl_Click);
     QObject::connect(v_.szómagylist, &ListBox::itemSelected, &események_, [this] {
         if (v_.szómagylist->selected() != v_.szószedet->selected())
             v_.szószedet->select(v_.szómagylist->selected());
@@ -32,18 +33,20 @@ void szószedetpanel::eseményeket_köt() {
                      &QScrollBar::setValue);
 }
 
-void szószedetpanel::hozzáad_Click() {
+bool szószedetpanel::hozzáad_Click() {
     k_.üzenetek.beep();
     const auto mit = k_.kereső.választott();
     if (!mit)
-        return;
+        return false;
     const szópár pár = k_.kereső.angolról() ? szópár{mit->címszó, mit->jelentés} : szópár{mit->jelentés, mit->címszó};
     if (!felvehető(pár))
-        return;
+        return false;
     v_.szószedet->select(-1);
     v_.szószedet->select(k_.lista.felvesz(pár.angol, pár.magyar));
     k_.állapot.változott = 1;
+    k_.ablak.változást_mutat();
     k_.ablak.listához_igazít();
+    return true;
 }
 
 bool szószedetpanel::felvehető(const szópár &pár) {
@@ -58,6 +61,9 @@ void szószedetpanel::szószedet_Click() {
     v_.szómagylist->select(i);
     v_.szóangtext->setText(k_.lista.pár(i).angol);
     v_.szómagytext->setText(k_.lista.pár(i).magyar);
+    // A long text shows its beginning.
+    v_.szóangtext->home(false);
+    v_.szómagytext->home(false);
     // The texts may be those of the pair before.
     szövegmező_Change();
 }
@@ -74,6 +80,7 @@ void szószedetpanel::módosít_Click() {
         return;
     k_.lista.módosít(v_.szószedet->selected(), beírt);
     k_.állapot.változott = 1;
+    k_.ablak.változást_mutat();
     if (v_.módosít->hasFocus())
         v_.szószedet->setFocus();
     szövegmező_Change();
@@ -89,6 +96,7 @@ void szószedetpanel::sztöröl_Click() {
     v_.szószedet->select(k_.lista.töröl(k));
     v_.szószedet->setFocus();
     k_.állapot.változott = k_.lista.üres() && k_.állapot.aktuálisfájl.isEmpty() ? 0 : 1;
+    k_.ablak.változást_mutat();
     k_.ablak.listához_igazít();
 }
 

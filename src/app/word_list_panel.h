@@ -26,8 +26,8 @@ class szószedetpanel final {
     szószedetpanel(szószedetvezérlők &vezérlők, const szószedetpanelkörnyezet &környezet);
 
     /// Adds the selected hit and meaning to the word list, with a beep. With nothing selected it only beeps; a word
-    /// that a file would not give back is refused with a message.
-    void hozzáad_Click();
+    /// that a file would not give back is refused with a message. True when the list has them now.
+    bool hozzáad_Click();
     void szövegmezőketürít();
     /// The keyboard has moved on from one control of the main window to another.
     void fókusz_változott(const QWidget *honnan, const QWidget *hová);

@@ -1,12 +1,16 @@
 #include "dictionary/word_lookup.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 
 #include "dictionary/byte_source.h"
+#include "dictionary/dictionary_check.h"
 #include "dictionary/meanings.h"
 #include "platform/code_page.h"
 #include "state/program_folder.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -60,6 +64,18 @@ void szókereső::ürít() {
 
 QString szókereső::szótárfájl() const {
     return állapot_.programkönyvtár + u'/' + (angolról_ ? english_hungarian_file : hungarian_english_file);
+}
+
+std::optional<Failure> szókereső::szótárhiba() const {
+    FileSource forrás(szótárfájl());
+    if (!forrás.is_open())
+        return std::nullopt;
+    const auto mi = ::szótárhiba(forrás);
+    if (!mi)
+        return std::nullopt;
+    return Failure{
+        u"A(z) „%1” szótárfájl sérült: %2 Emiatt a keresés hiányos lehet, vagy semmit sem talál. "
+        "Segíthet a program újratelepítése."_s.arg(QDir::toNativeSeparators(szótárfájl()), *mi)};
 }
 
 std::variant<keresésvége, Failure> szókereső::keres(const QString &szöveg, const megszakító &megálljon) {

@@ -60,6 +60,9 @@ class szókereső final {
     /// A failure when the dictionary cannot be read.
     [[nodiscard]] std::variant<keresésvége, Failure> keres(const QString &szöveg, const megszakító &megálljon);
 
+    /// What is wrong with the dictionary of the direction; nothing when it is sound, and when it cannot be read at all.
+    [[nodiscard]] std::optional<Failure> szótárhiba() const;
+
     /// Lists the meanings of the selected hit and selects the first of them.
     void jelentéseket_mutat();
 

@@ -13,8 +13,9 @@ class vágólapszó final {
     /// The text that is on the clipboard already is not looked up.
     void megjegyez(const QString &szöveg) { szöveg_ = szöveg; }
 
-    /// The word to look up, when this text is another one than the last time: without blanks round it, in lower case.
-    /// Nothing when it is the same, or no word: blank, too long, or of several lines.
+    /// The word to look up, when this text is another one than the last time: without the blanks, line ends, quotes and
+    /// brackets around it, in lower case; "" when that leaves nothing. Nothing when the text is the same, or no word:
+    /// too long, or of several lines.
     [[nodiscard]] std::optional<QString> új_szó(const QString &szöveg);
 
   private:

@@ -12,9 +12,8 @@ struct dokumentumnevek {
     QString pdf;
 };
 
-/// The names for the current file `aktuálisfájl`: a path, "" when there is none, or either behind the "*" that a
-/// cancelled naming leaves.
-[[nodiscard]] dokumentumnevek dokumentum(const QString &aktuálisfájl, const QString &programkönyvtár);
+/// The names for a list in the file `listafájl`; "" for a list that was never saved.
+[[nodiscard]] dokumentumnevek dokumentum(const QString &listafájl, const QString &programkönyvtár);
 
 /// `név` with ".pdf" behind it unless it has that already.
 [[nodiscard]] QString pdfnév(const QString &név);

@@ -12,6 +12,12 @@ struct programállapot final {
     /// Full path of the open word list; "" when it has no file yet, a name that begins with "*" after "Ment másként..."
     /// was cancelled.
     QString aktuálisfájl;
+    /// What the current file was before its name got the "*".
+    QString csillagelőtt;
+    /// The file that the list was read from or saved to; "" for a list that was never saved.
+    [[nodiscard]] const QString &listafájl() const {
+        return aktuálisfájl.startsWith(u'*') ? csillagelőtt : aktuálisfájl;
+    }
     /// 1 after an edit that is not saved yet, else 0.
     double változott = 0;
     /// Left and top edge of the mini window, in twips.

@@ -18,6 +18,9 @@ namespace {
 const QString kilépéscím = u"Kilépés"_s;
 const QString mentéskérdés = u"Akarja menteni a változtatásokat?"_s;
 const QString csillag = u"*"_s;
+const QString nincs_neve =
+    u"A változtatások nincsenek elmentve, mert a „Ment másként...” ablaka név nélkül zárult be. Adjon nevet a "
+    "szószedetnek a „Fájl” menü „Ment másként...” pontjában, aztán próbálja újra."_s;
 
 /// "*" in front of the current file's name says that its naming was cancelled.
 bool menthető(const QString &fájl) {
@@ -44,6 +47,7 @@ void szószedetfájlok::fájlmegnyit(const QString &út, const QVector<szópár>
     állapot_.aktuálisfájl = út;
     lista_.hozzáfűz(párok);
     állapot_.változott = 0;
+    ablak_.változást_mutat();
     címbeállít();
     ablak_.listához_igazít();
 }
@@ -63,8 +67,13 @@ void szószedetfájlok::parancssorból(const QString &parancssor) {
 }
 
 bool szószedetfájlok::elengedhető() {
-    if (!mentetlen() || üzenetek_.ask_yes_no(kilépéscím, mentéskérdés) == Answer::no)
-        return true;
+    return !mentetlen() || üzenetek_.ask_yes_no(kilépéscím, mentéskérdés) == Answer::no || kérésre_ment();
+}
+
+bool szószedetfájlok::kérésre_ment() {
+    // Nothing else is said when such a list is saved.
+    if (állapot_.aktuálisfájl.startsWith(csillag))
+        üzenetek_.tell(nincs_neve);
     mentésmégse_ = false;
     szószedetmentés();
     return !mentésmégse_;
@@ -133,7 +142,7 @@ std::optional<QString> szószedetfájlok::meglévőfájl(const QString &javaslat
 }
 
 QString szószedetfájlok::programkönyvtárminta() const {
-    return állapot_.programkönyvtár + u"/*.szs"_s;
+    return állapot_.programkönyvtár + QDir::separator() + u"*.szs"_s;
 }
 
 void szószedetfájlok::mnufájlhozzáfűz() {
@@ -145,6 +154,7 @@ void szószedetfájlok::mnufájlhozzáfűz() {
         return;
     lista_.hozzáfűz(*párok);
     állapot_.változott = 1;
+    ablak_.változást_mutat();
     if (állapot_.aktuálisfájl.isEmpty()) {
         állapot_.aktuálisfájl = *út;
         címbeállít();
@@ -160,8 +170,11 @@ void szószedetfájlok::mnufájlment() {
 void szószedetfájlok::mnufájlmentmásként() {
     const QString előző = állapot_.aktuálisfájl;
     állapot_.aktuálisfájl = névmegadás();
-    if (!menthető(állapot_.aktuálisfájl))
+    if (!menthető(állapot_.aktuálisfájl)) {
+        if (!előző.startsWith(csillag))
+            állapot_.csillagelőtt = előző;
         return;
+    }
     mentésmégse_ = false;
     szószedetmentés();
     if (mentésmégse_) {
@@ -181,6 +194,7 @@ void szószedetfájlok::szószedetmentés() {
         mentésmégse_ = true;
     } else {
         állapot_.változott = 0;
+        ablak_.változást_mutat();
     }
     címbeállít();
 }
@@ -220,7 +234,7 @@ QString szószedetfájlok::javasoltnév() const {
     static const QRegularExpression tiltott(uR"([\\/:*?"<>|.\x00-\x1f])"_s);
     QString első = lista_.üres() ? QString() : lista_.pár(0).angol.left(100);
     első.replace(tiltott, u"_"_s);
-    return állapot_.programkönyvtár + u'/' + első + u".szs"_s;
+    return állapot_.programkönyvtár + QDir::separator() + első + u".szs"_s;
 }
 
 void szószedetfájlok::fájllistír() {
@@ -257,9 +271,7 @@ bool szószedetfájlok::kilépéskérdés() {
         return true;
     switch (üzenetek_.ask_yes_no_cancel(kilépéscím, mentéskérdés)) {
         case Answer::yes:
-            mentésmégse_ = false;
-            szószedetmentés();
-            return !mentésmégse_;
+            return kérésre_ment();
         case Answer::no:
             return true;
         case Answer::cancel:

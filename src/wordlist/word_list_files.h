@@ -19,6 +19,8 @@ class szószedetablak {
     /// Enables the menus that fit the list, and gives the window the height that fits it.
     virtual void listához_igazít() = 0;
     virtual void szövegmezőketürít() = 0;
+    /// Shows whether the list has changes that are not saved.
+    virtual void változást_mutat() = 0;
     /// Shows these files, at most four, in the recent-files menu.
     virtual void fájllistmutat(const QStringList &fájlok) = 0;
 };
@@ -62,6 +64,8 @@ class szószedetfájlok final {
 
     /// Offers to save changes; false when the wanted save did not happen, so that the list must stay.
     [[nodiscard]] bool elengedhető();
+    /// Saves because the user has said so; false when that did not happen, and then the reason is known to him.
+    [[nodiscard]] bool kérésre_ment();
     void ürít();
     /// Replaces the list by the file `út`; tells why when it cannot be read, and changes nothing then.
     [[nodiscard]] bool lecserél(const QString &út);

@@ -76,6 +76,31 @@ TEST_F(MainWindowFiles, has_no_recent_items_without_a_recent_files_list) {
     EXPECT_TRUE(recent_captions().isEmpty());
 }
 
+TEST_F(MainWindowFiles, shows_the_keys_of_its_menu_beside_the_captions) {
+    start();
+
+    for (const auto &[name, keys] : {std::pair("mnufájlúj", "Ctrl+N"), std::pair("mnufájlmegnyit", "Ctrl+O"),
+                                     std::pair("mnufájlment", "Ctrl+S"), std::pair("mnufájlnyomtatás", "Ctrl+P")}) {
+        EXPECT_EQ(action(name)->shortcut().toString(), QString::fromLatin1(keys));
+        EXPECT_FALSE(action(name)->autoRepeat());
+    }
+}
+
+TEST_F(MainWindowFiles, saves_opens_and_empties_the_list_by_keys) {
+    dialogs_.choices = {word_list("a.szs", "dog:kutya\r\n")};
+    start();
+
+    QTest::keyClick(window_.get(), Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(pairs(), u"dog:kutya"_s);
+    text_box("szóangtext")->setText(u"hound"_s);
+    click("módosít");
+    QTest::keyClick(text_box("angolszó"), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(read_file(place("a.szs")), "hound:kutya\r\n");
+    QTest::keyClick(window_.get(), Qt::Key_N, Qt::ControlModifier);
+
+    EXPECT_EQ(pairs(), QString());
+}
+
 TEST_F(MainWindowFiles, appended_list_is_seen_at_once) {
     start();
     dialogs_.choices = {word_list("a.szs", "dog:kutya\r\ncat:macska\r\n")};

@@ -48,6 +48,53 @@ TEST_F(MainWindowInfo, has_its_button_for_the_mini_window_and_a_link_to_the_make
     EXPECT_TRUE(control<QLabel>("Label4")->isVisible());
 }
 
+TEST_F(MainWindowInfo, shows_the_makers_page_at_a_click_anywhere_on_its_label) {
+    QDir(root_.path()).mkpath(u"angolkavaro/help"_s);
+    for (const char *page : {"angolkavaro/help/Kavaro súgó.mht", "angolkavaro/help/keszito.html"})
+        write_file(place(page), "Content-Type: text/html\r\n\r\nhelp");
+
+    QTest::mouseClick(control<QLabel>("Label4"), Qt::LeftButton, {}, {1, 1});
+
+    ASSERT_NE(browser_, nullptr);
+    ASSERT_FALSE(browser_->done.isEmpty());
+    EXPECT_TRUE(browser_->done.back().endsWith(u"keszito.html"_s)) << browser_->done.back().toStdString();
+}
+
+TEST_F(MainWindowInfo, shows_the_makers_page_by_the_keyboard) {
+    QDir(root_.path()).mkpath(u"angolkavaro/help"_s);
+    for (const char *page : {"angolkavaro/help/Kavaro súgó.mht", "angolkavaro/help/keszito.html"})
+        write_file(place(page), "Content-Type: text/html\r\n\r\nhelp");
+    button("cmd_kisablak")->setFocus();
+
+    QTest::keyClick(button("cmd_kisablak"), Qt::Key_Tab);
+    ASSERT_EQ(window_->focusWidget(), control<QLabel>("Label4"));
+    EXPECT_TRUE(control<QLabel>("Label4")->hasSelectedText());
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window_->focusWidget(), button("kilép"));
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Return);
+
+    ASSERT_NE(browser_, nullptr);
+    ASSERT_FALSE(browser_->done.isEmpty());
+    EXPECT_TRUE(browser_->done.back().endsWith(u"keszito.html"_s)) << browser_->done.back().toStdString();
+}
+
+TEST_F(MainWindowInfo, tells_once_that_the_help_is_damaged) {
+    QDir(root_.path()).mkpath(u"angolkavaro/help"_s);
+    write_file(place("angolkavaro/help/Kavaro súgó.mht"), "");
+
+    for (int time = 0; time < 2; ++time) {
+        browser_ = nullptr;
+        action("mnu_súgó")->trigger();
+        ASSERT_NE(browser_, nullptr);
+        browser_->widget()->window()->close();
+        QCoreApplication::processEvents();
+    }
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(u"Kavaro súgó.mht” súgófájl sérült: üres."_s)) << boxes_.told[0].toStdString();
+}
+
 TEST_F(MainWindowInfo, opens_the_about_box_with_the_programs_name_and_version) {
     bool seen = false;
 

@@ -262,6 +262,89 @@ TEST_F(MainWindowList, deleting_the_only_pair_of_a_file_is_a_change) {
     EXPECT_EQ(state_.változott, 1);
 }
 
+TEST_F(MainWindowList, delete_key_deletes_the_selected_pair_as_the_button_does) {
+    add_three();
+    click_item("szószedet", 1);
+
+    QTest::keyClick(list("szószedet"), Qt::Key_Delete);
+    EXPECT_EQ(pairs(), u"apple:alma odd:furcsa"_s);
+    EXPECT_TRUE(list("szószedet")->hasFocus());
+    EXPECT_EQ(state_.változott, 1);
+    QTest::keyClick(list("szószedet"), Qt::Key_Delete, Qt::KeypadModifier);
+
+    EXPECT_EQ(pairs(), u"apple:alma"_s);
+}
+
+TEST_F(MainWindowList, delete_key_deletes_nothing_with_another_key_or_while_it_is_held_down) {
+    add_three();
+    click_item("szószedet", 1);
+    const QString before = pairs();
+
+    for (const Qt::KeyboardModifier held : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier})
+        QTest::keyClick(list("szószedet"), Qt::Key_Delete, held);
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(list("szószedet"), &repeat);
+
+    EXPECT_EQ(pairs(), before);
+}
+
+TEST_F(MainWindowList, tells_of_changes_as_long_as_they_are_not_saved) {
+    const auto *quiet_word = control<QLabel>("Label_mentetlen");
+    EXPECT_EQ(quiet_word->text(), u"Mentetlen változások"_s);
+    EXPECT_FALSE(quiet_word->isVisible());
+
+    add("apple");
+    EXPECT_TRUE(quiet_word->isVisible());
+    dialogs_.choices = {place("a.szs")};
+    action("mnufájlment")->trigger();
+    EXPECT_FALSE(quiet_word->isVisible());
+    text_box("szómagytext")->setText(u"körte"_s);
+    click("módosít");
+
+    EXPECT_TRUE(quiet_word->isVisible());
+}
+
+TEST_F(MainWindowList, tells_of_changes_by_deleting_and_appending_and_of_none_after_opening) {
+    const auto *quiet_word = control<QLabel>("Label_mentetlen");
+    const QString path = word_list("a.szs", "dog:kutya\r\ncat:macska\r\n");
+    dialogs_.choices = {path, path};
+    action("mnufájlmegnyit")->trigger();
+    EXPECT_FALSE(quiet_word->isVisible());
+
+    click_item("szószedet", 0);
+    click("sztöröl");
+    EXPECT_TRUE(quiet_word->isVisible());
+    boxes_.answers = {Answer::no};
+    action("mnufájlfájl(1)")->trigger();
+    EXPECT_FALSE(quiet_word->isVisible());
+    action("mnufájlhozzáfűz")->trigger();
+
+    EXPECT_TRUE(quiet_word->isVisible());
+}
+
+TEST_F(MainWindowList, has_room_for_the_word_about_changes_on_every_screen) {
+    for (const QSize &pixels : {QSize(800, 600), QSize(1024, 768), QSize(2560, 1440)}) {
+        use_screen(pixels);
+        start();
+        add("apple");
+
+        const auto *quiet_word = control<QLabel>("Label_mentetlen");
+        EXPECT_LE(quiet_word->sizeHint().width(), quiet_word->width()) << pixels.width();
+        EXPECT_LE(quiet_word->sizeHint().height(), quiet_word->height()) << pixels.width();
+        EXPECT_TRUE(quiet_word->isVisible());
+    }
+}
+
+TEST_F(MainWindowList, shows_the_beginning_of_a_long_pair) {
+    const QByteArray longest(300, 'x');
+    dialogs_.choices = {word_list("a.szs", "b" + longest + ":a" + longest + "\r\n")};
+
+    action("mnufájlmegnyit")->trigger();
+
+    EXPECT_EQ(text_box("szóangtext")->cursorPosition(), 0);
+    EXPECT_EQ(text_box("szómagytext")->cursorPosition(), 0);
+}
+
 TEST_F(MainWindowList, scrolls_both_sides_in_step) {
     QByteArray bytes;
     for (int i = 0; i < 200; ++i)

@@ -1,3 +1,4 @@
+#include <QClipboard>
 #include <QElapsedTimer>
 #include <QTimer>
 
@@ -10,6 +11,13 @@ namespace {
 class MainWindowLookup : public MainWindowTest {
   protected:
     MainWindowLookup() { start(); }
+
+    void expect_nothing_shown() {
+        for (const char *name : {"szólist", "megoldlist", "magyarlist"})
+            EXPECT_EQ(list(name)->count(), 0) << name;
+        EXPECT_EQ(hit_count(), QString());
+        EXPECT_FALSE(button("hozzáad")->isEnabled());
+    }
 
     void look_up_from_hungarian() { QTest::mouseClick(control<QRadioButton>("nyelv(1)"), Qt::LeftButton); }
 };
@@ -83,7 +91,7 @@ TEST_F(MainWindowLookup, finds_nothing_for_a_letter_that_no_dictionary_can_hold)
     EXPECT_EQ(list("szólist")->count(), 0);
 }
 
-TEST_F(MainWindowLookup, enables_ok_only_with_a_text_and_keeps_the_last_hits_without) {
+TEST_F(MainWindowLookup, enables_ok_only_with_a_text) {
     EXPECT_FALSE(button("Ok")->isEnabled());
     type("app");
     EXPECT_TRUE(button("Ok")->isEnabled());
@@ -91,7 +99,78 @@ TEST_F(MainWindowLookup, enables_ok_only_with_a_text_and_keeps_the_last_hits_wit
     text_box("angolszó")->clear();
 
     EXPECT_FALSE(button("Ok")->isEnabled());
-    EXPECT_EQ(list("szólist")->count(), 2);
+}
+
+TEST_F(MainWindowLookup, shows_nothing_for_an_emptied_field) {
+    type("app");
+
+    for (int letter = 0; letter < 3; ++letter)
+        QTest::keyClick(text_box("angolszó"), Qt::Key_Backspace);
+
+    expect_nothing_shown();
+}
+
+TEST_F(MainWindowLookup, takes_a_pasted_word_without_its_line_end) {
+    QGuiApplication::clipboard()->setText(u" apple\n"_s);
+
+    QTest::keyClick(text_box("angolszó"), Qt::Key_V, Qt::ControlModifier);
+
+    EXPECT_EQ(text_box("angolszó")->text(), u"apple"_s);
+    EXPECT_EQ(hit_count(), u"2 találat"_s);
+}
+
+TEST_F(MainWindowLookup, comes_back_to_the_search_field_by_two_keys_and_selects_its_text) {
+    type("apple");
+    for (const auto &[key, held] : {std::pair(Qt::Key_L, Qt::ControlModifier), std::pair(Qt::Key_F6, Qt::NoModifier)}) {
+        button("kilép")->setFocus();
+        text_box("angolszó")->deselect();
+
+        QTest::keyClick(button("kilép"), key, held);
+
+        EXPECT_TRUE(text_box("angolszó")->hasFocus());
+        EXPECT_EQ(text_box("angolszó")->selectedText(), u"apple"_s);
+    }
+}
+
+TEST_F(MainWindowLookup, is_gone_through_by_the_arrow_keys_and_adds_on_enter) {
+    type("apple");
+
+    QTest::keyClick(text_box("angolszó"), Qt::Key_Down);
+    EXPECT_TRUE(list("szólist")->hasFocus());
+    EXPECT_EQ(list("szólist")->selected(), 1);
+    QTest::keyClick(list("szólist"), Qt::Key_Right);
+    EXPECT_TRUE(list("magyarlist")->hasFocus());
+    QTest::keyClick(list("magyarlist"), Qt::Key_Down);
+    QTest::keyClick(list("magyarlist"), Qt::Key_Return);
+
+    EXPECT_EQ(pairs(), u"apple:almafa"_s);
+}
+
+TEST_F(MainWindowLookup, is_gone_through_backwards_by_the_arrow_keys) {
+    type("apple");
+    list("magyarlist")->setFocus();
+
+    QTest::keyClick(list("magyarlist"), Qt::Key_Left);
+    EXPECT_TRUE(list("szólist")->hasFocus());
+    QTest::keyClick(list("szólist"), Qt::Key_Up);
+    EXPECT_TRUE(list("szólist")->hasFocus());
+    QTest::keyClick(list("szólist"), Qt::Key_Up);
+
+    EXPECT_TRUE(text_box("angolszó")->hasFocus());
+}
+
+TEST_F(MainWindowLookup, has_no_way_into_empty_lists) {
+    type("appx");
+
+    QTest::keyClick(text_box("angolszó"), Qt::Key_Down);
+
+    EXPECT_TRUE(text_box("angolszó")->hasFocus());
+}
+
+TEST_F(MainWindowLookup, searches_for_no_empty_text) {
+    window_->Ok_Click();
+
+    expect_nothing_shown();
 }
 
 TEST_F(MainWindowLookup, ok_searches_again) {
@@ -141,6 +220,49 @@ TEST_F(MainWindowLookup, tells_a_missing_dictionary_once_for_each_direction) {
     EXPECT_TRUE(boxes_.told[1].contains(u"ma.txt"_s));
 }
 
+TEST_F(MainWindowLookup, shows_the_selected_hit_in_the_middle_of_its_list) {
+    // A blank comes before every letter, so the exact hit has many before it.
+    QByteArrayList entries{"apple, ripe:alma\xf7"};
+    for (int i = 0; i < 40; ++i) {
+        entries.append("apple " + QByteArray::number(i) + ":x\xf7");
+        entries.append("apples" + QByteArray::number(i) + ":x\xf7");
+    }
+    write_file(place("angol/am.txt"), dictionary_of(entries));
+
+    type("apple");
+
+    const ListBox *hits = list("szólist");
+    ASSERT_EQ(hits->selected(), 40);
+    const QRect row = hits->visualRect(hits->currentIndex());
+    EXPECT_NEAR(row.center().y(), hits->viewport()->height() / 2.0, row.height());
+}
+
+TEST_F(MainWindowLookup, tells_a_damaged_dictionary_once_for_each_direction) {
+    write_file(place("angol/am.txt"), "");
+    write_file(place("angol/ma.txt"), QByteArray(5000, '\0'));
+
+    type("app");
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(u"am.txt” szótárfájl sérült: üres."_s)) << boxes_.told[0].toStdString();
+    EXPECT_EQ(hit_count(), u"0 találat"_s);
+    look_up_from_hungarian();
+    type("alm");
+
+    ASSERT_EQ(boxes_.told.size(), 2);
+    EXPECT_TRUE(boxes_.told[1].contains(u"ma.txt” szótárfájl sérült: "_s));
+}
+
+TEST_F(MainWindowTest, tells_at_the_start_that_the_program_folder_cannot_be_read_and_not_again) {
+    state_.programkönyvtár = place("gone");
+
+    start();
+    type("app");
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(u"a mappa nem létezik."_s)) << boxes_.told[0].toStdString();
+    EXPECT_EQ(hit_count(), u"nincs szótárfájl"_s);
+}
+
 /// A dictionary in which a search takes long enough for other events to come in between.
 class LongSearch : public MainWindowTest {
   protected:
@@ -186,6 +308,15 @@ TEST_F(LongSearch, change_of_direction_and_the_same_letter_again_leave_only_the_
 
     EXPECT_EQ(items("szólist"), QStringList{u"gép"_s});
     EXPECT_EQ(hit_count(), u"1 találat"_s);
+}
+
+TEST_F(LongSearch, is_given_up_when_the_field_is_emptied) {
+    QTimer::singleShot(0, window_.get(), [this] { QTest::keyClick(text_box("angolszó"), Qt::Key_Backspace); });
+
+    type("g");
+
+    EXPECT_EQ(list("szólist")->count(), 0);
+    EXPECT_EQ(hit_count(), QString());
 }
 
 TEST_F(LongSearch, ends_at_once_when_the_program_ends) {

@@ -1,6 +1,7 @@
 #include <QTimer>
 
 #include "support/main_window_fixture.h"
+#include "support/odd_files.h"
 #include "support/timers.h"
 
 using namespace Qt::StringLiterals;
@@ -130,6 +131,18 @@ TEST_F(MainWindowMini, opens_the_mini_window_in_its_place_at_the_start_when_it_w
     EXPECT_TRUE(mini()->isVisible());
     EXPECT_EQ(mini()->pos(), QPoint(200, 100));
     EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(MainWindowMini, tells_once_that_its_file_cannot_be_read) {
+    QDir(place("c")).mkpath(u"zbrmk/angol"_s);
+    const UnreadableFile file(place("c/zbrmk/angol/kisablak.ini"));
+
+    start();
+    click("cmd_kisablak");
+
+    ASSERT_EQ(boxes_.told.size(), 1);
+    EXPECT_TRUE(boxes_.told[0].contains(u"kisablak.ini” fájl nem olvasható"_s)) << boxes_.told[0].toStdString();
+    EXPECT_EQ(state_.kisablakmód, 1);
 }
 
 TEST_F(MainWindowMini, opens_no_mini_window_at_the_start_for_any_other_mode) {

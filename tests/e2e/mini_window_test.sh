@@ -81,8 +81,9 @@ typed_is() {
     [[ $(<"$temp/typed") == "$1" ]]
 }
 
+# copy <text> [-t <kind>]
 copy() {
-    printf '%s' "$1" | xclip -i -selection clipboard >/dev/null 2>&1
+    printf '%s' "$1" | xclip -i -selection clipboard "${@:2}" >/dev/null 2>&1
 }
 
 # own_clipboard <argument of the owner>...: its words go to $temp/owner.log.
@@ -115,6 +116,39 @@ test_a_copied_word_is_looked_up_while_another_window_keeps_the_focus_and_what_is
     # Then
     wait_until "the typed letters" typed_is "before meanwhile after"
     has_focus "$other" || fail "The other window has lost the focus."
+}
+
+test_a_copied_line_is_looked_up_without_its_end_and_quotes_and_a_blank_one_empties_the_window() {
+    # Given
+    know_lookup apple
+    start_mini_window "${place[@]}"
+    take_lookup nothing
+    # When
+    copy $'\u201eApple\u201d\r\n'
+    # Then
+    wait_for_lookup apple
+    # When
+    copy $' \n'
+    # Then
+    wait_for_lookup nothing
+}
+
+test_texts_that_are_offered_as_other_kinds_are_looked_up() {
+    # Given
+    know_lookup apple house dog
+    start_mini_window "${place[@]}"
+    # When
+    copy apple -t STRING
+    # Then
+    wait_for_lookup apple
+    # When
+    copy house -t text/plain
+    # Then
+    wait_for_lookup house
+    # When
+    copy dog -t TEXT
+    # Then
+    wait_for_lookup dog
 }
 
 # The window that has the focus covers the screen.

@@ -31,6 +31,7 @@ class NoWindow final : public szószedetablak {
     void címbeállít(const QString &) override {}
     void listához_igazít() override {}
     void szövegmezőketürít() override {}
+    void változást_mutat() override {}
     void fájllistmutat(const QStringList &) override {}
 };
 

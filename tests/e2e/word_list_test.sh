@@ -60,6 +60,71 @@ test_the_keyboard_alone_finds_adds_and_saves_a_word() {
     expect_lines "$lists/keys.szs" "apple:alma"
 }
 
+test_arrow_keys_lead_to_the_meanings_and_delete_takes_a_pair_away() {
+    # Given
+    start_program
+    write apple
+    wait_for_text apple
+    # When
+    press Down Right
+    wait_for_item alma
+    press Return
+    wait_until "the word list in sight" word_list_is_shown
+    press ctrl+l
+    write dog
+    wait_for_text dog
+    press Down Right
+    wait_for_item kutya
+    press Return ctrl+s
+    name_file "Mentés másként" "$lists/keys.szs"
+    wait_for_title "$(title_of_list "$lists/keys.szs")"
+    # Then
+    expect_lines "$lists/keys.szs" "apple:alma" "dog:kutya"
+    # When
+    click "$first_pair"
+    wait_for_item apple
+    press Delete ctrl+s
+    # Then
+    expect_lines "$lists/keys.szs" "dog:kutya"
+}
+
+test_a_held_backspace_leaves_no_hits_under_an_empty_field() {
+    # Given
+    start_program
+    write interesting
+    wait_for_text interesting
+    press End
+    # When
+    xdotool key --repeat 15 --delay 30 BackSpace
+    # Then the hits cannot be entered, so that the field keeps the keyboard
+    press Down
+    write x
+    wait_for_text x
+}
+
+test_a_list_whose_naming_was_cancelled_says_why_it_is_not_saved() {
+    # Given
+    make_list "$lists/animals.szs" "dog:kutya"
+    start_program "$lists/animals.szs"
+    expect_selected_pair dog kutya
+    write eb
+    press Return
+    press alt+f Down Down Down Down Return
+    wait_for_title "Mentés másként"
+    press Escape
+    wait_for_main_window
+    # When
+    press ctrl+n
+    wait_for_title "Kilépés"
+    press alt+i
+    # Then
+    wait_for_title "Zimbora"
+    press Return
+    wait_for_main_window
+    expect_selected_pair dog eb
+    expect_lines "$lists/animals.szs" "dog:kutya"
+}
+
 test_an_existing_file_is_replaced_only_after_a_yes() {
     # Given
     make_list "$lists/animals.szs" "dog:kutya"

@@ -42,9 +42,32 @@ TEST(ClipboardWord, is_trimmed_and_in_lower_case) {
     EXPECT_EQ(word_of(u"\u00a0Apple\u00a0"_s), u"apple"_s);
 }
 
-TEST(ClipboardWord, is_never_blank) {
-    for (const char16_t *text : {u"", u" ", u"  \t ", u"\u00a0"})
-        EXPECT_EQ(word_of(QString::fromUtf16(text)), std::nullopt);
+TEST(ClipboardWord, is_empty_for_a_blank_text) {
+    vágólapszó word;
+    EXPECT_EQ(word.új_szó(u"alma"_s), u"alma"_s);
+    EXPECT_EQ(word.új_szó(QString()), QString());
+
+    for (const char16_t *text : {u" ", u"  \t ", u"\u00a0", u"\r\n", u"\"\"", u"( „” )"})
+        EXPECT_EQ(word_of(QString::fromUtf16(text)), QString());
+}
+
+TEST(ClipboardWord, loses_the_quotes_and_brackets_around_it) {
+    for (const char16_t *text : {u"\"apple\"", u"„apple”", u"“apple”", u"»apple«", u"'apple'", u"‘apple’", u"(apple)",
+                                 u"[apple]", u"{apple}", u"<apple>", u"(„Apple”)", u" ( apple ) ", u"(apple", u"apple]",
+                                 u"„apple", u"apple\"", u"\"apple\",", u"(apple)."})
+        EXPECT_EQ(word_of(QString::fromUtf16(text)), u"apple"_s) << QString::fromUtf16(text).toStdString();
+}
+
+TEST(ClipboardWord, keeps_the_quotes_and_brackets_within_it) {
+    for (const char16_t *text : {u"'cause", u"o'clock", u"students'", u"ért (vmit)", u"(be)leszeret", u"(a) és (b)",
+                                 u"\"rock\" and \"roll", u"etc.", u"a, b"})
+        EXPECT_EQ(word_of(QString::fromUtf16(text)), QString::fromUtf16(text))
+            << QString::fromUtf16(text).toStdString();
+}
+
+TEST(ClipboardWord, loses_the_line_end_around_it) {
+    for (const char16_t *text : {u"alma\n", u"alma\r\n", u"alma\u2028", u"\nalma", u" alma \n\n"})
+        EXPECT_EQ(word_of(QString::fromUtf16(text)), u"alma"_s);
 }
 
 TEST(ClipboardWord, is_not_the_text_that_was_there) {
@@ -56,13 +79,14 @@ TEST(ClipboardWord, is_not_the_text_that_was_there) {
 }
 
 TEST(ClipboardWord, has_up_to_two_hundred_letters) {
+    EXPECT_EQ(word_of(QString(200, u'ű') + u'\n'), QString(200, u'ű'));
     EXPECT_EQ(word_of(QString(200, u'ű')), QString(200, u'ű'));
     EXPECT_EQ(word_of(QString(201, u'ű')), std::nullopt);
 }
 
 TEST(ClipboardWord, is_never_a_text_of_several_lines) {
-    for (const char16_t *text : {u"alma\nkörte", u"alma\rkörte", u"alma\r\nkörte", u"alma\u2028körte",
-                                 u"alma\u2029körte", u"alma\n", u"\nalma"})
+    for (const char16_t *text :
+         {u"alma\nkörte", u"alma\rkörte", u"alma\r\nkörte", u"alma\u2028körte", u"alma\u2029körte"})
         EXPECT_EQ(word_of(QString::fromUtf16(text)), std::nullopt) << QString::fromUtf16(text).toStdString();
 }
 

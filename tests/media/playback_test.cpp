@@ -19,7 +19,7 @@ const QString other_piece = u"/program/zenemid/est.mid"_s;
 class Playback : public testing::Test {
   protected:
     FakeMultimedia device_;
-    global::programállapot state_{u"/program"_s, {}};
+    global::programállapot state_{u"/program"_s, {}, {}};
     lejátszó player_{device_, state_};
 };
 

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
-#include "support/files_for_tests.h"
 #include "support/printing.h"
 
 using namespace Qt::StringLiterals;
@@ -25,18 +22,6 @@ TEST(DocumentNames, of_a_list_never_saved_lie_in_the_program_folder) {
     EXPECT_EQ(names.út, QString());
     EXPECT_EQ(names.cím, u"névtelen szószedet"_s);
     EXPECT_EQ(names.pdf, u"/program/névtelen szószedet.pdf"_s);
-}
-
-TEST(DocumentNames, know_a_saved_list_whose_new_naming_was_cancelled) {
-    const QTemporaryDir folder;
-    const QString saved = folder.filePath(u"saved.szs"_s);
-    write_file(saved, "a:b\r\n");
-
-    EXPECT_EQ(dokumentum(u'*' + saved, u"/program"_s).út, saved);
-    EXPECT_EQ(dokumentum(u"**"_s + saved, u"/program"_s).cím, u"saved"_s);
-    const QString proposed = folder.filePath(u"proposed.szs"_s);
-    EXPECT_EQ(dokumentum(u'*' + proposed, u"/program"_s).út, QString());
-    EXPECT_EQ(dokumentum(u"*"_s, u"/program"_s).cím, u"névtelen szószedet"_s);
 }
 
 TEST(DocumentNames, get_the_extension_of_a_pdf_when_it_is_missing) {

@@ -18,6 +18,8 @@ class FakeLargeWindow final : public nagyablak {
 
     QStringList calls;
     bool ends = false;
+    /// Whether what is to be added comes into the word list.
+    bool adds = true;
     QRectF place{3000, 1500, 9000, 6000};
     QPointF came_back_at;
     /// Called with the text while it is searched for.
@@ -38,7 +40,9 @@ class FakeLargeWindow final : public nagyablak {
     void angolszóba_ír(const QString &text) override {
         calls.append(typed + text);
         text_ = text;
-        if (!text.isEmpty())
+        if (text.isEmpty())
+            lookup_.ürít();
+        else
             search();
         // It may set itself anew.
         const auto act = during_search;
@@ -48,8 +52,14 @@ class FakeLargeWindow final : public nagyablak {
         calls.append(u"Ok_Click"_s);
         search();
     }
-    void magyarlist_DblClick() override { calls.append(u"magyarlist_DblClick"_s); }
-    void hozzáad_Click() override { calls.append(u"hozzáad_Click"_s); }
+    bool magyarlist_DblClick() override {
+        calls.append(u"magyarlist_DblClick"_s);
+        return adds;
+    }
+    bool hozzáad_Click() override {
+        calls.append(u"hozzáad_Click"_s);
+        return adds;
+    }
 
     [[nodiscard]] QRectF helye() const override { return place; }
     void visszatér(const QPointF &middle) override {

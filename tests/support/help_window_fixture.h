@@ -32,15 +32,17 @@ class HelpWindowTest : public WindowTest {
 
     /// Loads the viewer, but does not show it.
     void load(WebBrowserFactory browser) {
-        window_ = std::make_unique<frm_súgó>(súgókörnyezet{.közös = common(),
-                                                           .programkönyvtár = program_,
-                                                           .rövidüzenet =
-                                                               [this](const QString &text) {
-                                                                   notes_.append(text);
-                                                                   during_note_();
-                                                               },
-                                                           .böngésző = std::move(browser),
-                                                           .bezárva = [this] { ++closed_; }});
+        window_ = std::make_unique<frm_súgó>(
+            súgókörnyezet{.közös = common(),
+                          .programkönyvtár = program_,
+                          .rövidüzenet =
+                              [this](const QString &text) {
+                                  notes_.append(text);
+                                  during_note_();
+                              },
+                          .egyszer_szól = [this](const QString &text) { warnings_.append(text); },
+                          .böngésző = std::move(browser),
+                          .bezárva = [this] { ++closed_; }});
     }
 
     void show() {
@@ -78,6 +80,7 @@ class HelpWindowTest : public WindowTest {
     /// Text of the program folder.
     QString program_ = place(u"program"_s);
     QStringList notes_;
+    QStringList warnings_;
     /// Called while a note would be open.
     std::function<void()> during_note_ = [] {};
     int closed_ = 0;

@@ -24,6 +24,7 @@ class FakeWindow final : public szószedetablak {
     void címbeállít(const QString &cím) override { title = cím; }
     void listához_igazít() override { ++fitted; }
     void szövegmezőketürít() override { ++cleared; }
+    void változást_mutat() override {}
     void fájllistmutat(const QStringList &fájlok) override { recent = fájlok; }
 };
 
@@ -35,6 +36,11 @@ class WordListFiles : public testing::Test {
     }
 
     [[nodiscard]] QString place(const char *name) const { return root_.filePath(QString::fromUtf8(name)); }
+
+    /// What is proposed there, with the system's separator.
+    [[nodiscard]] QString in_program_folder(const char *name) const {
+        return place("angol") + QDir::separator() + QString::fromUtf8(name);
+    }
 
     QString file(const char *name, const QByteArray &bytes) {
         write_file(place(name), bytes);

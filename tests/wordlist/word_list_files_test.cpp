@@ -14,7 +14,7 @@ TEST_F(WordListFiles, first_save_proposes_the_program_folder_and_the_first_engli
 
     files_.mnufájlment();
 
-    EXPECT_EQ(dialogs_.proposals, QStringList{place("angol/apple.szs")});
+    EXPECT_EQ(dialogs_.proposals, QStringList{in_program_folder("apple.szs")});
     EXPECT_EQ(read_file(place("gyumi.szs")), "apple:alma\r\n");
     EXPECT_EQ(state_.aktuálisfájl, place("gyumi.szs"));
     EXPECT_EQ(state_.változott, 0);
@@ -27,7 +27,7 @@ TEST_F(WordListFiles, proposed_name_has_nothing_that_a_file_name_cannot_have) {
 
     files_.mnufájlment();
 
-    EXPECT_EQ(dialogs_.proposals, QStringList{place("angol/and_or_ etc__ what_.szs")});
+    EXPECT_EQ(dialogs_.proposals, QStringList{in_program_folder("and_or_ etc__ what_.szs")});
 }
 
 TEST_F(WordListFiles, second_save_asks_nothing) {
@@ -122,6 +122,71 @@ TEST_F(WordListFiles, cancelled_save_as_stars_the_name_and_later_saves_write_not
     EXPECT_EQ(state_.változott, 0);
 }
 
+/// A changed list in "a.szs", after "Ment másként..." was cancelled.
+class CancelledSaveAs : public WordListFiles {
+  protected:
+    CancelledSaveAs() {
+        add("apple", "alma");
+        state_.aktuálisfájl = place("a.szs");
+        files_.mnufájlmentmásként();
+        other_ = file("b.szs", "dog:kutya\r\n");
+        boxes_.answers = {Answer::yes};
+    }
+
+    void expect_told_and_nothing_done() {
+        ASSERT_EQ(boxes_.told.size(), 1);
+        EXPECT_TRUE(boxes_.told[0].contains(u"nincsenek elmentve"_s)) << boxes_.told[0].toStdString();
+        EXPECT_TRUE(boxes_.told[0].contains(u"„Ment másként...”"_s));
+        EXPECT_EQ(pairs(), u"apple:alma"_s);
+        EXPECT_EQ(state_.változott, 1);
+        EXPECT_FALSE(QFile::exists(place("a.szs")));
+    }
+
+    QString other_;
+};
+
+TEST_F(CancelledSaveAs, says_why_it_does_not_save_before_a_new_list) {
+    files_.mnufájlúj();
+
+    expect_told_and_nothing_done();
+}
+
+TEST_F(CancelledSaveAs, says_why_it_does_not_save_before_opening) {
+    files_.mnufájlmegnyit();
+
+    expect_told_and_nothing_done();
+}
+
+TEST_F(CancelledSaveAs, says_why_it_does_not_save_before_a_recent_file) {
+    files_.mnufájlfájl(other_);
+
+    expect_told_and_nothing_done();
+}
+
+TEST_F(CancelledSaveAs, says_why_it_does_not_save_at_the_exit) {
+    EXPECT_FALSE(files_.kilépéskérdés());
+
+    expect_told_and_nothing_done();
+}
+
+TEST_F(CancelledSaveAs, still_knows_the_file_of_the_list) {
+    files_.mnufájlmentmásként();
+
+    EXPECT_EQ(state_.listafájl(), place("a.szs"));
+}
+
+TEST_F(WordListFiles, list_never_saved_has_no_file_though_one_of_its_proposed_name_exists) {
+    add("apple", "alma");
+    file("angol/apple.szs", "old:r\xe9gi\r\n");
+
+    files_.mnufájlmentmásként();
+    EXPECT_EQ(state_.aktuálisfájl, u'*' + in_program_folder("apple.szs"));
+    EXPECT_EQ(state_.listafájl(), QString());
+    files_.mnufájlmentmásként();
+
+    EXPECT_EQ(state_.listafájl(), QString());
+}
+
 TEST_F(WordListFiles, opening_replaces_the_list_and_puts_the_file_first_in_the_menu) {
     add("old", "régi");
     state_.változott = 0;
@@ -129,7 +194,7 @@ TEST_F(WordListFiles, opening_replaces_the_list_and_puts_the_file_first_in_the_m
 
     files_.mnufájlmegnyit();
 
-    EXPECT_EQ(dialogs_.proposals, QStringList{place("angol/*.szs")});
+    EXPECT_EQ(dialogs_.proposals, QStringList{in_program_folder("*.szs")});
     EXPECT_EQ(pairs(), u"time:idő: 3 óra"_s);
     EXPECT_EQ(state_.aktuálisfájl, place("b.szs"));
     EXPECT_EQ(state_.változott, 0);
@@ -221,7 +286,7 @@ TEST_F(WordListFiles, appending_adds_every_pair_at_the_end_and_doubles_a_list_ap
     EXPECT_EQ(pairs(), u"dog:kutya apple:alma apple:alma"_s);
     EXPECT_EQ(state_.aktuálisfájl, place("saját.szs"));
     EXPECT_EQ(state_.változott, 1);
-    EXPECT_EQ(dialogs_.proposals[0], place("angol/*.szs"));
+    EXPECT_EQ(dialogs_.proposals[0], in_program_folder("*.szs"));
 }
 
 TEST_F(WordListFiles, appending_to_a_list_without_a_file_makes_the_appended_file_current) {

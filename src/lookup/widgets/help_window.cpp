@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QLineEdit>
 #include <QPointer>
 #include <QToolButton>
@@ -9,6 +10,7 @@
 #include <array>
 #include <utility>
 
+#include "lookup/help_archive.h"
 #include "lookup/widgets/missing_browser.h"
 #include "ui/controls/named.h"
 #include "ui/drawing/svg_picture.h"
@@ -150,7 +152,18 @@ void frm_súgó::Form_Load() {
     cboAddress_->addItem(kezdőcím_);
     cboAddress_->setEditText(kezdőcím_);
     timTimer_->start();
+    sérülést_elmond();
     navigál();
+}
+
+void frm_súgó::sérülést_elmond() {
+    const QString út = súgócímek::url(kezdőcím_).toLocalFile();
+    const FileContent tartalom = files::read_whole(út);
+    const auto *bytes = std::get_if<QByteArray>(&tartalom);
+    const auto mi = bytes ? archívumhiba(*bytes) : std::nullopt;
+    if (mi)
+        k_.egyszer_szól(u"A(z) „%1” súgófájl sérült: %2 Segíthet a program újratelepítése."_s.arg(
+            QDir::toNativeSeparators(út), *mi));
 }
 
 void frm_súgó::Form_Resize() {

@@ -21,6 +21,8 @@ struct súgókörnyezet {
     QString programkönyvtár;
     /// Shows a short note, such as why a link was not opened.
     std::function<void(const QString &szöveg)> rövidüzenet;
+    /// Tells something in a message box, unless it was told before.
+    std::function<void(const QString &szöveg)> egyszer_szól;
     WebBrowserFactory böngésző;
     /// Called from the event loop after the user has closed the window, which may be destroyed then.
     std::function<void()> bezárva;
@@ -52,6 +54,8 @@ class frm_súgó final : public ablak {
     void böngészőt_készít();
     void elhelyezés();
     void Form_Load();
+    /// Tells when the help document is damaged, which is shown as a blank page.
+    void sérülést_elmond();
     void navigál();
     void lapnév();
 

@@ -12,8 +12,9 @@ class nagyablak {
     /// Writes into the search field, which searches. Other events run meanwhile.
     virtual void angolszóba_ír(const QString &szöveg) = 0;
     virtual void Ok_Click() = 0;
-    virtual void magyarlist_DblClick() = 0;
-    virtual void hozzáad_Click() = 0;
+    /// Both add the selected hit and meaning to the word list; true when the list has them now.
+    virtual bool magyarlist_DblClick() = 0;
+    virtual bool hozzáad_Click() = 0;
 
     /// Place among all screens, in twips; what it was before it was hidden.
     [[nodiscard]] virtual QRectF helye() const = 0;

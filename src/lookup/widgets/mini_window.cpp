@@ -10,8 +10,9 @@
 
 #include "lookup/corner_walk.h"
 #include "lookup/screen_place.h"
+#include "ui/controls/lookup_keys.h"
 #include "ui/controls/named.h"
-#include "ui/controls/unlimited_line_edit.h"
+#include "ui/controls/search_box.h"
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
 
@@ -35,6 +36,7 @@ constexpr QRectF nagyhely(szél + 2100, 4110, belső - 2100, 360);
 
 constexpr double képernyőrész = 0.42;
 constexpr int vágólapidő = 300;
+constexpr int hírideje = 2000;
 /// No panel of a desktop is wider than this, in twips.
 constexpr double panelméret = 1500;
 
@@ -88,7 +90,7 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
       cmd_lent_(súgóval(named(new QLabel, u"cmd_lent", u"Sarokba, F2"), lent_súgója)),
       cmd_x_(súgóval(named(new QLabel, u"cmd_x", u"Szótár bezárása"), x_súgója)),
       Label1_(named(new QLabel(u"Keresett szó:"_s), u"Label1")),
-      txt_keres_(súgóval(named(unlimited_line_edit(), u"txt_keres", u"Keresett szó"),
+      txt_keres_(súgóval(named(new SearchBox, u"txt_keres", u"Keresett szó"),
                          u"Ide írja be a keresett szót. Ha valamely alkalmazásban a vágólapra helyez egy "
                          "szót, az rögtön megjelenik a keresőmezőben."_s)),
       cmd_keres_(súgóval(named(new QPushButton(u"Keres"_s), u"cmd_keres", u"Keres"), u"Keres"_s)),
@@ -107,6 +109,7 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
       cmd_kilép_(súgóval(named(new QPushButton(u"Nagy"_s), u"cmd_kilép", u"Nagy ablak"),
                          u"A nagy ablakra vált, melyben több szolgáltatás áll rendelkezésére."_s)),
       Timer1_(new QTimer(this)),
+      Timer_fejléc_(new QTimer(this)),
       vágólap_(k_.vágólap()) {
     setWindowFlag(Qt::WindowStaysOnTopHint);
     for (size_t i = 0; i < Line1_.size(); ++i)
@@ -116,6 +119,7 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
     Module_hasznos::betűméretez(*this, k_.közös.hasznos.ablakméretez(*this, képernyőrész));
     k_.közös.hasznos.ablakstílus(*this);
     const QString cím = k_.kereső.angolról() ? u"Zimbora Angol-magyar szótár"_s : u"Zimbora Magyar-angol szótár"_s;
+    label_fejléc_->setTextFormat(Qt::PlainText);
     label_fejléc_->setText(cím);
     setWindowTitle(cím);
     if (const auto most = vágólap_->text())
@@ -150,11 +154,15 @@ void frm_kisablak::eseményeket_köt() {
     connect(txt_keres_, &QLineEdit::textChanged, this, [this] { txt_keres_Change(); });
     connect(cmd_keres_, &QPushButton::clicked, this, [this] { cmd_keres_Click(); });
     connect(lst_találatlista_, &ListBox::itemSelected, this, [this] { lst_találatlista_Click(); });
-    connect(lst_translate_, &ListBox::itemDoubleClicked, this, [this] { k_.nagy.magyarlist_DblClick(); });
+    connect(lst_translate_, &ListBox::itemDoubleClicked, this, [this] { lst_translate_DblClick(); });
     connect(cmd_szószedethez_ad_, &QPushButton::clicked, this, [this] { cmd_szószedethez_ad_Click(); });
     connect(cmd_kilép_, &QPushButton::clicked, this, [this] { cmd_kilép_Click(); });
     Timer1_->setObjectName(u"Timer1"_s);
     connect(Timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
+    Timer_fejléc_->setObjectName(u"Timer_fejléc"_s);
+    Timer_fejléc_->setSingleShot(true);
+    connect(Timer_fejléc_, &QTimer::timeout, this, [this] { Timer_fejléc_Timer(); });
+    new LookupKeys(*txt_keres_, *lst_találatlista_, *lst_translate_);
     // The window sees keys before its controls do.
     for (QWidget *vezérlő : vezérlők())
         vezérlő->installEventFilter(this);
@@ -162,7 +170,8 @@ void frm_kisablak::eseményeket_köt() {
 
 void frm_kisablak::fejlécet_elrendez() {
     const double magasság = hely(cmd_x_).height() + 2 * hely(cmd_x_).top();
-    const double vastag = hely(cmd_x_).top();
+    // The header is scaled with the window; the lines round it are not.
+    const double vastag = vonal;
     const double jobb = belsőszélesség() - vastag;
     const double gomb = magasság - 2 * vastag;
     elhelyez(Line1_[0], {0, 0, belsőszélesség(), vastag});
@@ -244,12 +253,19 @@ void frm_kisablak::helyet_megjegyez() {
 void frm_kisablak::txt_keres_Change() {
     const Foglalt foglalt(*this);
     k_.nagy.angolszóba_ír(txt_keres_->text());
+    lst_találatlista_->show_selected_in_middle();
 }
 
 void frm_kisablak::cmd_keres_Click() {
     const Foglalt foglalt(*this);
     k_.nagy.Ok_Click();
+    lst_találatlista_->show_selected_in_middle();
     txt_keres_->setFocus();
+}
+
+void frm_kisablak::keresőmezőbe() {
+    txt_keres_->setFocus(Qt::ShortcutFocusReason);
+    txt_keres_->selectAll();
 }
 
 void frm_kisablak::Timer1_Timer() {
@@ -285,8 +301,28 @@ void frm_kisablak::lst_találatlista_Click() {
 }
 
 void frm_kisablak::cmd_szószedethez_ad_Click() {
-    k_.nagy.hozzáad_Click();
+    if (k_.nagy.hozzáad_Click())
+        felvettet_mutat();
     txt_keres_->setFocus();
+}
+
+void frm_kisablak::lst_translate_DblClick() {
+    if (k_.nagy.magyarlist_DblClick())
+        felvettet_mutat();
+}
+
+void frm_kisablak::felvettet_mutat() {
+    const auto mit = k_.kereső.választott();
+    if (!mit)
+        return;
+    const QString hír = u"Szószedetben: %1 – %2"_s.arg(mit->címszó, mit->jelentés);
+    const int szélesség = cmd_lent_->x() - label_fejléc_->x() - label_fejléc_->contentsMargins().left();
+    label_fejléc_->setText(label_fejléc_->fontMetrics().elidedText(hír, Qt::ElideRight, szélesség));
+    Timer_fejléc_->start(hírideje);
+}
+
+void frm_kisablak::Timer_fejléc_Timer() {
+    label_fejléc_->setText(windowTitle());
 }
 
 void frm_kisablak::cmd_kilép_Click() {
@@ -392,6 +428,10 @@ bool frm_kisablak::billentyű(const QKeyEvent &esemény) {
         return false;
     if (esemény.key() == Qt::Key_F2) {
         cmd_lent_Click();
+        return true;
+    }
+    if (esemény.key() == Qt::Key_F6 || (esemény.key() == Qt::Key_L && esemény.modifiers() == Qt::ControlModifier)) {
+        keresőmezőbe();
         return true;
     }
     if (esemény.key() == Qt::Key_F4 && esemény.modifiers() == Qt::AltModifier) {

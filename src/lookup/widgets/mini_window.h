@@ -93,7 +93,12 @@ class frm_kisablak final : public ablak {
     void txt_keres_Change();
     void cmd_keres_Click();
     void Timer1_Timer();
+    void Timer_fejléc_Timer();
     void lst_találatlista_Click();
+    void lst_translate_DblClick();
+    /// Tells in the header for a while what has been added to the word list.
+    void felvettet_mutat();
+    void keresőmezőbe();
     void cmd_szószedethez_ad_Click();
     void cmd_kilép_Click();
     void cmd_x_Click();
@@ -115,6 +120,8 @@ class frm_kisablak final : public ablak {
     QPushButton *cmd_szószedethez_ad_;
     QPushButton *cmd_kilép_;
     QTimer *Timer1_;
+    /// Runs while the header tells something else than its title.
+    QTimer *Timer_fejléc_;
     std::unique_ptr<ClipboardWatch> vágólap_;
     vágólapszó vágólapszöveg_;
     /// Place of the top left corner among all screens, in twips; exact where the program has put it.

@@ -12,6 +12,7 @@
 #include <span>
 #include <thread>
 
+#include "platform/linux/clipboard_text.h"
 #include "platform/linux/x11.h"
 
 // The clipboard of X11 belongs to the program that copied last; a text has to be asked for and comes when that program
@@ -29,7 +30,11 @@ class X11Clipboard final {
         xcb_connection_t *c = connection_.get();
         clipboard_ = x11::atom(c, "CLIPBOARD");
         targets_ = x11::atom(c, "TARGETS");
-        utf8_ = x11::atom(c, "UTF8_STRING");
+        for (size_t i = 0; i < kinds_.size(); ++i) {
+            const char *name =
+                i < clipboard_text::targets.size() ? clipboard_text::targets[i] : clipboard_text::compound;
+            kinds_[i] = {x11::atom(c, name), name};
+        }
         pieces_ = x11::atom(c, "INCR");
         answer_ = x11::atom(c, "ZIMBORA_CLIPBOARD");
         secrets_ = {x11::atom(c, "x-kde-passwordManagerHint"),
@@ -92,25 +97,42 @@ class X11Clipboard final {
             ask_for_text_among({static_cast<const xcb_atom_t *>(value), length / sizeof(xcb_atom_t)});
             return std::nullopt;
         }
-        if (answer.target != utf8_ || reply->type != utf8_)
-            return std::nullopt;
-        return ClipboardText{QString::fromUtf8(static_cast<const char *>(value), static_cast<qsizetype>(length)),
-                             was_there_};
+        const QByteArrayView bytes(static_cast<const char *>(value), static_cast<qsizetype>(length));
+        const auto text = clipboard_text::decode(name_of(reply->type), bytes);
+        return text ? std::optional(ClipboardText{*text, was_there_}) : std::nullopt;
+    }
+
+    [[nodiscard]] QByteArrayView name_of(xcb_atom_t kind) const {
+        const auto known =
+            std::find_if(kinds_.cbegin(), kinds_.cend(), [kind](const Kind &one) { return one.atom == kind; });
+        return known == kinds_.cend() ? QByteArrayView() : QByteArrayView(known->name);
     }
 
     void ask_for_text_among(std::span<const xcb_atom_t> offered) {
         const auto is_offered = [offered](xcb_atom_t target) {
             return std::find(offered.begin(), offered.end(), target) != offered.end();
         };
-        if (is_offered(utf8_) && std::none_of(secrets_.begin(), secrets_.end(), is_offered))
-            ask(utf8_);
+        if (std::any_of(secrets_.begin(), secrets_.end(), is_offered))
+            return;
+        const auto targets_end = kinds_.cbegin() + clipboard_text::targets.size();
+        const auto best =
+            std::find_if(kinds_.cbegin(), targets_end, [&](const Kind &kind) { return is_offered(kind.atom); });
+        if (best != targets_end)
+            ask(best->atom);
     }
+
+    /// A kind of text.
+    struct Kind {
+        xcb_atom_t atom = XCB_ATOM_NONE;
+        const char *name = nullptr;
+    };
 
     x11::Connection connection_;
     xcb_window_t window_;
     xcb_atom_t clipboard_ = XCB_ATOM_NONE;
     xcb_atom_t targets_ = XCB_ATOM_NONE;
-    xcb_atom_t utf8_ = XCB_ATOM_NONE;
+    /// Those that are asked for, the best first, and behind them the one that may come instead.
+    std::array<Kind, clipboard_text::targets.size() + 1> kinds_{};
     xcb_atom_t pieces_ = XCB_ATOM_NONE;
     xcb_atom_t answer_ = XCB_ATOM_NONE;
     std::array<xcb_atom_t, 2> secrets_{};

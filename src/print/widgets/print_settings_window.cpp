@@ -40,7 +40,7 @@ frm_nyomtatás::frm_nyomtatás(const nyomtatáskörnyezet &környezet)
     : ablak(u"frm_nyomtatás"_s),
       k_(környezet),
       v_(*this),
-      nevek_(dokumentum(k_.állapot.aktuálisfájl, k_.állapot.programkönyvtár)) {
+      nevek_(dokumentum(k_.állapot.listafájl(), k_.állapot.programkönyvtár)) {
     setWindowTitle(u"Szószedet nyomtatása"_s);
     eseményeket_köt();
     Form_Load();

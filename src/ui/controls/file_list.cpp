@@ -2,7 +2,6 @@
 
 #include <QCollator>
 #include <QDir>
-#include <QKeyEvent>
 #include <QLocale>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -41,15 +40,4 @@ QString FileListBox::file_name() const {
 
 QString FileListBox::path_of(const QString &name) const {
     return folder_ + u'/' + name;
-}
-
-void FileListBox::keyPressEvent(QKeyEvent *event) {
-    // That of the number pad is one, too.
-    const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
-    if (event->key() != Qt::Key_Delete || held != Qt::NoModifier) {
-        ListBox::keyPressEvent(event);
-        return;
-    }
-    if (!event->isAutoRepeat())
-        Q_EMIT deletePressed();
 }

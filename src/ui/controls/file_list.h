@@ -7,8 +7,6 @@
 /// A list of the files of a folder whose names match a pattern such as "*.wav", in the order of the Hungarian alphabet.
 /// Folders and pipes are no files, whatever their names.
 class FileListBox final : public ListBox {
-    Q_OBJECT
-
   public:
     explicit FileListBox(const QString &pattern, QWidget *parent = nullptr);
 
@@ -26,13 +24,6 @@ class FileListBox final : public ListBox {
     [[nodiscard]] QString file_name() const;
     /// The path of a file of the folder.
     [[nodiscard]] QString path_of(const QString &name) const;
-
-  Q_SIGNALS:
-    /// Delete was pressed; once for a key that is held down.
-    void deletePressed();
-
-  protected:
-    void keyPressEvent(QKeyEvent *event) override;
 
   private:
     const QString pattern_;

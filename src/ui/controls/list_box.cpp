@@ -1,6 +1,7 @@
 #include "ui/controls/list_box.h"
 
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -139,6 +140,11 @@ void ListBox::select(int index) {
     announce();
 }
 
+void ListBox::show_selected_in_middle() {
+    if (selected() >= 0)
+        scrollTo(currentIndex(), PositionAtCenter);
+}
+
 void ListBox::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
     QListView::currentChanged(current, previous);
     if (!selecting_)
@@ -149,6 +155,17 @@ QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex 
     const auto command = QListView::selectionCommand(index, event);
     // With Ctrl the toolkit takes the highlight off the selected item, which stays the selected one.
     return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
+}
+
+void ListBox::keyPressEvent(QKeyEvent *event) {
+    // That of the number pad is one, too.
+    const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if (event->key() != Qt::Key_Delete || held != Qt::NoModifier) {
+        QListView::keyPressEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat())
+        Q_EMIT deletePressed();
 }
 
 void ListBox::mousePressEvent(QMouseEvent *event) {

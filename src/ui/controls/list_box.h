@@ -29,16 +29,21 @@ class ListBox : public QListView {
     [[nodiscard]] int selected() const;
     /// Selects an item; no item when `index` is −1.
     void select(int index);
+    /// Scrolls the selected item to the middle, as far as the list goes on.
+    void show_selected_in_middle();
 
   Q_SIGNALS:
     /// An item was selected; selected() is its index.
     void itemSelected();
     void itemDoubleClicked();
+    /// Delete was pressed; once for a key that is held down.
+    void deletePressed();
 
   protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                                        const QEvent *event) const override;
+    void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 

@@ -14,7 +14,7 @@ const QString waiting = u"Working..."_s;
 
 class HelpWindow : public HelpWindowTest {
   protected:
-    HelpWindow() { write_file(document(), "help"); }
+    HelpWindow() { write_file(document(), "Content-Type: text/html\r\n\r\nhelp"); }
 
     /// Loads and shows the viewer with a browser that the test plays.
     void open() {
@@ -69,6 +69,17 @@ TEST_F(HelpWindow, starts_at_the_program_folder_text_followed_by_the_document_wi
     EXPECT_TRUE(timer()->isActive());
     EXPECT_EQ(browser_->done, QStringList{QUrl::fromLocalFile(document()).toString()});
     EXPECT_TRUE(notes_.isEmpty());
+}
+
+TEST_F(HelpWindow, tells_when_its_document_is_damaged) {
+    open();
+    EXPECT_TRUE(warnings_.isEmpty());
+    write_file(document(), "");
+
+    open();
+
+    EXPECT_EQ(warnings_, QStringList{u"A(z) „%1” súgófájl sérült: üres. Segíthet a program újratelepítése."_s.arg(
+                             QDir::toNativeSeparators(document()))});
 }
 
 TEST_F(HelpWindow, has_a_toolbar_with_six_buttons_in_hungarian) {

@@ -114,6 +114,23 @@ TEST_F(MiniWindowClipboard, has_no_texts_looked_up_that_are_no_words) {
     EXPECT_EQ(search_box()->text(), QString());
 }
 
+TEST_F(MiniWindowClipboard, has_a_word_looked_up_without_its_line_end_and_quotes) {
+    copy("„Ház”\r\n");
+
+    EXPECT_EQ(search_box()->text(), u"ház"_s);
+    EXPECT_EQ(hits(), QStringList{u"ház"_s});
+}
+
+TEST_F(MiniWindowClipboard, empties_everything_when_it_is_blank) {
+    copy("alma");
+
+    copy(" \n");
+
+    EXPECT_EQ(search_box()->text(), QString());
+    EXPECT_TRUE(hits().isEmpty());
+    EXPECT_TRUE(meanings().isEmpty());
+}
+
 TEST_F(MiniWindowClipboard, has_a_word_shortened_until_something_is_found) {
     copy("Házaimban");
 

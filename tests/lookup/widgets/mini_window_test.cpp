@@ -91,6 +91,19 @@ TEST_F(MiniWindow, has_its_header_buttons_at_the_right_end_of_the_header) {
     }
 }
 
+TEST_F(MiniWindow, keeps_the_lines_round_its_header_as_thin_on_every_screen) {
+    for (const QSize &pixels : {QSize(1024, 768), QSize(2560, 1440)}) {
+        screen_ = QRectF(QPointF(0, 0), QSizeF(pixels) * 15);
+        open();
+
+        const QRectF title = window_->hely(label("label_fejléc"));
+        const double header = window_->hely(control<QFrame>("Line1(1)")).bottom();
+        EXPECT_DOUBLE_EQ(title.top(), 15);
+        EXPECT_DOUBLE_EQ(title.height(), header - 30);
+        EXPECT_GT(header, 330);
+    }
+}
+
 TEST_F(MiniWindow, marks_its_header_buttons_with_an_arrow_and_a_drawn_cross) {
     open();
 
@@ -244,6 +257,99 @@ TEST_F(MiniWindow, adds_to_the_word_list_and_returns_to_the_search_box) {
 
     EXPECT_EQ(large_.calls, QStringList{u"hozzáad_Click"_s});
     EXPECT_EQ(focused(), u"txt_keres"_s);
+}
+
+TEST_F(MiniWindow, tells_in_its_header_for_two_seconds_what_was_added) {
+    open();
+    type("ház");
+
+    click("cmd_szószedethez_ad");
+
+    EXPECT_EQ(label("label_fejléc")->text(), u"Szószedetben: ház – house"_s);
+    auto *timer = control<QTimer>("Timer_fejléc");
+    EXPECT_EQ(timer->interval(), 2000);
+    EXPECT_TRUE(timer->isSingleShot());
+    expire(*timer);
+    EXPECT_EQ(label("label_fejléc")->text(), u"Zimbora Angol-magyar szótár"_s);
+}
+
+TEST_F(MiniWindow, tells_in_its_header_what_a_double_click_has_added) {
+    open();
+    type("ház");
+    click_item("lst_translate", 1);
+
+    QTest::mouseDClick(list("lst_translate")->viewport(), Qt::LeftButton, {}, middle_of_item("lst_translate", 1));
+
+    EXPECT_EQ(label("label_fejléc")->text(), u"Szószedetben: ház – home"_s);
+}
+
+TEST_F(MiniWindow, cuts_what_is_too_long_for_its_header) {
+    put_dictionary({"alma:" + QByteArray(200, 'x') + "\xf7"});
+    open();
+    type("alma");
+
+    click("cmd_szószedethez_ad");
+
+    const QLabel *header = label("label_fejléc");
+    EXPECT_TRUE(header->text().startsWith(u"Szószedetben: alma"_s));
+    EXPECT_TRUE(header->text().endsWith(u"…"_s));
+    EXPECT_LE(header->contentsMargins().left() + header->fontMetrics().horizontalAdvance(header->text()),
+              label("cmd_lent")->x() - header->x());
+}
+
+TEST_F(MiniWindow, tells_of_nothing_that_was_not_added) {
+    open();
+    large_.adds = false;
+    type("ház");
+
+    click("cmd_szószedethez_ad");
+
+    EXPECT_EQ(label("label_fejléc")->text(), u"Zimbora Angol-magyar szótár"_s);
+}
+
+TEST_F(MiniWindow, is_gone_through_from_the_search_box_to_the_meanings_by_the_arrow_keys) {
+    open();
+    type("ház");
+
+    QTest::keyClick(search_box(), Qt::Key_Down);
+    EXPECT_EQ(focused(), u"lst_találatlista"_s);
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Right);
+    EXPECT_EQ(focused(), u"lst_translate"_s);
+    QTest::keyClick(window_->focusWidget(), Qt::Key_Return);
+
+    EXPECT_EQ(large_.calls.count(u"hozzáad_Click"_s), 1);
+}
+
+TEST_F(MiniWindow, comes_back_to_the_search_box_by_two_keys_and_selects_its_text) {
+    open();
+    type("ház");
+    for (const auto &[key, held] : {std::pair(Qt::Key_L, Qt::ControlModifier), std::pair(Qt::Key_F6, Qt::NoModifier)}) {
+        list("lst_translate")->setFocus();
+        search_box()->deselect();
+
+        QTest::keyClick(list("lst_translate"), key, held);
+
+        EXPECT_EQ(focused(), u"txt_keres"_s);
+        EXPECT_EQ(search_box()->selectedText(), u"ház"_s);
+    }
+}
+
+TEST_F(MiniWindow, shows_the_selected_hit_in_the_middle_of_its_list) {
+    // A blank comes before every letter, so the exact hit has many before it.
+    QByteArrayList entries{"alma, r\xe9gi:old apple\xf7"};
+    for (int i = 0; i < 40; ++i) {
+        entries.append("alma " + QByteArray::number(i) + ":x\xf7");
+        entries.append("almaf" + QByteArray::number(i) + ":x\xf7");
+    }
+    put_dictionary(entries);
+    open();
+
+    type("alma");
+
+    const ListBox *found = list("lst_találatlista");
+    ASSERT_EQ(found->selected(), 40);
+    const int middle = found->visualRect(found->currentIndex()).center().y();
+    EXPECT_NEAR(middle, found->viewport()->height() / 2.0, found->visualRect(found->currentIndex()).height());
 }
 
 TEST_F(MiniWindow, adds_on_enter_among_the_meanings) {

@@ -65,6 +65,18 @@ TEST_F(Printing, goes_to_the_selected_printer_under_the_lists_name) {
     EXPECT_EQ(printers_.jobs.texts.front().text, place("állatok.szs") + u" szószedet"_s);
 }
 
+TEST_F(Printing, gives_a_list_never_saved_no_title_though_a_file_of_its_proposed_name_exists) {
+    state_.aktuálisfájl = u'*' + place("apple.szs");
+    write_file(place("apple.szs"), "old:r\xe9gi\r\n");
+    start();
+    choose(printers(), "First");
+
+    print();
+
+    EXPECT_THAT(printers_.jobs.handed_over, ElementsAre(u"First névtelen szószedet"_s));
+    EXPECT_EQ(printers_.jobs.texts.front().text, u" szószedet"_s);
+}
+
 TEST_F(Printing, on_a_printer_that_is_selected_when_it_has_gone_is_told_and_goes_to_no_other) {
     start();
     choose(printers(), "First");
