@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QPalette>
 #include <QPushButton>
+#include <QWindow>
 #include <functional>
 #include <utility>
 
@@ -111,9 +112,17 @@ void ablak::resizeEvent(QResizeEvent *event) {
     Form_Resize();
 }
 
+void ablak::áttesz(const QPointF &hová) {
+    const QPoint pixel(twips::to_pixels(hová.x()), twips::to_pixels(hová.y()));
+    move(pixel);
+    // A window that was seen and is hidden has no frame for the moment: move() takes the place for that of what stands
+    // inside it.
+    if (windowHandle() && isHidden())
+        windowHandle()->setFramePosition(pixel);
+}
+
 void ablak::középre(const QRectF &képernyő) {
-    move(twips::to_pixels(képernyő.left() + (képernyő.width() - szélesség_) / 2),
-         twips::to_pixels(képernyő.top() + (képernyő.height() - magasság_) / 2));
+    áttesz(képernyő.topLeft() + QPointF(képernyő.width() - szélesség_, képernyő.height() - magasság_) / 2);
 }
 
 void ablak::elhelyez(QWidget *vezérlő, const QRectF &hely) {

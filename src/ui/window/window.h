@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QHash>
 #include <QList>
+#include <QPointF>
 #include <QRectF>
 #include <QString>
 #include <QWidget>
@@ -36,6 +37,8 @@ class ablak : public QWidget {
     [[nodiscard]] double belsőszélesség() const { return szélesség_ - keretszélesség(); }
     void méretez(double szélesség, double magasság);
     void magasságbeállít(double magasság) { méretez(szélesség_, magasság); }
+    /// Puts the top left corner of the window's frame to this place among all screens, in twips.
+    void áttesz(const QPointF &hová);
     /// Centres the window on a screen that has this place among all screens.
     void középre(const QRectF &képernyő);
 
