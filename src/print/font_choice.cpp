@@ -20,8 +20,9 @@ constexpr char last_serif = 10;
 
 }  // namespace
 
-int választott_betűtípus(const QStringList &betűtípusok, const std::function<bool(const QString &)> &talpas) {
-    for (const QString &keresett : {u"Times New Roman CE"_s, u"Times New Roman"_s}) {
+int választott_betűtípus(const QStringList &betűtípusok, const QString &helyettes,
+                         const std::function<bool(const QString &)> &talpas) {
+    for (const QString &keresett : {u"Times New Roman CE"_s, u"Times New Roman"_s, helyettes}) {
         const auto hol = static_cast<int>(betűtípusok.indexOf(keresett));
         if (hol >= 0)
             return hol;

@@ -152,7 +152,8 @@ void frm_nyomtatás::betűtípusokat_felsorol() {
     egyszer.removeDuplicates();
     v_.list_betűtípus->clear();
     v_.list_betűtípus->addItems(egyszer);
-    v_.list_betűtípus->setCurrentIndex(választott_betűtípus(egyszer, talpas_betűtípus));
+    const QString helyettes = QFont::substitute(fonts::times_new_roman_ce);
+    v_.list_betűtípus->setCurrentIndex(választott_betűtípus(egyszer, helyettes, talpas_betűtípus));
 }
 
 void frm_nyomtatás::előkép() {
