@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPalette>
@@ -10,6 +11,7 @@
 #include <functional>
 #include <utility>
 
+#include "ui/drawing/contrast.h"
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
 
@@ -42,18 +44,38 @@ bool is_enter(const QKeyEvent &key) {
 }
 
 /// Lets a button press once for Enter that is held down. A default button that has the focus takes the key itself, and
-/// each repeat of it anew.
-class OneEnter final : public QObject {
+/// each repeat of it anew. Calls back when the focus comes to the button or leaves it.
+class ButtonWatch final : public QObject {
   public:
-    explicit OneEnter(QPushButton *button) : QObject(button) { button->installEventFilter(this); }
+    ButtonWatch(QPushButton *button, std::function<void()> focus_moved, QObject &owner)
+        : QObject(&owner), focus_moved_(std::move(focus_moved)) {
+        button->installEventFilter(this);
+    }
 
     bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+            focus_moved_();
         if (event->type() != QEvent::KeyPress)
             return false;
         const auto &key = *static_cast<QKeyEvent *>(event);
         return key.isAutoRepeat() && is_enter(key);
     }
+
+  private:
+    std::function<void()> focus_moved_;
 };
+
+/// Selected rows are seen as well in a list without the focus, where some desktops have them almost white, and can be
+/// read everywhere.
+void show_selection(QPalette &colours) {
+    const QPalette desktop = QGuiApplication::palette();
+    const QColor letters = desktop.color(QPalette::Active, QPalette::HighlightedText);
+    const QColor selection = readable_behind(letters, desktop.color(QPalette::Active, QPalette::Highlight));
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        colours.setColor(group, QPalette::Highlight, selection);
+        colours.setColor(group, QPalette::HighlightedText, letters);
+    }
+}
 
 }  // namespace
 
@@ -132,7 +154,8 @@ void ablak::elhelyez(QWidget *vezérlő, const QRectF &hely) {
         vezérlő->setVisible(látszik);
         vezérlők_.append(vezérlő);
         if (auto *gomb = qobject_cast<QPushButton *>(vezérlő))
-            new OneEnter(gomb);
+            new ButtonWatch(
+                gomb, [this] { alapgombot_jelez(); }, gombfigyelők_);
     }
     helyek_.insert(vezérlő, hely);
     vezérlő->setGeometry(twips::to_pixels(hely));
@@ -141,15 +164,24 @@ void ablak::elhelyez(QWidget *vezérlő, const QRectF &hely) {
 void ablak::háttérszínbeállít(const QColor &szín) {
     háttérszín_ = szín;
     // The colours follow from the background, so that a dark desktop's white text never stands on a light window.
-    setPalette(QPalette(szín, szín));
+    QPalette színek(szín, szín);
+    show_selection(színek);
+    setPalette(színek);
 }
 
 void ablak::alapgombbeállít(QPushButton *gomb) {
     if (alapgomb_)
         alapgomb_->setDefault(false);
     alapgomb_ = gomb;
-    if (alapgomb_)
-        alapgomb_->setDefault(true);
+    alapgombot_jelez();
+}
+
+void ablak::alapgombot_jelez() {
+    if (!alapgomb_)
+        return;
+    // Enter presses a button that has the focus; two would look like the one that it presses.
+    const auto *fókuszban = qobject_cast<QPushButton *>(focusWidget());
+    alapgomb_->setDefault(!fókuszban || fókuszban == alapgomb_);
 }
 
 void ablak::levesz(QWidget *vezérlő) {

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QHash>
 #include <QList>
+#include <QObject>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
@@ -73,6 +74,8 @@ class ablak : public QWidget {
 
   private:
     void igazít();
+    /// Lets the default button look like the one that Enter presses, while it is.
+    void alapgombot_jelez();
     [[nodiscard]] int menümagasság() const;
 
     const keret keret_;
@@ -86,4 +89,6 @@ class ablak : public QWidget {
     QColor háttérszín_;
     double szélesség_ = 0;
     double magasság_ = 0;
+    /// They go before the buttons, which lose the focus when they are destroyed.
+    QObject gombfigyelők_;
 };
