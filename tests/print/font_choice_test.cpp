@@ -25,6 +25,8 @@ TEST(FontChoice, is_times_new_roman_where_the_central_european_one_is_missing) {
 TEST(FontChoice, is_the_stand_in_of_the_screen_where_both_are_missing) {
     EXPECT_EQ(choice("A Serif;B;Stand-In;Z"), 2);
     EXPECT_EQ(choice("A Serif;Stand-In;Times New Roman"), 2);
+    // The toolkit tells it in small letters.
+    EXPECT_EQ(choice("A Serif;STAND-IN"), 1);
 }
 
 TEST(FontChoice, is_the_first_serif_face_where_all_these_are_missing) {
