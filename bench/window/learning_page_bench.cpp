@@ -76,7 +76,7 @@ class Surroundings final {
     frm_referencia reference_;
     ablak main_window_{u"szótár"_s};
     Module_hasznos fitting_;
-    QtMessageBoxes boxes_;
+    QtMessageBoxes boxes_{fitting_};
     szópárlista list_;
     SystemRandom random_;
     global::beállítástár settings_{folder_.filePath(u"settings.ini"_s)};

@@ -7,7 +7,6 @@
 #include "lookup/mini_window_file.h"
 #include "lookup/screen_place.h"
 #include "platform/files.h"
-#include "ui/drawing/twips.h"
 
 using namespace Qt::StringLiterals;
 
@@ -78,7 +77,7 @@ void kisablakgazda::visszatér(const QPointF &közép) {
     // A mini window in a corner would take most of this one off the screen.
     const QPointF hová = képernyőbe(középen, méret, képernyője(közép));
     kisablak_.get().hide();
-    főablak_.move(twips::to_pixels(hová.x()), twips::to_pixels(hová.y()));
+    főablak_.áttesz(hová);
     főablak_.show();
     főablak_.activateWindow();
     k_.állapot.kisablakmód = 0;

@@ -31,14 +31,14 @@ class Program final {
   private:
     const ProgramFolderPlaces places_;
     global::programállapot state_;
-    QtMessageBoxes message_boxes_;
-    QtFileDialogs file_dialogs_;
     DriveC drive_ = DriveC::of_this_user();
     SystemRandom random_;
     global::beállítástár settings_;
     QtPrinters printers_{make_print_spooler()};
     frm_referencia reference_;
     Module_hasznos fitting_;
+    QtMessageBoxes message_boxes_{fitting_};
+    QtFileDialogs file_dialogs_{fitting_};
     std::unique_ptr<TopMost> top_most_ = make_top_most();
     std::unique_ptr<MultimediaCommands> multimedia_ = make_multimedia_commands();
     szótár main_window_;

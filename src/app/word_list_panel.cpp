@@ -2,6 +2,7 @@
 
 #include <QScrollBar>
 
+#include "wordlist/shown_text.h"
 #include "wordlist/szs_file.h"
 
 using namespace Qt::StringLiterals;
@@ -59,8 +60,8 @@ bool szószedetpanel::felvehető(const szópár &pár) {
 void szószedetpanel::szószedet_Click() {
     const int i = v_.szószedet->selected();
     v_.szómagylist->select(i);
-    v_.szóangtext->setText(k_.lista.pár(i).angol);
-    v_.szómagytext->setText(k_.lista.pár(i).magyar);
+    beír(*v_.szóangtext, k_.lista.pár(i).angol);
+    beír(*v_.szómagytext, k_.lista.pár(i).magyar);
     // A long text shows its beginning.
     v_.szóangtext->home(false);
     v_.szómagytext->home(false);
@@ -70,12 +71,28 @@ void szószedetpanel::szószedet_Click() {
 
 void szószedetpanel::szövegmező_Change() {
     const int i = v_.szószedet->selected();
-    const szópár beírt{v_.szóangtext->text(), v_.szómagytext->text()};
+    const szópár beírt = beírt_pár();
     v_.módosít->setEnabled(i >= 0 && !beírt.angol.isEmpty() && !beírt.magyar.isEmpty() && beírt != k_.lista.pár(i));
 }
 
+void szószedetpanel::beír(QLineEdit &mező, const QString &szöveg) {
+    mező.setText(mutatott(szöveg));
+    // What is not shown would be lost.
+    mező.setReadOnly(!egészben_mutatott(szöveg));
+}
+
+szópár szószedetpanel::beírt_pár() const {
+    const szópár mutatott{v_.szóangtext->text(), v_.szómagytext->text()};
+    const int i = v_.szószedet->selected();
+    if (i < 0)
+        return mutatott;
+    const szópár &egész = k_.lista.pár(i);
+    return {v_.szóangtext->isReadOnly() ? egész.angol : mutatott.angol,
+            v_.szómagytext->isReadOnly() ? egész.magyar : mutatott.magyar};
+}
+
 void szószedetpanel::módosít_Click() {
-    const szópár beírt{v_.szóangtext->text(), v_.szómagytext->text()};
+    const szópár beírt = beírt_pár();
     if (!felvehető(beírt))
         return;
     k_.lista.módosít(v_.szószedet->selected(), beírt);
@@ -101,8 +118,8 @@ void szószedetpanel::sztöröl_Click() {
 }
 
 void szószedetpanel::szövegmezőketürít() {
-    v_.szóangtext->clear();
-    v_.szómagytext->clear();
+    beír(*v_.szóangtext, QString());
+    beír(*v_.szómagytext, QString());
 }
 
 void szószedetpanel::fókusz_változott(const QWidget *honnan, const QWidget *hová) {

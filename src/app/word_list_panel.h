@@ -36,6 +36,10 @@ class szószedetpanel final {
     void eseményeket_köt();
     void szószedet_Click();
     void szövegmező_Change();
+    /// Shows a side of a pair in its text box, in which one that is cut cannot be changed.
+    static void beír(QLineEdit &mező, const QString &szöveg);
+    /// The pair as the text boxes have it; of a side that they show cut, the whole.
+    [[nodiscard]] szópár beírt_pár() const;
     void módosít_Click();
     void sztöröl_Click();
     /// False, after telling why, when no file could hold the pair.

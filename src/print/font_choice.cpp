@@ -20,13 +20,18 @@ constexpr char last_serif = 10;
 
 }  // namespace
 
-int választott_betűtípus(const QStringList &betűtípusok, const std::function<bool(const QString &)> &talpas) {
+int választott_betűtípus(const QStringList &betűtípusok, const QString &helyettes,
+                         const std::function<bool(const QString &)> &talpas) {
     for (const QString &keresett : {u"Times New Roman CE"_s, u"Times New Roman"_s}) {
         const auto hol = static_cast<int>(betűtípusok.indexOf(keresett));
         if (hol >= 0)
             return hol;
     }
-    const auto első = std::find_if(betűtípusok.begin(), betűtípusok.end(), talpas);
+    // The toolkit keeps stand-ins in small letters.
+    const auto ugyanaz = [&helyettes](const QString &név) { return név.compare(helyettes, Qt::CaseInsensitive) == 0; };
+    auto első = std::find_if(betűtípusok.begin(), betűtípusok.end(), ugyanaz);
+    if (első == betűtípusok.end())
+        első = std::find_if(betűtípusok.begin(), betűtípusok.end(), talpas);
     if (első != betűtípusok.end())
         return static_cast<int>(első - betűtípusok.begin());
     return betűtípusok.isEmpty() ? -1 : 0;

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <optional>
 
+#include "wordlist/shown_text.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -38,6 +40,7 @@ nyomtatásvége szószedetet_nyomtat(PagePrinter &hova, const nyomtatandó &mit,
     for (int i = 0; i < n; ++i) {
         if (!figyelő(i, n))
             return nyomtatásvége::megszakítva;
+        const QString angol = mutatott(mit.párok[i].angol);
         const QString sor = szópársor(mit.párok[i]);
         const int k = i % c + 1;
         if (k == 1) {
@@ -50,7 +53,7 @@ nyomtatásvége szószedetet_nyomtat(PagePrinter &hova, const nyomtatandó &mit,
         }
         // The pairs of a column stand below each other at their hyphens.
         const double tengely = hova.page_width() * k / (c + 1);
-        hova.set_x(tengely - hova.text_width(elválasztó) / 2 - hova.text_width(mit.párok[i].angol));
+        hova.set_x(tengely - hova.text_width(elválasztó) / 2 - hova.text_width(angol));
         hova.print(sor);
     }
     return vége(hova);
@@ -115,7 +118,7 @@ QStringList sorok(const QVector<szópár> &párok) {
 QStringList kártyák(const QVector<szópár> &párok) {
     QStringList lista;
     for (const szópár &pár : párok)
-        lista << pár.angol << pár.magyar;
+        lista << mutatott(pár.angol) << mutatott(pár.magyar);
     lista.append(QString());
     return lista;
 }
@@ -123,7 +126,7 @@ QStringList kártyák(const QVector<szópár> &párok) {
 }  // namespace
 
 QString szópársor(const szópár &pár) {
-    return pár.angol + elválasztó + pár.magyar;
+    return mutatott(pár.angol) + elválasztó + mutatott(pár.magyar);
 }
 
 nyomtatásvége nyomtat(PagePrinter &hova, nyomtatástípus hogyan, const nyomtatandó &mit,

@@ -34,7 +34,7 @@ enum class nyomtatásvége { kész, megszakítva, hibás };
 /// Called on the way with how many pieces of how many are done; false puts an end to it.
 using nyomtatásfigyelő = std::function<bool(int kész, int összes)>;
 
-/// How a pair is written on paper: both sides with "  -  " between.
+/// How a pair is written on paper: both sides with "  -  " between, very long ones cut.
 [[nodiscard]] QString szópársor(const szópár &pár);
 
 /// Lays `mit` out on the pages of `hova` and ends the document, which stays unended unless the result is `kész`. With

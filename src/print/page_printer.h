@@ -49,6 +49,9 @@ class PagePrinter {
     /// Ends the line that print() has left open, if it has, and leaves one line empty.
     void print_empty_line();
 
+    /// How many lines have been printed that lose letters at the left or right edge of the page.
+    [[nodiscard]] int cut_lines() const { return cut_lines_; }
+
     /// Goes to the top left corner of another page. False when the device has failed: nothing will come of the document
     /// then, and what is printed is lost.
     [[nodiscard]] bool new_page();
@@ -62,9 +65,13 @@ class PagePrinter {
     virtual bool finish() = 0;
 
   private:
+    /// Draws at the place and returns where the text ends.
+    double draw_here(const QString &text);
     void end_line(double height);
 
     double x_ = 0;
     double y_ = 0;
     bool line_is_open_ = false;
+    bool line_is_cut_ = false;
+    int cut_lines_ = 0;
 };

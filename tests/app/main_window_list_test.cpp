@@ -369,4 +369,31 @@ TEST_F(MainWindowList, holds_a_pair_of_a_million_letters_without_cutting_it) {
     EXPECT_EQ(pairs(), u"longer:"_s + QString::fromLatin1(longest));
 }
 
+TEST_F(MainWindowList, shows_a_very_long_side_cut_in_a_box_that_cannot_be_edited) {
+    const QByteArray longest(10001, 'x');
+    dialogs_.choices = {word_list("a.szs", "long:" + longest + "\r\ndog:kutya\r\n")};
+
+    action("mnufájlmegnyit")->trigger();
+
+    EXPECT_EQ(text_box("szómagytext")->text(), QString(10000, u'x') + u'…');
+    EXPECT_TRUE(text_box("szómagytext")->isReadOnly());
+    EXPECT_FALSE(text_box("szóangtext")->isReadOnly());
+    EXPECT_FALSE(button("módosít")->isEnabled());
+    list("szószedet")->select(1);
+    EXPECT_EQ(text_box("szómagytext")->text(), u"kutya"_s);
+    EXPECT_FALSE(text_box("szómagytext")->isReadOnly());
+}
+
+TEST_F(MainWindowList, deletes_a_pair_that_it_shows_cut_and_can_be_edited_again) {
+    dialogs_.choices = {word_list("a.szs", "long:" + QByteArray(10001, 'x') + "\r\n")};
+    action("mnufájlmegnyit")->trigger();
+    list("szószedet")->setFocus();
+
+    click("sztöröl");
+
+    EXPECT_EQ(pairs(), QString());
+    EXPECT_EQ(text_box("szómagytext")->text(), QString());
+    EXPECT_FALSE(text_box("szómagytext")->isReadOnly());
+}
+
 }  // namespace

@@ -19,7 +19,7 @@ closing_has_begun() {
     program_has_ended || [[ $(title_in_front) != "$1" ]]
 }
 
-# The buttons of the question: Igen, Nem, Mégse. The first has the focus.
+# The buttons of the question: Igen, Nem, Mégsem. The first has the focus.
 answer_yes() {
     press alt+i
 }

@@ -310,6 +310,32 @@ test_the_main_window_that_comes_back_stays_after_a_restart() {
     is_the_only_window "$main_window" || fail "There is another window."
 }
 
+title_bar_is_on_the_screen() {
+    local frame
+    frame=$(xprop -id "$main_window" _NET_FRAME_EXTENTS | sed -n 's/.* = //p' | tr -d ,)
+    xwininfo -id "$main_window" | awk -v frame="$frame" '
+        BEGIN { split(frame, side, " ") }
+        /Absolute upper-left Y/ { y = $NF }
+        END { exit !(side[3] > 0 && y >= side[3]) }'
+}
+
+test_the_main_window_comes_back_from_a_top_corner_with_its_title_bar_on_the_screen() {
+    # Given
+    start_program
+    click "$mini_window_button"
+    wait_for_mini_window
+    press F2
+    measure_mini_window
+    wait_until "the mini window in the corner" mini_window_is_near $((1024 - WIDTH)) 0
+    # When
+    click_in_mini_window "$large_window_button"
+    wait_for_title "Zimbora"
+    press Return
+    wait_for_main_window
+    # Then
+    wait_until "the title bar on the screen" title_bar_is_on_the_screen
+}
+
 # mini_window_is_near <left> <top>: or a pixel beside, as a whole number of twips is rounded.
 mini_window_is_near() {
     local X Y WIDTH HEIGHT

@@ -68,6 +68,7 @@ do_the_main_job() {
 
 find_what_is_installed_with_it() {
     local name
+    as_learner zimbora-order --help | grep -q '^Használat: zimbora-order' || fail "There is no zimbora-order."
     for name in am.txt ma.txt; do
         [[ -s $root/usr/share/zimbora/$name &&
             $(readlink "$root$own_folder/$name") == "/usr/share/zimbora/$name" ]] ||

@@ -164,24 +164,36 @@ test_the_icon_has_every_size() {
 }
 
 test_the_manual_pages_read_well() {
-    local page
-    for page in man1 hu/man1; do
-        page=$share/man/$page/zimbora.1.gz
-        [[ -f $page ]] || fail "There is no $page."
-        MANROFFSEQ='' MANWIDTH=80 expect_silence formatted "$page"
-        expect_whatis "$page"
-        [[ $(zcat "$page") == ".TH ZIMBORA 1 "*"\"Zimbora $version\""* ]] || fail "$page is of another version."
+    local page command
+    for command in zimbora zimbora-order; do
+        for page in man1 hu/man1; do
+            page=$share/man/$page/$command.1.gz
+            [[ -f $page ]] || fail "There is no $page."
+            MANROFFSEQ='' MANWIDTH=80 expect_silence formatted "$page"
+            expect_whatis "$command" "$page"
+            [[ $(zcat "$page") == ".TH ${command^^} 1 "*"\"Zimbora $version\""* ]] || fail "$page is of another version."
+        done
+        [[ $(zcat "$page") == *".SH LEÍRÁS"* ]] || fail "$page is not Hungarian."
     done
-    [[ $(zcat "$share/man/hu/man1/zimbora.1.gz") == *szótár* ]] || fail "The Hungarian page is not Hungarian."
+}
+
+test_every_command_has_a_manual_page_and_runs() {
+    local command
+    for command in "$tree"/usr/bin/*; do
+        [[ -f $share/man/man1/$(basename "$command").1.gz ]] || fail "There is no page of $command."
+    done
+    printf 'b\r\na\r\n' >"$temp/magyar.skt"
+    "$tree/usr/bin/zimbora-order" "$temp" >"$temp/said" || fail "$(cat "$temp/said")"
+    [[ $(<"$temp/magyarvg.skt") == $'A\r\nB\r' ]] || fail "Sorted: $(od -c "$temp/magyarvg.skt")"
 }
 
 formatted() {
     man --warnings --encoding=UTF-8 --local-file --troff-device=utf8 --ditroff "$1" >/dev/null
 }
 
-# The line that the index of manual pages has of it.
+# expect_whatis <command> <page>: the line that the index of manual pages has of it.
 expect_whatis() {
-    [[ $(lexgrog "$1") == *': "zimbora - '*\" ]] || fail "The index takes nothing from $1: $(lexgrog "$1" 2>&1)"
+    [[ $(lexgrog "$2") == *": \"$1 - "*\" ]] || fail "The index takes nothing from $2: $(lexgrog "$2" 2>&1)"
 }
 
 # What every user reads and runs, nobody but root may change; nothing lies where users keep their own.

@@ -240,6 +240,20 @@ TEST_F(PageLayouts, english_word_wider_than_its_space_starts_left_of_the_page_ed
     EXPECT_EQ(rows().front().x, 6000 - 350 - 8400);
 }
 
+TEST_F(PageLayouts, very_long_texts_are_printed_cut_in_every_layout) {
+    const QString longest(1'000'000, u'x');
+    const QString shown = QString(10'000, u'x') + u'…';
+
+    EXPECT_EQ(print_list({{u"a"_s, longest}}, 1), nyomtatásvége::kész);
+    EXPECT_EQ(print(nyomtatástípus::szópárok, {{longest, u"b"_s}}), nyomtatásvége::kész);
+    EXPECT_EQ(print(nyomtatástípus::szókártyák, {{u"c"_s, longest}}), nyomtatásvége::kész);
+
+    QStringList texts;
+    for (const PrintedText &one : paper_.texts)
+        texts << one.text;
+    EXPECT_THAT(texts, ElementsAre(testing::_, u"a  -  "_s + shown, shown + u"  -  b"_s, u"c"_s, shown, QString()));
+}
+
 TEST_F(PageLayouts, list_keeps_the_orientation_that_is_set) {
     print_list(numbered_pairs(7), 1, Orientation::landscape);
 

@@ -48,6 +48,27 @@ TEST_F(PagePrinterPlace, goes_to_the_left_edge_of_the_next_line_after_a_text_tha
     expect_at(0, 5200);
 }
 
+TEST_F(PagePrinterPlace, counts_the_lines_that_lose_letters_at_an_edge_once_each) {
+    printer_.set_x(12000 - 300);
+    printer_.print_line(u"abc"_s);
+    EXPECT_EQ(printer_.cut_lines(), 0);
+
+    printer_.set_x(-1);
+    printer_.print(u"abc"_s);
+    printer_.set_x(12000 - 200);
+    printer_.print(u"abc"_s);
+    EXPECT_EQ(printer_.cut_lines(), 1);
+
+    printer_.print_empty_line();
+    printer_.set_x(12000 - 299);
+    printer_.print_line(u"abc"_s);
+    EXPECT_EQ(printer_.cut_lines(), 2);
+
+    printer_.set_x(13000);
+    printer_.print_line(QString());
+    EXPECT_EQ(printer_.cut_lines(), 2);
+}
+
 TEST_F(PagePrinterPlace, moves_down_one_line_for_an_empty_one) {
     printer_.print_empty_line();
 

@@ -73,6 +73,17 @@ test_the_installed_program_does_the_main_job_where_it_was_put() {
     expect_lines "$drive/zbrmkfnh.ini" "$place\\program\\apple.szs"
 }
 
+test_the_order_of_a_word_file_is_checked_by_the_installed_command() {
+    # Given
+    install
+    printf 'b\r\na\r\n' >"$(unix_path "$place")/program/magyar.skt"
+    # When
+    "$wine" "$place\\program\\zimbora-order.exe" "$place\\program" >/dev/null
+    # Then
+    expect_lines "$(unix_path "$place")/program/magyarvg.skt" A B
+    rm "$(unix_path "$place")"/program/magyar{,vg}.skt
+}
+
 test_the_start_menu_and_the_list_of_programs_know_it() {
     # When
     install

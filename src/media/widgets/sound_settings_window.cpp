@@ -98,12 +98,22 @@ void frm_hangbeáll::elhelyezés() {
     const double keret_fent = fent + gomb_magas + 2 * sorköz;
     constexpr double keret_magas = keret_teteje + 3 * kapcsoló_magas + sorköz;
     elhelyez(frame_hangjelzések_, {szél, keret_fent, jobb_széle - szél, keret_magas});
-    // Two columns: the exercises' sounds on the left, the others on the right.
-    constexpr std::array<QPointF, 5> helyek{{{0, 0}, {0, 1}, {0, 2}, {1, 0}, {1, 1}}};
-    for (size_t i = 0; i < chk_.size(); ++i) {
-        elhelyez(chk_[i], {szél * 2 + helyek[i].x() * (gombok - szél),
-                           keret_fent + keret_teteje + helyek[i].y() * kapcsoló_magas,
-                           helyek[i].x() == 0 ? gombok - 2 * szél : gomb_széles - 2 * szél, kapcsoló_magas});
+    // Two columns: the sounds of the exercises on the left, the others on the right. Tab goes down them; in the file
+    // the switches stand in the order of their numbers.
+    struct Kapcsolóhely {
+        hangbeállítások::kapcsoló melyik;
+        int oszlop;
+        int sor;
+    };
+    using enum hangbeállítások::kapcsoló;
+    constexpr std::array<Kapcsolóhely, 5> helyek{
+        {{helyesnél, 0, 0}, {hibásnál, 0, 1}, {segítségkérésnél, 0, 2}, {gratulálópanelen, 1, 0}, {főablakban, 1, 1}}};
+    QWidget *előző = frame_hangjelzések_;
+    for (const auto &[melyik, oszlop, sor] : helyek) {
+        elhelyez(chk_[melyik], {szél * 2 + oszlop * (gombok - szél), keret_fent + keret_teteje + sor * kapcsoló_magas,
+                                oszlop == 0 ? gombok - 2 * szél : gomb_széles - 2 * szél, kapcsoló_magas});
+        setTabOrder(előző, chk_[melyik]);
+        előző = chk_[melyik];
     }
     const double alul = keret_fent + keret_magas + 2 * sorköz;
     constexpr double zárógomb = 2200;

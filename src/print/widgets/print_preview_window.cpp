@@ -1,5 +1,6 @@
 #include "print/widgets/print_preview_window.h"
 
+#include <QLabel>
 #include <QShortcut>
 
 #include "ui/controls/named.h"
@@ -16,6 +17,7 @@ constexpr double csoportköz = 240;
 constexpr double sor = 420;
 constexpr double kép_teteje = margó + sor + margó;
 constexpr double kép_magassága = 8400;
+constexpr double figyelmeztetés = 360;
 
 constexpr double képernyőrész = 0.85;
 
@@ -73,7 +75,17 @@ void frm_nyomtatásikép::elhelyezés() {
     QPushButton *bezár = gomb(u"cmd_bezár", u"&Bezár"_s, 900, {}, &frm_nyomtatásikép::cmd_bezár_Click);
     mégsegombbeállít(bezár);
     connect(kép_, &PageView::turned, this, [this](bool előre) { lapra(kép_->page() + (előre ? 1 : -1)); });
-    elhelyez(kép_, {margó, kép_teteje, idáig_ - köz - margó, kép_magassága});
+    const double lemaradók = lemaradókat_mutat();
+    elhelyez(kép_, {margó, kép_teteje + lemaradók, idáig_ - köz - margó, kép_magassága - lemaradók});
+}
+
+double frm_nyomtatásikép::lemaradókat_mutat() {
+    const int sorok = lapok_.cut_lines();
+    if (sorok == 0)
+        return 0;
+    auto *felirat = named(new QLabel(u"%1 sor széle nem fér rá a papírra."_s.arg(sorok)), u"Label_lemaradók");
+    elhelyez(felirat, {margó, kép_teteje - köz, idáig_ - köz - margó, figyelmeztetés});
+    return figyelmeztetés;
 }
 
 void frm_nyomtatásikép::showEvent(QShowEvent *event) {

@@ -22,6 +22,8 @@ class frm_nyomtatásikép final : public ablak {
     QPushButton *gomb(const char16_t *név, const QString &felirat, double szélesség, const QList<QKeySequence> &kulcsok,
                       void (frm_nyomtatásikép::*mit)());
     void elhelyezés();
+    /// Tells how many lines the edges of the paper cut off, if they do; the height that it takes.
+    double lemaradókat_mutat();
 
     void cmd_első_Click() { lapra(0); }
     void cmd_előző_Click() { lapra(kép_->page() - 1); }

@@ -14,6 +14,9 @@ constexpr double képernyőrész = 0.85;
 /// How much smaller the letters of the buttons are than those that would fit.
 constexpr double gombkülönbség = 3;
 
+/// No sample is so wide that more could be seen.
+constexpr qsizetype leghosszabb_minta = 600;
+
 const QString pdf_bejegyzés = u"PDF-fájl"_s;
 const QString ékezetek = u"áéíóöőúüű ÁÉÍÓÖŐÚÜŰ"_s;
 
@@ -152,12 +155,13 @@ void frm_nyomtatás::betűtípusokat_felsorol() {
     egyszer.removeDuplicates();
     v_.list_betűtípus->clear();
     v_.list_betűtípus->addItems(egyszer);
-    v_.list_betűtípus->setCurrentIndex(választott_betűtípus(egyszer, talpas_betűtípus));
+    const QString helyettes = QFont::substitute(fonts::times_new_roman_ce);
+    v_.list_betűtípus->setCurrentIndex(választott_betűtípus(egyszer, helyettes, talpas_betűtípus));
 }
 
 void frm_nyomtatás::előkép() {
     const QVector<szópár> &párok = k_.szószedet.párok();
-    const QString sorok[] = {szópársor(párok.isEmpty() ? szópár() : párok.first()), ékezetek};
+    const QString sorok[] = {szópársor(párok.isEmpty() ? szópár() : párok.first()).left(leghosszabb_minta), ékezetek};
     const QString név = v_.list_betűtípus->currentText();
     const bool van = QFontDatabase::families().contains(név);
     for (size_t i = 0; i < v_.pic_minta.size(); ++i) {

@@ -16,8 +16,22 @@ class ShortText final : public QStyledItemDelegate {
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QString displayText(const QVariant &value, const QLocale &) const override {
-        QString text = value.toString().left(longest_shown);
+        const QString whole = value.toString();
+        QString text = whole.size() > longest_shown ? whole.left(longest_shown) + u'…' : whole;
         return text.replace(u'\n', u' ').replace(QChar::Null, u' ');
+    }
+
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!(option->state & QStyle::State_Selected))
+            return;
+        // Themes have colours of their own for what is selected, almost white where the list has not the focus: a
+        // selected item is to them one that has a background.
+        const QPalette colours = option->palette;
+        option->backgroundBrush = colours.brush(QPalette::Active, QPalette::Highlight);
+        option->palette.setBrush(QPalette::All, QPalette::Text,
+                                 colours.brush(QPalette::Active, QPalette::HighlightedText));
+        option->state &= ~QStyle::State_Selected;
     }
 
     /// Shows the whole text of an item that the list cuts off; otherwise the tip of the list.

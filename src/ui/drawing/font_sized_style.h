@@ -2,7 +2,7 @@
 
 #include <QProxyStyle>
 
-/// The desktop's style with option circles, check boxes, scroll bars and the arrows of spin boxes that grow with the
+/// The desktop's style with option circles, check boxes, scroll bars, sliders, icons and arrows that grow with the
 /// letters beside them.
 class FontSizedStyle final : public QProxyStyle {
   public:
@@ -11,4 +11,6 @@ class FontSizedStyle final : public QProxyStyle {
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
                          const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override;
 };

@@ -6,9 +6,17 @@
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QScreen>
+#include <QToolButton>
+#include <QTreeView>
 #include <algorithm>
+
+#include "ui/drawing/fonts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -46,12 +54,42 @@ QWidget *seen(QWidget *window) {
     return visible == windows.end() ? nullptr : *visible;
 }
 
+/// The letters of a dialog that grows with the screen.
+QFont letters(const QWidget &dialog, double points) {
+    QFont font = dialog.font();
+    // A desktop with larger letters has a reason for them.
+    fonts::set_points(font, std::max(points, fonts::points(font)));
+    return font;
+}
+
 /// A message is plain text: a word that looks like markup must not be taken for it.
 class Message : public QMessageBox {
   public:
-    Message(QWidget *window, const QString &title, const QString &text, Icon icon, StandardButtons buttons)
-        : QMessageBox(icon, title, text, buttons, seen(window)) {
+    struct Content {
+        QString title;
+        QString text;
+        Icon icon;
+        StandardButtons buttons;
+    };
+
+    Message(QWidget *window, double points, const Content &content)
+        : QMessageBox(content.icon, content.title, content.text, content.buttons, seen(window)) {
         setTextFormat(Qt::PlainText);
+        setFont(letters(*this, points));
+        // The icon grows with the letters, but was made before them.
+        setIcon(content.icon);
+        keep_wide_enough_for_title();
+    }
+
+  private:
+    /// The desktop draws the title, in letters of its own.
+    void keep_wide_enough_for_title() {
+        constexpr int icon_and_buttons = 160;
+        QFont bold = QApplication::font("QMdiSubWindowTitleBar");
+        bold.setBold(true);
+        const int width = QFontMetrics(bold).horizontalAdvance(windowTitle()) + icon_and_buttons;
+        if (auto *grid = qobject_cast<QGridLayout *>(layout()))
+            grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
     }
 };
 
@@ -59,8 +97,8 @@ class Message : public QMessageBox {
 /// either answer.
 class UnavoidableQuestion final : public Message {
   public:
-    UnavoidableQuestion(QWidget *window, const QString &title, const QString &text)
-        : Message(window, title, text, Question, Yes | No) {
+    UnavoidableQuestion(QWidget *window, double points, const QString &title, const QString &text)
+        : Message(window, points, {.title = title, .text = text, .icon = Question, .buttons = Yes | No}) {
         qApp->installEventFilter(this);
     }
 
@@ -99,7 +137,23 @@ class PlainKinds final : public QFileIconProvider {
     [[nodiscard]] QString type(const QFileInfo &info) const override { return info.isDir() ? u"Mappa"_s : u"Fájl"_s; }
 };
 
-std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, const QString &proposal,
+/// Gives the toolkit's file dialog the size that its letters ask for, as far as the screen holds it.
+void enlarge(QFileDialog &dialog, double points) {
+    const QFont font = letters(dialog, points);
+    const double ratio = fonts::points(font) / fonts::points(dialog.font());
+    dialog.setFont(font);
+    dialog.resize((QSizeF(dialog.size()) * ratio).toSize().boundedTo(dialog.screen()->availableSize() * 9 / 10));
+    // It measured its columns before.
+    for (const auto *list : dialog.findChildren<QTreeView *>()) {
+        for (int i = 0; i < list->header()->count(); ++i)
+            list->header()->resizeSection(i, qRound(list->header()->sectionSize(i) * ratio));
+        list->header()->setStretchLastSection(true);
+    }
+    for (auto *button : dialog.findChildren<QToolButton *>())
+        button->setIconSize(button->iconSize() * ratio);
+}
+
+std::optional<QString> choose(QWidget *window, double points, QFileDialog::AcceptMode mode, const QString &proposal,
                               const QString &filter) {
     PlainKinds kinds;
     QFileDialog dialog(seen(window), QString(), QFileInfo(proposal).path(), filter);
@@ -112,6 +166,7 @@ std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, con
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     if (!proposal.contains(u'*'))
         dialog.selectFile(proposal);
+    enlarge(dialog, points);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return QDir::toNativeSeparators(dialog.selectedFiles().front());
@@ -120,18 +175,24 @@ std::optional<QString> choose(QWidget *window, QFileDialog::AcceptMode mode, con
 }  // namespace
 
 void QtMessageBoxes::tell(const QString &text) {
-    Message(window_, u"Zimbora"_s, text, QMessageBox::Warning, QMessageBox::Ok).exec();
+    Message(window_, hasznos_.párbeszédpont(),
+            {.title = u"Zimbora"_s, .text = text, .icon = QMessageBox::Warning, .buttons = QMessageBox::Ok})
+        .exec();
 }
 
 Answer QtMessageBoxes::ask_yes_no(const QString &title, const QString &text) {
     // Anything but Yes is No: the end of the program, too.
-    return UnavoidableQuestion(window_, title, text).exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
+    return UnavoidableQuestion(window_, hasznos_.párbeszédpont(), title, text).exec() == QMessageBox::Yes ? Answer::yes
+                                                                                                          : Answer::no;
 }
 
 Answer QtMessageBoxes::ask_yes_no_cancel(const QString &title, const QString &text) {
-    return answer_of(
-        Message(window_, title, text, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)
-            .exec());
+    return answer_of(Message(window_, hasznos_.párbeszédpont(),
+                             {.title = title,
+                              .text = text,
+                              .icon = QMessageBox::Question,
+                              .buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel})
+                         .exec());
 }
 
 void QtMessageBoxes::beep() {
@@ -139,13 +200,13 @@ void QtMessageBoxes::beep() {
 }
 
 std::optional<QString> QtFileDialogs::open(const QString &proposal) {
-    return choose(window_, QFileDialog::AcceptOpen, proposal, word_list_filter);
+    return choose(window_, hasznos_.párbeszédpont(), QFileDialog::AcceptOpen, proposal, word_list_filter);
 }
 
 std::optional<QString> QtFileDialogs::save(const QString &proposal) {
-    return choose(window_, QFileDialog::AcceptSave, proposal, saved_word_list_filter);
+    return choose(window_, hasznos_.párbeszédpont(), QFileDialog::AcceptSave, proposal, saved_word_list_filter);
 }
 
 std::optional<QString> QtFileDialogs::save_pdf(const QString &proposal) {
-    return choose(window_, QFileDialog::AcceptSave, proposal, pdf_filter);
+    return choose(window_, hasznos_.párbeszédpont(), QFileDialog::AcceptSave, proposal, pdf_filter);
 }

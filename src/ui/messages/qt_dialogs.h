@@ -4,10 +4,14 @@
 #include <QWidget>
 
 #include "platform/dialogs.h"
+#include "ui/window/window_fitting.h"
 
-/// Message boxes of the toolkit, in front of a window of the program.
+/// Message boxes of the toolkit, in front of a window of the program, as large as the screen asks for.
 class QtMessageBoxes final : public MessageBoxes {
   public:
+    /// `hasznos` must outlive this object.
+    explicit QtMessageBoxes(const Module_hasznos &hasznos) : hasznos_(hasznos) {}
+
     /// The boxes stand in front of `window`; while it is hidden or does not exist, in front of the program's window
     /// that is used, or of another that is seen.
     void set_window(QWidget *window) { window_ = window; }
@@ -18,12 +22,16 @@ class QtMessageBoxes final : public MessageBoxes {
     void beep() override;
 
   private:
+    const Module_hasznos &hasznos_;
     QPointer<QWidget> window_;
 };
 
-/// The system's file dialogs.
+/// The system's file dialogs; those of the toolkit where it has none, as large as the screen asks for.
 class QtFileDialogs final : public FileDialogs {
   public:
+    /// `hasznos` must outlive this object.
+    explicit QtFileDialogs(const Module_hasznos &hasznos) : hasznos_(hasznos) {}
+
     /// The dialogs stand in front of `window`, or of another as the boxes do.
     void set_window(QWidget *window) { window_ = window; }
 
@@ -32,5 +40,6 @@ class QtFileDialogs final : public FileDialogs {
     [[nodiscard]] std::optional<QString> save_pdf(const QString &proposal) override;
 
   private:
+    const Module_hasznos &hasznos_;
     QPointer<QWidget> window_;
 };

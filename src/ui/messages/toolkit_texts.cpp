@@ -12,28 +12,29 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Text {
+    std::string_view context;
     std::string_view source;
     const char16_t *hungarian;
 };
 
-/// The file dialog's kinds of files, all of one context.
 constexpr std::string_view file_kinds = "QAbstractFileIconProvider";
-constexpr std::array missing_texts{Text{"Drive", u"Meghajtó"},      Text{"File", u"Fájl"},
-                                   Text{"%1 File", u"%1 fájl"},     Text{"File Folder", u"Mappa"},
-                                   Text{"Folder", u"Mappa"},        Text{"Alias", u"Hivatkozás"},
-                                   Text{"Shortcut", u"Hivatkozás"}, Text{"Unknown", u"Ismeretlen"}};
+/// What the toolkit's translation lacks, the file dialog's kinds of files, and what it says otherwise than the program
+/// does.
+constexpr std::array own_texts{Text{file_kinds, "Drive", u"Meghajtó"},      Text{file_kinds, "File", u"Fájl"},
+                               Text{file_kinds, "%1 File", u"%1 fájl"},     Text{file_kinds, "File Folder", u"Mappa"},
+                               Text{file_kinds, "Folder", u"Mappa"},        Text{file_kinds, "Alias", u"Hivatkozás"},
+                               Text{file_kinds, "Shortcut", u"Hivatkozás"}, Text{file_kinds, "Unknown", u"Ismeretlen"},
+                               Text{"QPlatformTheme", "Cancel", u"Mégsem"}};
 
-class MissingTexts final : public QTranslator {
+class OwnTexts final : public QTranslator {
   public:
     using QTranslator::QTranslator;
 
     [[nodiscard]] bool isEmpty() const override { return false; }
 
     [[nodiscard]] QString translate(const char *context, const char *source, const char *, int) const override {
-        if (context != file_kinds)
-            return {};
-        for (const Text &text : missing_texts) {
-            if (text.source == source)
+        for (const Text &text : own_texts) {
+            if (text.context == context && text.source == source)
                 return QString::fromUtf16(text.hungarian);
         }
         return {};
@@ -44,8 +45,9 @@ class MissingTexts final : public QTranslator {
 
 void make_toolkit_hungarian() {
     QLocale::setDefault(QLocale(QLocale::Hungarian, QLocale::Hungary));
-    QCoreApplication::installTranslator(new MissingTexts(qApp));
     auto *translation = new QTranslator(qApp);
     if (translation->load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(translation);
+    // The last one that is installed is asked first.
+    QCoreApplication::installTranslator(new OwnTexts(qApp));
 }

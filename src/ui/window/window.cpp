@@ -2,13 +2,16 @@
 
 #include <QEvent>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPalette>
 #include <QPushButton>
+#include <QWindow>
 #include <functional>
 #include <utility>
 
+#include "ui/drawing/contrast.h"
 #include "ui/drawing/fonts.h"
 #include "ui/drawing/twips.h"
 
@@ -41,18 +44,38 @@ bool is_enter(const QKeyEvent &key) {
 }
 
 /// Lets a button press once for Enter that is held down. A default button that has the focus takes the key itself, and
-/// each repeat of it anew.
-class OneEnter final : public QObject {
+/// each repeat of it anew. Calls back when the focus comes to the button or leaves it.
+class ButtonWatch final : public QObject {
   public:
-    explicit OneEnter(QPushButton *button) : QObject(button) { button->installEventFilter(this); }
+    ButtonWatch(QPushButton *button, std::function<void()> focus_moved, QObject &owner)
+        : QObject(&owner), focus_moved_(std::move(focus_moved)) {
+        button->installEventFilter(this);
+    }
 
     bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+            focus_moved_();
         if (event->type() != QEvent::KeyPress)
             return false;
         const auto &key = *static_cast<QKeyEvent *>(event);
         return key.isAutoRepeat() && is_enter(key);
     }
+
+  private:
+    std::function<void()> focus_moved_;
 };
+
+/// Selected rows are seen as well in a list without the focus, where some desktops have them almost white, and can be
+/// read everywhere.
+void show_selection(QPalette &colours) {
+    const QPalette desktop = QGuiApplication::palette();
+    const QColor letters = desktop.color(QPalette::Active, QPalette::HighlightedText);
+    const QColor selection = readable_behind(letters, desktop.color(QPalette::Active, QPalette::Highlight));
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        colours.setColor(group, QPalette::Highlight, selection);
+        colours.setColor(group, QPalette::HighlightedText, letters);
+    }
+}
 
 }  // namespace
 
@@ -111,9 +134,17 @@ void ablak::resizeEvent(QResizeEvent *event) {
     Form_Resize();
 }
 
+void ablak::áttesz(const QPointF &hová) {
+    const QPoint pixel(twips::to_pixels(hová.x()), twips::to_pixels(hová.y()));
+    move(pixel);
+    // A window that was seen and is hidden has no frame for the moment: move() takes the place for that of what stands
+    // inside it.
+    if (windowHandle() && isHidden())
+        windowHandle()->setFramePosition(pixel);
+}
+
 void ablak::középre(const QRectF &képernyő) {
-    move(twips::to_pixels(képernyő.left() + (képernyő.width() - szélesség_) / 2),
-         twips::to_pixels(képernyő.top() + (képernyő.height() - magasság_) / 2));
+    áttesz(képernyő.topLeft() + QPointF(képernyő.width() - szélesség_, képernyő.height() - magasság_) / 2);
 }
 
 void ablak::elhelyez(QWidget *vezérlő, const QRectF &hely) {
@@ -123,7 +154,8 @@ void ablak::elhelyez(QWidget *vezérlő, const QRectF &hely) {
         vezérlő->setVisible(látszik);
         vezérlők_.append(vezérlő);
         if (auto *gomb = qobject_cast<QPushButton *>(vezérlő))
-            new OneEnter(gomb);
+            new ButtonWatch(
+                gomb, [this] { alapgombot_jelez(); }, gombfigyelők_);
     }
     helyek_.insert(vezérlő, hely);
     vezérlő->setGeometry(twips::to_pixels(hely));
@@ -132,15 +164,24 @@ void ablak::elhelyez(QWidget *vezérlő, const QRectF &hely) {
 void ablak::háttérszínbeállít(const QColor &szín) {
     háttérszín_ = szín;
     // The colours follow from the background, so that a dark desktop's white text never stands on a light window.
-    setPalette(QPalette(szín, szín));
+    QPalette színek(szín, szín);
+    show_selection(színek);
+    setPalette(színek);
 }
 
 void ablak::alapgombbeállít(QPushButton *gomb) {
     if (alapgomb_)
         alapgomb_->setDefault(false);
     alapgomb_ = gomb;
-    if (alapgomb_)
-        alapgomb_->setDefault(true);
+    alapgombot_jelez();
+}
+
+void ablak::alapgombot_jelez() {
+    if (!alapgomb_)
+        return;
+    // Enter presses a button that has the focus; two would look like the one that it presses.
+    const auto *fókuszban = qobject_cast<QPushButton *>(focusWidget());
+    alapgomb_->setDefault(!fókuszban || fókuszban == alapgomb_);
 }
 
 void ablak::levesz(QWidget *vezérlő) {

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QHash>
 #include <QList>
+#include <QObject>
+#include <QPointF>
 #include <QRectF>
 #include <QString>
 #include <QWidget>
@@ -36,6 +38,8 @@ class ablak : public QWidget {
     [[nodiscard]] double belsőszélesség() const { return szélesség_ - keretszélesség(); }
     void méretez(double szélesség, double magasság);
     void magasságbeállít(double magasság) { méretez(szélesség_, magasság); }
+    /// Puts the top left corner of the window's frame to this place among all screens, in twips.
+    void áttesz(const QPointF &hová);
     /// Centres the window on a screen that has this place among all screens.
     void középre(const QRectF &képernyő);
 
@@ -70,6 +74,8 @@ class ablak : public QWidget {
 
   private:
     void igazít();
+    /// Lets the default button look like the one that Enter presses, while it is.
+    void alapgombot_jelez();
     [[nodiscard]] int menümagasság() const;
 
     const keret keret_;
@@ -83,4 +89,6 @@ class ablak : public QWidget {
     QColor háttérszín_;
     double szélesség_ = 0;
     double magasság_ = 0;
+    /// They go before the buttons, which lose the focus when they are destroyed.
+    QObject gombfigyelők_;
 };

@@ -27,6 +27,9 @@ constexpr double tervezett_pont = 9;
 /// The menus grow with the screen too, but less: they are read one word at a time.
 constexpr double menü_aránya = 0.8;
 
+/// The screen on which dialogs of the toolkit have letters of the design, in twips.
+constexpr QSizeF tervezett_képernyő(1024 * twips::per_pixel, 768 * twips::per_pixel);
+
 /// Fits the window round its controls.
 void körülvesz(ablak &mit) {
     double alja = 0;
@@ -173,6 +176,12 @@ void Module_hasznos::betűméretez(ablak &mit, double szorzó) {
         menü->setFont(menübetű);
     // The menu bar has another height now.
     mit.méretez(mit.szélesség(), mit.magasság());
+}
+
+double Module_hasznos::párbeszédpont() const {
+    const QSizeF képernyő = képernyő_().size();
+    return tervezett_pont * std::max(1.0, std::min(képernyő.width() / tervezett_képernyő.width(),
+                                                   képernyő.height() / tervezett_képernyő.height()));
 }
 
 void Module_hasznos::ablakstílus(ablak &mit) const {

@@ -28,6 +28,9 @@ class Module_hasznos final {
     /// Gives the letters of a window's controls and menus the size that fits controls scaled by `szorzó`.
     static void betűméretez(ablak &mit, double szorzó);
 
+    /// Letters, in points, of dialogs that the toolkit lays out: they grow with the screen as those of the menus do.
+    [[nodiscard]] double párbeszédpont() const;
+
     /// Centres a window and gives it icon, colour, title, type face and its fixed size.
     void ablakstílus(ablak &mit) const;
 

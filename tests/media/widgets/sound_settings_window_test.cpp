@@ -2,6 +2,8 @@
 
 #include <QAccessible>
 #include <QGroupBox>
+#include <algorithm>
+#include <utility>
 
 #include "support/sound_settings_fixture.h"
 
@@ -58,6 +60,23 @@ TEST_F(SoundSettingsWindow, has_every_control_under_its_name_with_its_caption) {
     EXPECT_EQ(label("Label2"), u"Helyes megoldás esetén megszólaló hangok:"_s);
     EXPECT_EQ(label("Label3"), u"Hibás megoldás esetén megszólaló hangok:"_s);
     EXPECT_EQ(control<QGroupBox>(*window_, "frame_hangjelzések")->title(), u"Hangjelzések"_s);
+}
+
+TEST_F(SoundSettingsWindow, shows_the_switches_of_the_exercises_first_and_not_in_the_order_of_the_file) {
+    start();
+
+    // Down the left column, then down the right one.
+    QList<QCheckBox *> boxes = window_->findChildren<QCheckBox *>();
+    std::sort(boxes.begin(), boxes.end(), [](const QCheckBox *one, const QCheckBox *other) {
+        return std::pair(one->x(), one->y()) < std::pair(other->x(), other->y());
+    });
+    QStringList seen;
+    for (const QCheckBox *box : boxes)
+        seen << box->objectName();
+
+    EXPECT_EQ(seen, QStringList({u"chk_hang_a_feladatokban_helyes"_s, u"chk_hang_a_feladatokban_hiba"_s,
+                                 u"chk_hangjelzés_segítségkérés"_s, u"chk_hang_a_gratulálópanelen"_s,
+                                 u"chk_hang_a_főablakban"_s}));
 }
 
 TEST_F(SoundSettingsWindow, takes_colour_and_icon_of_the_program) {
@@ -130,9 +149,9 @@ TEST_F(SoundSettingsWindow, stays_silent_while_tab_goes_through_its_lists) {
     start();
 
     EXPECT_EQ(tab_order(*window_),
-              u"Filelist lst_gratulahang lst_helyeshang Lst_hibahang chk_hang_a_gratulálópanelen "
-              "chk_hang_a_feladatokban_helyes chk_hang_a_feladatokban_hiba "
-              "chk_hangjelzés_segítségkérés chk_hang_a_főablakban cmd_ok cmd_mégsem"_s);
+              u"Filelist lst_gratulahang lst_helyeshang Lst_hibahang chk_hang_a_feladatokban_helyes "
+              "chk_hang_a_feladatokban_hiba chk_hangjelzés_segítségkérés "
+              "chk_hang_a_gratulálópanelen chk_hang_a_főablakban cmd_ok cmd_mégsem"_s);
 
     EXPECT_EQ(multimedia_.sent, QStringList());
     EXPECT_EQ(list("lst_helyeshang")->selected(), -1);
@@ -151,8 +170,8 @@ TEST_F(SoundSettingsWindow, is_reached_by_tab_from_control_to_control) {
               "lst_gratulahang cmd_gartula cmd_hangtörl_gratulahangból "
               "lst_helyeshang cmd_helyeshang_add cmd_hangtörl_helyeshangból "
               "Lst_hibahang cmd_hibahang_add cmd_hangtörl_hibahangból "
-              "chk_hang_a_gratulálópanelen chk_hang_a_feladatokban_helyes "
-              "chk_hang_a_feladatokban_hiba chk_hangjelzés_segítségkérés chk_hang_a_főablakban "
+              "chk_hang_a_feladatokban_helyes chk_hang_a_feladatokban_hiba "
+              "chk_hangjelzés_segítségkérés chk_hang_a_gratulálópanelen chk_hang_a_főablakban "
               "cmd_ok cmd_mégsem"_s);
 }
 

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QElapsedTimer>
+#include <QLabel>
 #include <QProgressDialog>
 #include <QScrollBar>
 
@@ -367,6 +369,39 @@ TEST_F(PrintPreview, shows_every_caption_whole) {
             EXPECT_LE(preview.height(), pixels.height());
         });
     }
+}
+
+TEST_F(PrintPreview, says_how_many_rows_are_cut_off_at_the_edges_of_the_paper) {
+    list_.kiürít();
+    list_.hozzáfűz({{u"dog"_s, u"kutya"_s}, {u"long"_s, QString(500, u'x')}, {QString(500, u'x'), u"hosszú"_s}});
+    start();
+
+    in_preview([&](frm_nyomtatásikép &preview) {
+        const auto *told = control<QLabel>(preview, "Label_lemaradók");
+        ASSERT_NE(told, nullptr);
+        EXPECT_EQ(told->text(), u"2 sor széle nem fér rá a papírra."_s);
+        EXPECT_FALSE(told->geometry().intersects(view(preview)->geometry()));
+    });
+}
+
+TEST_F(PrintPreview, says_nothing_of_the_edges_when_every_row_has_room) {
+    start();
+
+    in_preview(
+        [&](frm_nyomtatásikép &preview) { EXPECT_EQ(preview.findChild<QLabel *>(u"Label_lemaradók"_s), nullptr); });
+}
+
+TEST_F(PrintPreview, of_a_million_letters_opens_at_once) {
+    list_.kiürít();
+    list_.hozzáfűz({{u"long"_s, QString(1'000'000, u'x')}});
+    QElapsedTimer clock;
+    start();
+    clock.start();
+
+    in_preview([](frm_nyomtatásikép &) {});
+
+    // It took fourteen seconds to lay all of them out.
+    EXPECT_LT(clock.elapsed(), 2000);
 }
 
 }  // namespace

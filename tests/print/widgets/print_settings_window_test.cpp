@@ -147,6 +147,14 @@ TEST_F(PrintSettings, samples_show_the_first_pair_and_the_accented_letters_in_th
     }
 }
 
+TEST_F(PrintSettings, begin_with_the_face_that_stands_in_for_times_new_roman_on_the_screen) {
+    printers_.fonts_of[QString()] = {u"DejaVu Serif"_s, u"Liberation Serif"_s};
+
+    start();
+
+    EXPECT_EQ(fonts()->currentText(), u"Liberation Serif"_s);
+}
+
 TEST_F(PrintSettings, sample_of_an_empty_list_shows_the_hyphen_alone) {
     list_.kiürít();
     start();

@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QHelpEvent>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
@@ -141,7 +143,7 @@ TEST_F(ListBoxTest, keeps_an_item_of_a_million_letters_whole_and_shows_its_begin
 
     EXPECT_EQ(list_.item(3), longest);
     const auto *delegate = qobject_cast<QStyledItemDelegate *>(list_.itemDelegate());
-    EXPECT_EQ(delegate->displayText(longest, QLocale()).size(), 1000);
+    EXPECT_EQ(delegate->displayText(longest, QLocale()), longest.left(1000) + u'…');
 }
 
 TEST_F(ListBoxTest, shows_a_column_of_a_model) {
@@ -154,6 +156,33 @@ TEST_F(ListBoxTest, shows_a_column_of_a_model) {
     EXPECT_EQ(hungarian.item(1), u"macska"_s);
     hungarian.select(1);
     EXPECT_EQ(hungarian.selected(), 1);
+}
+
+/// Shows what is selected as some themes do in a list that has not the focus.
+class PaleTheme final : public QProxyStyle {
+  public:
+    PaleTheme() : QProxyStyle(u"fusion"_s) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override {
+        if (element == PE_PanelItemViewItem && option->state & State_Selected)
+            painter->fillRect(option->rect, QColor(250, 250, 250));
+        else
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+};
+
+TEST_F(ListBoxTest, shows_its_selected_item_as_clearly_without_the_focus_whatever_the_theme) {
+    PaleTheme theme;
+    list_.setStyle(&theme);
+    list_.select(1);
+    list_.clearFocus();
+
+    const QRect row = list_.visualRect(list_.model()->index(1, 0));
+    const QColor behind_it = list_.viewport()->grab().toImage().pixelColor(row.right() - 3, row.center().y());
+
+    EXPECT_EQ(behind_it, list_.palette().color(QPalette::Active, QPalette::Highlight));
+    list_.setStyle(nullptr);
 }
 
 }  // namespace

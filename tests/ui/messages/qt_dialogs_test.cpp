@@ -4,22 +4,39 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFontMetrics>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest/QTest>
+#include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "support/files_for_tests.h"
 #include "support/printing.h"
+#include "ui/drawing/fonts.h"
+#include "ui/drawing/twips.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class QtDialogs : public testing::Test {
+class DialogsOnAScreen : public testing::Test {
+  protected:
+    void use_screen(double width, double height) {
+        screen_ = QRectF(0, 0, width * twips::per_pixel, height * twips::per_pixel);
+    }
+
+    QRectF screen_{0, 0, 1024 * twips::per_pixel, 768 * twips::per_pixel};
+    frm_referencia reference_;
+    Module_hasznos fitting_{reference_, [this] { return screen_; }};
+};
+
+class QtDialogs : public DialogsOnAScreen {
   protected:
     using Act = std::function<void(QMessageBox &)>;
 
@@ -48,7 +65,7 @@ class QtDialogs : public testing::Test {
         return behind;
     }
 
-    QtMessageBoxes boxes_;
+    QtMessageBoxes boxes_{fitting_};
 };
 
 TEST_F(QtDialogs, question_of_yes_and_no_is_answered_by_its_buttons) {
@@ -127,7 +144,38 @@ TEST_F(QtDialogs, box_stands_in_front_of_a_modal_window_and_not_behind_it) {
     EXPECT_EQ(window_behind_a_box(), &modal);
 }
 
-class QtFileDialog : public testing::Test {
+TEST_F(QtDialogs, box_and_its_buttons_have_larger_letters_on_a_larger_screen) {
+    const auto letters = [this] {
+        double points = 0;
+        when_open([&](QMessageBox &box) {
+            points = fonts::points(box.button(QMessageBox::Ok)->font());
+            EXPECT_EQ(box.findChild<QLabel *>(u"qt_msgbox_label"_s)->font(), box.font());
+        });
+        boxes_.tell(u"Üzenet."_s);
+        return points;
+    };
+    const double small = letters();
+    use_screen(2560, 1440);
+
+    EXPECT_NEAR(letters(), std::max(small, 9 * 1440.0 / 768), 0.1);
+}
+
+TEST_F(QtDialogs, box_is_wider_than_its_title) {
+    const QString title = u"Egy igencsak hosszú cím, amely jóval szélesebb annál, ami alatta áll"_s;
+    int width = 0;
+    when_open([&](QMessageBox &box) {
+        width = box.width();
+        press(box, QMessageBox::Yes);
+    });
+
+    static_cast<void>(boxes_.ask_yes_no(title, u"Nos?"_s));
+
+    QFont bold = QApplication::font("QMdiSubWindowTitleBar");
+    bold.setBold(true);
+    EXPECT_GT(width, QFontMetrics(bold).horizontalAdvance(title) + 100);
+}
+
+class QtFileDialog : public DialogsOnAScreen {
   protected:
     /// Lets `act` be called with the file dialog that opens next, which has been closed afterwards.
     static void when_open(const std::function<void(QFileDialog &)> &act) {
@@ -141,7 +189,7 @@ class QtFileDialog : public testing::Test {
     }
 
     QTemporaryDir root_;
-    QtFileDialogs dialogs_;
+    QtFileDialogs dialogs_{fitting_};
 };
 
 TEST_F(QtFileDialog, for_a_pdf_offers_its_kind_of_files_and_the_proposed_name) {
@@ -171,6 +219,23 @@ TEST_F(QtFileDialog, returns_the_name_as_it_was_chosen_and_does_not_ask_about_a_
     });
 
     EXPECT_EQ(dialogs_.save_pdf(proposal), QDir::toNativeSeparators(proposal));
+}
+
+TEST_F(QtFileDialog, is_larger_with_its_letters_on_a_larger_screen) {
+    const auto look = [this] {
+        std::pair<double, int> letters_and_width;
+        when_open([&](const QFileDialog &dialog) {
+            letters_and_width = {fonts::points(dialog.findChild<QLineEdit *>()->font()), dialog.width()};
+        });
+        EXPECT_EQ(dialogs_.open(root_.filePath(u"list.szs"_s)), std::nullopt);
+        return letters_and_width;
+    };
+    const auto [small_letters, small_width] = look();
+    use_screen(2560, 1440);
+    const auto [large_letters, large_width] = look();
+
+    EXPECT_GT(large_letters, small_letters * 1.3);
+    EXPECT_GT(large_width, small_width * 1.1);
 }
 
 }  // namespace

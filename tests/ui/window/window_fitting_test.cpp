@@ -372,4 +372,17 @@ TEST(Fonts, show_hungarian_letters_in_a_face_with_serifs) {
         << QFontInfo(font).family().toStdString();
 }
 
+TEST_F(WindowFitting, gives_dialogs_larger_letters_on_a_larger_screen_and_never_smaller_ones) {
+    const auto points_on = [this](double width, double height) {
+        const QRectF screen(0, 0, width * twips::per_pixel, height * twips::per_pixel);
+        return Module_hasznos(reference_, [screen] { return screen; }).párbeszédpont();
+    };
+
+    EXPECT_DOUBLE_EQ(points_on(1024, 768), 9);
+    EXPECT_DOUBLE_EQ(points_on(800, 600), 9);
+    EXPECT_DOUBLE_EQ(points_on(2560, 1440), 9 * 1440.0 / 768);
+    // Turned on its side.
+    EXPECT_DOUBLE_EQ(points_on(1440, 2560), 9 * 1440.0 / 1024);
+}
+
 }  // namespace

@@ -12,6 +12,7 @@
 #include <QtTest/QTest>
 
 #include "support/printing.h"
+#include "ui/drawing/contrast.h"
 #include "ui/window/window_reference.h"
 
 using namespace Qt::StringLiterals;
@@ -103,6 +104,39 @@ TEST_F(WindowWithButtons, presses_the_button_that_has_the_focus_before_the_defau
 
     EXPECT_EQ(other_clicks_, 1);
     EXPECT_EQ(ok_clicks_, 0);
+}
+
+TEST_F(WindowWithButtons, shows_no_default_button_beside_another_that_has_the_focus_and_is_pressed) {
+    window_.alapgombbeállít(ok_);
+    window_.show();
+    QApplication::setActiveWindow(&window_);
+    ok_->setFocus();
+    EXPECT_TRUE(ok_->isDefault());
+
+    other_->setFocus();
+    EXPECT_FALSE(ok_->isDefault());
+
+    ok_->setFocus();
+    EXPECT_TRUE(ok_->isDefault());
+}
+
+TEST(Window, shows_what_is_selected_readably_and_in_a_list_without_the_focus_as_well) {
+    const QPalette desktop = QApplication::palette();
+    QPalette pale = desktop;
+    pale.setColor(QPalette::Inactive, QPalette::Highlight, QColor(240, 240, 240));
+    pale.setColor(QPalette::Active, QPalette::Highlight, QColor(120, 180, 230));
+    pale.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(pale);
+    ablak window(u"próba"_s);
+
+    window.háttérszínbeállít(QColor(0xe9, 0xef, 0xf4));
+
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor selection = window.palette().color(group, QPalette::Highlight);
+        EXPECT_GE(contrast(window.palette().color(group, QPalette::HighlightedText), selection), 4.5);
+        EXPECT_GE(contrast(window.palette().color(group, QPalette::Base), selection), 3);
+    }
+    QApplication::setPalette(desktop);
 }
 
 TEST_F(WindowWithButtons, presses_nothing_when_the_default_button_is_disabled_or_missing) {
