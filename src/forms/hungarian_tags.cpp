@@ -17,8 +17,9 @@ using enum címkefajta;
 
 const QHash<QString, címkesor> &jelek_és_ragok() {
     static const QHash<QString, címkesor> sorok{
-        {u"NOM"_s, {néma, {}}},
         {u"SG"_s, {néma, {}}},
+        // An adverb of place of its own, misspelt in the data.
+        {u"SodabL"_s, {néma, {}}},
         {u"PRES_INDIC_INDEF"_s, {néma, {}}},
         {u"PLUR"_s, {rag, u"többes szám"_s}},
         {u"PL"_s, {rag, u"többes szám"_s}},
@@ -72,8 +73,8 @@ const QHash<QString, címkesor> &végződések() {
         {u"szOrtA_MULTORD_adv"_s, {rag, u"-szorta/-szerte/-szörte (mennyivel?)"_s}},
         {u"d_FRACTION_num"_s, {rag, u"törtszám (-d)"_s}},
         {u"d_FRjACTION_num"_s, {rag, u"törtszám (-d)"_s}},
-        {u"dik_ORDINAL_adj"_s, {rag, u"sorszám (-dik)"_s}},
-        {u"dik_ORDINAL_adj]"_s, {rag, u"sorszám (-dik)"_s}},
+        {u"dik_ORDINAL_adj"_s, {képző, u"sorszám (-dik)"_s}},
+        {u"dik_ORDINAL_adj]"_s, {képző, u"sorszám (-dik)"_s}},
         {u"dikA_DATE_noun"_s, {rag, u"a hónap napja (-dika/-dike)"_s}},
         {u"i_PLACE/TIME_adj"_s, {képző, u"-i (valahová, valamikorra való)"_s}},
         {u"i_PLACETIME_adj"_s, {képző, u"-i (valahová, valamikorra való)"_s}},
@@ -167,6 +168,9 @@ bool véges(const QString &címke) {
 
 std::optional<címkesor> sora(const QString &címke) {
     const QString érték = címke.mid(3);
+    // The data run it together with what follows.
+    if (érték.startsWith(u"NOM"))
+        return címkesor{.fajta = néma, .szöveg = {}};
     for (const auto *tábla : {&jelek_és_ragok(), &végződések(), &képzők()}) {
         const auto sor = tábla->constFind(érték);
         if (sor != tábla->constEnd())
