@@ -142,11 +142,16 @@ std::vector<olvasat> angol_olvasatkészítő::olvasatok() {
 
 void angol_olvasatkészítő::bizonytalanokat_jelöl() {
     const auto ismert = [](const jelölt &egy) { return egy.gyakoriság >= 0; };
+    const auto ritka = [&](const jelölt &egy) { return egy.mennyire == bizonyosság::szabályos && !ismert(egy); };
+    // Beside an irregular form a rare word is a coincidence: "lying" is not of "to lye".
+    if (std::ranges::any_of(jelöltek_, [](const jelölt &egy) { return egy.mennyire == bizonyosság::rendhagyó; })) {
+        std::erase_if(jelöltek_, ritka);
+        return;
+    }
     if (std::ranges::none_of(jelöltek_, ismert))
         return;
     for (jelölt &egy : jelöltek_) {
-        // Of a rare word and one that texts have it is the latter: "lying" is hardly "to lye".
-        if (egy.mennyire == bizonyosság::szabályos && !ismert(egy))
+        if (ritka(egy))
             egy.mennyire = bizonyosság::bizonytalan;
     }
 }

@@ -23,6 +23,7 @@ constexpr int név = 6;
 constexpr int leggyakoribb = 4;
 constexpr int szokatlan = 6;
 constexpr int ritkább_ige = 1;
+constexpr int képzett_alap = 1;
 /// A form that is a headword, but not as a word of the Hungarian dictionary, stands behind what it is made of.
 constexpr int képzett_önmaga = 30;
 /// What is less likely than the first reading by more than this only confuses.
@@ -111,8 +112,8 @@ int elemzés_súlya(const elemzés &elemzés, const QStringList &címkék) {
         súly -= leggyakoribb;
     const bool véges = std::ranges::any_of(címkék, [](const QString &c) { return c.contains(u"_INDIC_"); });
     // "vagy" is hardly ever "you are".
-    if (véges && elemzés.igekötő.isEmpty() && leggyakoribb_ige(elemzés.tő) &&
-        !címkék.contains(u"is:PRES_INDIC_INDEF_SG_2"_s))
+    const bool vagy = elemzés.tő == u"van" && címkék.contains(u"is:PRES_INDIC_INDEF_SG_2"_s);
+    if (véges && !vagy && elemzés.igekötő.isEmpty() && leggyakoribb_ige(elemzés.tő))
         súly -= leggyakoribb;
     return súly;
 }
@@ -195,8 +196,8 @@ void olvasatkészítő::elemzést_olvas(const elemzés &elemzés) {
         részek->előtag.prepend(elemzés.előtagok.join(QString()));
         választott = alapok.insert(alapok.end(), *std::move(részek));
     }
-    // The form itself is a reading of its own.
-    if (választott->előtag.isEmpty() && címkék->isEmpty() && kisbetűs(választott->tő) == kisbetűs(alak_))
+    // The form itself is a reading of its own, and nothing can be said of another base without an ending.
+    if (választott->előtag.isEmpty() && címkék->isEmpty())
         return;
     int súly = elemzés_súlya(elemzés, *címkék);
     súly += választott->előtag.isEmpty() ? 0 : előtaggal;
@@ -238,7 +239,7 @@ void olvasatkészítő::képzett_alapot_keres(const elemzés &elemzés, const QS
             if (képzők == 0)
                 continue;
             const QStringList vége = címkék.sliced(képzők);
-            int súly = súlyuk(vége) + static_cast<int>(elemzés.előtagok.size()) * összetétel;
+            int súly = súlyuk(vége) + képzett_alap + static_cast<int>(elemzés.előtagok.size()) * összetétel;
             súly += egészben ? 0 : előtaggal;
             felvesz({.alapalak = egészben ? eleje + kezdet : kezdet,
                      .magyarázat = címkék_magyarázata(vége, elemzés.szófaj),

@@ -177,7 +177,8 @@ std::optional<címkesor> sora(const QString &címke) {
             return *sor;
     }
     if (const QString ige = igealak(érték); !ige.isEmpty()) {
-        const bool szótári = címke == u"ts:PRES_INDIC_INDEF_SG_3";
+        // The form under which a verb stands in a dictionary.
+        const bool szótári = érték == u"PRES_INDIC_INDEF_SG_3";
         return címkesor{.fajta = szótári ? néma : rag, .szöveg = ige};
     }
     if (const QString alak = személyes_alak(érték); !alak.isEmpty())
@@ -212,11 +213,13 @@ bool lehetetlen(const elemzés &elemzés, QStringView alak) {
     const QStringList &címkék = elemzés.címkék;
     if (std::ranges::count_if(címkék, véges) > 1)
         return true;
-    if (!címkék.isEmpty() && címkék.last() == u"is:ACC" && !alak.endsWith(u't', Qt::CaseInsensitive))
+    // Pronouns have none: "engem".
+    const bool névmás = elemzés.szófaj == u"noun_pron";
+    if (!névmás && !címkék.isEmpty() && címkék.last() == u"is:ACC" && !alak.endsWith(u't', Qt::CaseInsensitive))
         return true;
     // "mi" of "mit" is the question, not "we".
     const qsizetype alany = címkék.indexOf(u"is:NOM"_s);
-    return elemzés.szófaj == u"noun_pron" && alany >= 0 && alany + 1 < címkék.size();
+    return névmás && alany >= 0 && alany + 1 < címkék.size();
 }
 
 }  // namespace
