@@ -1,13 +1,17 @@
 #!/usr/bin/env bash
 # make_forms.sh <folder of WordNet's files> <folder of the spelling dictionaries> <folder>: makes the folder of what
-# explains inflected forms: the rules and words of the Hungarian spelling dictionary as they are, WordNet's exceptions,
-# and a list of the check sums of both. What src/forms/form_data.h and english_data.h say of these files.
+# explains inflected forms: the rules and words of the Hungarian spelling dictionary without what is about spelling only,
+# WordNet's exceptions, and a list of the check sums of all. What src/forms/form_data.h and english_data.h say of these files.
 set -euo pipefail
 wordnet=$1 hunspell=$2 folder=$3
 export LC_ALL=C
 
 mkdir -p "$folder"
-cp --no-preserve=mode "$hunspell/hu_HU.aff" "$hunspell/hu_HU.dic" "$folder/"
+{
+    echo "# Changed for Zimbora: the fields al, fl, hy, ph and pr, which are about spelling, have been taken out."
+    sed -E '/^AM /s/[ \t]+(al|fl|hy|ph|pr):[^ \t]*//g' "$hunspell/hu_HU.aff"
+} >"$folder/hu_HU.aff"
+cp --no-preserve=mode "$hunspell/hu_HU.dic" "$folder/"
 
 # exceptions <key> <file>: its lines that lead a single word to another one.
 exceptions() {
