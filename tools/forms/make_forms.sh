@@ -9,7 +9,8 @@ export LC_ALL=C
 mkdir -p "$folder"
 {
     echo "# Changed for Zimbora: the fields al, fl, hy, ph and pr, which are about spelling, have been taken out."
-    sed -E '/^AM /s/[ \t]+(al|fl|hy|ph|pr):[^ \t]*//g' "$hunspell/hu_HU.aff"
+    # A line with nothing else keeps it: one that is empty spoils the table.
+    sed -E '/^AM /{h;s/[ \t]+(al|fl|hy|ph|pr):[^ \t]*//g;/^AM[ \t]*$/g}' "$hunspell/hu_HU.aff"
 } >"$folder/hu_HU.aff"
 cp --no-preserve=mode "$hunspell/hu_HU.dic" "$folder/"
 
