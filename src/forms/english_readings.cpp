@@ -277,7 +277,7 @@ void angol_olvasatkészítő::melléknevet_olvas() {
     for (const QString &tő : tövek(alak_, u"est"))
         melléknév(tő, english::felsőfok, bizonyosság::szabályos);
     // Adverbs are mostly headwords; the others follow from their adjectives.
-    if (!alak_.endsWith(u"ly") || kérdések_.van(alak_))
+    if (!alak_.endsWith(u"ly") || alak_.size() <= legrövidebb_tő || kérdések_.van(alak_))
         return;
     const QString tő = alak_.chopped(2);
     for (const QString &lehetséges : {tő, tő + u"le"_s, tő.chopped(1) + u'y'})

@@ -214,7 +214,8 @@ void olvasatkészítő::névmást_olvas(const QStringList &címkék, const QStri
     QString alapalak = személye(*személy);
     if (névutó != címkék.end()) {
         // "mellettem" is "mellett" with a person.
-        alapalak = névutó->mid(9).chopped(1);
+        alapalak = névutó->mid(9);
+        alapalak.chop(1);
         többi.removeOne(*névutó);
     } else {
         // "velem" is "én" with a case.
