@@ -12,6 +12,9 @@ struct olvasat {
     QString alapalak;
     /// For a learner, in Hungarian: "többes szám + -ban/-ben (hol?)", "múlt idő". Empty when the form is the headword.
     QString magyarázat;
+    /// What stands in front of the base in the form and is no part of it: the beginning of a compound ("konyha" of
+    /// "konyhaasztalon", when there is no such headword), a preverb. Mostly empty.
+    QString előtag = {};
 
     bool operator==(const olvasat &) const = default;
 };
@@ -22,7 +25,9 @@ struct címszókérdések {
     /// count: "to go" is true for "to go, went, gone". Capitals count.
     std::function<bool(QStringView címszó)> van;
     /// How common a headword is: the greater the more, in any measure. May be missing.
-    std::function<int(QStringView címszó)> gyakoriság;
+    std::function<int(QStringView címszó)> gyakoriság = {};
+    /// The headwords that bring their forms behind a comma, whole: "to go, went, gone". May be missing.
+    std::function<QStringList()> alakosak = {};
 };
 
 /// Explains the inflected forms of a language. What it needs is loaded by the first question, which takes a fraction of
