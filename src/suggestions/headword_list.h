@@ -22,7 +22,7 @@ class címszólista final {
     enum class nyelv { angol, magyar };
 
     /// The dictionary am.txt or ma.txt of the program folder, and the file of the frequencies beside it.
-    címszólista(const QString &programkönyvtár, nyelv nyelv);
+    címszólista(const QString &programkönyvtár, nyelv melyik);
     ~címszólista();
 
     /// True when there is such a headword, an English verb with its "to "; capitals count.
@@ -46,10 +46,10 @@ class címszólista final {
         QByteArrayView kulcsok;
         const betűhalmaz *halmazok = nullptr;
         const std::uint8_t *gyakoriságok = nullptr;
-        const bool *igék = nullptr;
+        const std::uint8_t *igék = nullptr;
         [[nodiscard]] qsizetype darab() const { return hossz == 0 ? 0 : kulcsok.size() / hossz; }
         [[nodiscard]] tétel elem(qsizetype i) const {
-            return {kulcsok.sliced(i * hossz, hossz), igék[i], gyakoriságok[i]};
+            return {kulcsok.sliced(i * hossz, hossz), igék[i] != 0, gyakoriságok[i]};
         }
     };
     /// Longer headwords are left out.

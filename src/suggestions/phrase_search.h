@@ -52,7 +52,7 @@ class kifejezéskereső final {
         alakelemző *angol = nullptr;
         alakelemző *magyar = nullptr;
     };
-    kifejezéskereső(const QString &programkönyvtár, elemzők elemzők);
+    kifejezéskereső(const QString &programkönyvtár, elemzők alakok);
     ~kifejezéskereső();
 
     /// Finds the pairs that have all words of `szöveg`; nothing for a text without a word. Returns how many rows were

@@ -65,7 +65,7 @@ class ajánló final {
         alakelemző *magyar_alakok = nullptr;
         kifejezéskereső *kifejezések = nullptr;
     };
-    explicit ajánló(const források &források) : források_(források) {}
+    explicit ajánló(const források &miből) : források_(miből) {}
 
     /// Answers a question. `elavult` is asked now and then; when it says true the answer is what there is until then
     /// and of no use. An empty answer for a text without a letter and for one of more than 100 characters.

@@ -25,13 +25,13 @@ class munkaszál final {
     ~munkaszál();
 
     /// Has this done instead of everything before it.
-    void végez(munka munka);
+    void végez(munka teendő);
     /// Drops what runs or waits.
     void elvet() { ++*newest_; }
     /// For a work: has `közlés` called on the window's thread, unless the work is out of date by then or this object
     /// is gone.
     using közlés = std::function<void()>;
-    void közöl(const elavult &elavult, közlés közlés);
+    void közöl(const elavult &régi, közlés mondanivaló);
 
   private:
     std::shared_ptr<std::atomic<int>> newest_ = std::make_shared<std::atomic<int>>(0);

@@ -1,0 +1,105 @@
+#include "suggestions/spelling_search.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "suggestions/edit_distance.h"
+
+namespace íráskereső {
+namespace {
+
+constexpr qsizetype longer_or_shorter = 2;
+constexpr int no_bound = std::numeric_limits<int>::max() / 4;
+
+/// The letters without accents, capitals and what may be left out.
+QByteArray bare(QByteArrayView text) {
+    QByteArray letters;
+    for (const char byte : text) {
+        if (!betűk::mellékes(byte))
+            letters.append(betűk::ékezettelen(byte));
+    }
+    return letters;
+}
+
+/// Calls `visit(item)` for the headwords that are about as long and whose letters `fits`.
+template <typename Fits, typename Visit>
+void scan(címszólista &headwords, qsizetype length, const elavult &out_of_date, Fits fits, Visit visit) {
+    for (qsizetype other = std::max<qsizetype>(1, length - longer_or_shorter); other <= length + longer_or_shorter;
+         ++other) {
+        if (out_of_date())
+            return;
+        const auto group = headwords.csoport(other);
+        const qsizetype count = group.darab();
+        for (qsizetype i = 0; i < count; ++i) {
+            if (fits(group.halmazok[i]))
+                visit(group.elem(i));
+        }
+    }
+}
+
+/// The noun and the verb of the same letters, which are neighbours, are one.
+void add(QVector<közelítés> &found, const címszólista::tétel &item, int cost) {
+    if (!found.isEmpty() && found.last().kulcs == item.kulcs) {
+        found.last().csak_ige = found.last().csak_ige && item.ige;
+        found.last().gyakoriság = std::max(found.last().gyakoriság, item.gyakoriság);
+        return;
+    }
+    found.append(
+        {.kulcs = item.kulcs.toByteArray(), .csak_ige = item.ige, .gyakoriság = item.gyakoriság, .költség = cost});
+}
+
+void sort_by_value(QVector<közelítés> &found, int weight_of_cost) {
+    for (közelítés &one : found)
+        one.érték = weight_of_cost * one.költség - one.gyakoriság;
+    std::ranges::stable_sort(found, {}, &közelítés::érték);
+}
+
+}  // namespace
+
+QVector<közelítés> írásmódok(címszólista &címszavak, címszólista::nyelv nyelv, const QByteArray &szöveg,
+                             const elavult &elavult) {
+    const QByteArray letters = bare(szöveg);
+    const betűhalmaz set = betűk::halmaza(szöveg);
+    const eltérésmérő distance(szöveg, nyelv);
+    QVector<közelítés> found;
+    if (letters.isEmpty())
+        return found;
+    scan(
+        címszavak, szöveg.size(), elavult, [set](betűhalmaz other) { return other == set; },
+        [&](const címszólista::tétel &item) {
+            if (item.kulcs != szöveg && bare(item.kulcs) == letters)
+                add(found, item, distance.mér(item.kulcs, no_bound));
+        });
+    constexpr int weight_of_cost = 24;
+    sort_by_value(found, weight_of_cost);
+    return found;
+}
+
+QVector<közelítés> elírások(címszólista &címszavak, címszólista::nyelv nyelv, const QByteArray &szöveg,
+                            qsizetype legfeljebb, const elavult &elavult) {
+    const eltérésmérő distance(szöveg, nyelv);
+    const int bound = distance.szokásos_határ();
+    QVector<közelítés> found;
+    if (bound == 0)
+        return found;
+    const betűhalmaz set = betűk::halmaza(szöveg);
+    const int surplus = eltérésmérő::legnagyobb_többlet(bound);
+    const QByteArray letters = bare(szöveg);
+    scan(
+        címszavak, szöveg.size(), elavult,
+        [=](betűhalmaz other) {
+            return betűk::többlet(set, other) <= surplus && betűk::többlet(other, set) <= surplus;
+        },
+        [&](const címszólista::tétel &item) {
+            const int cost = distance.mér(item.kulcs, bound);
+            if (cost <= bound && bare(item.kulcs) != letters)
+                add(found, item, cost);
+        });
+    constexpr int weight_of_cost = 16;
+    sort_by_value(found, weight_of_cost);
+    if (found.size() > legfeljebb)
+        found.resize(legfeljebb);
+    return found;
+}
+
+}  // namespace íráskereső
