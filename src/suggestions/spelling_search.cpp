@@ -57,7 +57,7 @@ void sort_by_value(QVector<közelítés> &found, int weight_of_cost) {
 }  // namespace
 
 QVector<közelítés> írásmódok(címszólista &címszavak, címszólista::nyelv nyelv, const QByteArray &szöveg,
-                             const elavult &elavult) {
+                             const elavult &régi) {
     const QByteArray letters = bare(szöveg);
     const betűhalmaz set = betűk::halmaza(szöveg);
     const eltérésmérő distance(szöveg, nyelv);
@@ -65,7 +65,7 @@ QVector<közelítés> írásmódok(címszólista &címszavak, címszólista::nye
     if (letters.isEmpty())
         return found;
     scan(
-        címszavak, szöveg.size(), elavult, [set](betűhalmaz other) { return other == set; },
+        címszavak, szöveg.size(), régi, [set](betűhalmaz other) { return other == set; },
         [&](const címszólista::tétel &item) {
             if (item.kulcs != szöveg && bare(item.kulcs) == letters)
                 add(found, item, distance.mér(item.kulcs, no_bound));
@@ -76,7 +76,7 @@ QVector<közelítés> írásmódok(címszólista &címszavak, címszólista::nye
 }
 
 QVector<közelítés> elírások(címszólista &címszavak, címszólista::nyelv nyelv, const QByteArray &szöveg,
-                            qsizetype legfeljebb, const elavult &elavult) {
+                            qsizetype legfeljebb, const elavult &régi) {
     const eltérésmérő distance(szöveg, nyelv);
     const int bound = distance.szokásos_határ();
     QVector<közelítés> found;
@@ -86,7 +86,7 @@ QVector<közelítés> elírások(címszólista &címszavak, címszólista::nyelv
     const int surplus = eltérésmérő::legnagyobb_többlet(bound);
     const QByteArray letters = bare(szöveg);
     scan(
-        címszavak, szöveg.size(), elavult,
+        címszavak, szöveg.size(), régi,
         [=](betűhalmaz other) {
             return betűk::többlet(set, other) <= surplus && betűk::többlet(other, set) <= surplus;
         },

@@ -20,7 +20,7 @@ struct közelítés {
 };
 
 /// Goes through all headwords of a dictionary for those that are written much like a text. The text is as
-/// betűk::kódolva() makes it. `elavult` is asked before each group of headwords of one length; when it says true the
+/// betűk::kódolva() makes it. `régi` is asked before each group of headwords of one length; when it says true the
 /// result is of no use.
 namespace íráskereső {
 
@@ -29,10 +29,10 @@ using elavult = std::function<bool()>;
 /// Those that differ by capitals, accents, blanks, hyphens, apostrophes and full stops only, the best first; not the
 /// text itself.
 [[nodiscard]] QVector<közelítés> írásmódok(címszólista &címszavak, címszólista::nyelv nyelv, const QByteArray &szöveg,
-                                           const elavult &elavult);
+                                           const elavult &régi);
 
 /// Those that one or two letters make of the text, the best first, `legfeljebb` at most; none that írásmódok() finds.
 [[nodiscard]] QVector<közelítés> elírások(címszólista &címszavak, címszólista::nyelv nyelv, const QByteArray &szöveg,
-                                          qsizetype legfeljebb, const elavult &elavult);
+                                          qsizetype legfeljebb, const elavult &régi);
 
 }  // namespace íráskereső

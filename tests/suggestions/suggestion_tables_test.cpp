@@ -1,0 +1,52 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "dictionary/dictionary_search.h"
+#include "suggestions/suggester.h"
+#include "support/suggestion_tables.h"
+#include "support/test_places.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The real dictionaries, without analysis of forms.
+class SuggestionTables : public testing::Test {
+  protected:
+    [[nodiscard]] bool leads_to(const TableLine &line, bool from_english) {
+        const ajánlás answer = suggester_.ajánl({line.text, from_english}, [] { return false; });
+        return std::ranges::any_of(answer.ajánlatok, [&](const ajánlat &offer) {
+            return offer.angolról == from_english &&
+                   (offer.címszó == line.wanted || (from_english && keresőkulcs(offer.címszó) == line.wanted));
+        });
+    }
+
+    void expect_table(const QString &name, bool from_english, double least) {
+        const auto table = suggestion_table(name);
+        ASSERT_GT(table.size(), 150);
+        QStringList missed;
+        for (const TableLine &line : table) {
+            if (!leads_to(line, from_english))
+                missed.append(line.text + u" | "_s + line.wanted);
+        }
+        const auto found = static_cast<double>(table.size() - missed.size()) / static_cast<double>(table.size());
+        EXPECT_GE(found, least) << missed.join(u'\n').toStdString();
+        RecordProperty("found", std::to_string(found));
+    }
+
+  private:
+    címszólista english_{test_places::program(), címszólista::nyelv::angol};
+    címszólista hungarian_{test_places::program(), címszólista::nyelv::magyar};
+    ajánló suggester_{{.angol_címszavak = english_, .magyar_címszavak = hungarian_}};
+};
+
+TEST_F(SuggestionTables, have_the_right_english_word_for_95_of_100_misspelt_ones) {
+    expect_table(u"english_slips.txt"_s, true, 0.95);
+}
+
+TEST_F(SuggestionTables, have_the_right_hungarian_word_for_95_of_100_misspelt_ones) {
+    expect_table(u"hungarian_slips.txt"_s, false, 0.95);
+}
+
+}  // namespace
