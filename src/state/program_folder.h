@@ -41,3 +41,8 @@ struct ProgramFolderPlaces {
 /// Names of the two dictionaries in the program folder.
 extern const QString english_hungarian_file;
 extern const QString hungarian_english_file;
+/// Names of what is made of the dictionaries beside them: the index of their words, and how common the headwords are of
+/// the English and of the Hungarian one.
+extern const QString word_index_file;
+extern const QString english_frequency_file;
+extern const QString hungarian_frequency_file;

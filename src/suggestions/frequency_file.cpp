@@ -2,8 +2,6 @@
 
 #include <QtEndian>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr QByteArrayView magic("ZIMGYK1\0", 8);
@@ -12,10 +10,6 @@ constexpr qsizetype header = 16;
 }  // namespace
 
 namespace gyakoriságfájl {
-
-QString neve(const QString &szótárfájl) {
-    return szótárfájl.section(u'.', 0, -2) + u".gyk"_s;
-}
 
 QByteArray fájlja(QByteArrayView szótár, const QByteArray &gyakoriságok) {
     QByteArray file = magic.toByteArray();

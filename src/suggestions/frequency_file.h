@@ -14,9 +14,6 @@
 //                   to 255
 namespace gyakoriságfájl {
 
-/// "am.gyk" for "am.txt".
-[[nodiscard]] QString neve(const QString &szótárfájl);
-
 [[nodiscard]] QByteArray fájlja(QByteArrayView szótár, const QByteArray &gyakoriságok);
 
 /// What it holds for each line; nothing when it is damaged or was made of another dictionary.

@@ -88,7 +88,7 @@ struct címszólista::belső {
             missing.append(failure->sentence);
             return;
         }
-        const QString frequency_name = gyakoriságfájl::neve(name);
+        const QString frequency_name = language == nyelv::angol ? english_frequency_file : hungarian_frequency_file;
         const FileContent frequencies = files::read_whole(in.filePath(frequency_name));
         if (const auto *failure = std::get_if<Failure>(&frequencies))
             missing.append(failure->sentence);

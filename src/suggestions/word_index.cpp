@@ -128,13 +128,12 @@ szómutató::szómutató(const QString &programkönyvtár) {
             missing_.append(files::cannot_read(path, files::reason_not_readable(path)).sentence);
         return source;
     };
-    const QString name = u"szavak.idx"_s;
     english_ = opened(english_hungarian_file);
     hungarian_ = opened(hungarian_english_file);
-    index_ = opened(name);
+    index_ = opened(word_index_file);
     if (!missing_.isEmpty())
         return;
-    if (!load(folder.filePath(name), ujjlenyomat(bytes_of(*english_)), ujjlenyomat(bytes_of(*hungarian_)))) {
+    if (!load(folder.filePath(word_index_file), ujjlenyomat(bytes_of(*english_)), ujjlenyomat(bytes_of(*hungarian_)))) {
         words_ = 0;
         pairs_ = 0;
     }

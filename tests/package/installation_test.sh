@@ -68,7 +68,7 @@ do_the_main_job() {
 
 find_what_is_installed_with_it() {
     local name
-    for name in am.txt ma.txt; do
+    for name in am.txt ma.txt szavak.idx am.gyk ma.gyk; do
         [[ -s $root/usr/share/zimbora/$name &&
             $(readlink "$root$own_folder/$name") == "/usr/share/zimbora/$name" ]] ||
             fail "The dictionary $name is not in the program folder."

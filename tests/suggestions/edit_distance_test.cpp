@@ -155,9 +155,10 @@ TEST(EditDistance, is_that_of_the_plain_matrix_within_every_bound) {
                 const int plain = plain_distance(text, word, language);
                 for (const int bound : {0, 7, 13, 20, 24, 1000}) {
                     const int found = eltérésmérő(text, language).mér(word, bound);
-                    ASSERT_EQ(found <= bound, plain <= bound) << text.toHex() << ' ' << word.toHex() << ' ' << bound;
+                    ASSERT_EQ(found <= bound, plain <= bound)
+                        << text.toHex().toStdString() << ' ' << word.toHex().toStdString() << ' ' << bound;
                     if (plain <= bound) {
-                        ASSERT_EQ(found, plain) << text.toHex() << ' ' << word.toHex();
+                        ASSERT_EQ(found, plain) << text.toHex().toStdString() << ' ' << word.toHex().toStdString();
                     }
                 }
             }
@@ -177,9 +178,9 @@ TEST(EditDistance, of_words_within_a_bound_changes_no_more_letters_than_their_se
                 continue;
             const int most = eltérésmérő::legnagyobb_többlet(bound);
             ASSERT_LE(betűk::többlet(betűk::halmaza(text), betűk::halmaza(word)), most)
-                << text.toHex() << ' ' << word.toHex();
+                << text.toHex().toStdString() << ' ' << word.toHex().toStdString();
             ASSERT_LE(betűk::többlet(betűk::halmaza(word), betűk::halmaza(text)), most)
-                << text.toHex() << ' ' << word.toHex();
+                << text.toHex().toStdString() << ' ' << word.toHex().toStdString();
         }
     }
 }

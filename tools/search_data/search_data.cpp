@@ -11,8 +11,6 @@
 #include "state/program_folder.h"
 #include "suggestions/frequency_file.h"
 
-using namespace Qt::StringLiterals;
-
 namespace search_data {
 namespace {
 
@@ -69,12 +67,12 @@ std::optional<Failure> make(const Folders &folders) {
     const QByteArray of_english = english_frequencies(english_lines, classes, net);
     const QByteArray of_hungarian = hungarian_frequencies(lines_of(hungarian), english_lines, of_english);
     if (auto failure =
-            write(program, gyakoriságfájl::neve(english_hungarian_file), gyakoriságfájl::fájlja(english, of_english)))
+            write(program, english_frequency_file, gyakoriságfájl::fájlja(english, of_english)))
         return failure;
-    if (auto failure = write(program, gyakoriságfájl::neve(hungarian_english_file),
+    if (auto failure = write(program, hungarian_frequency_file,
                              gyakoriságfájl::fájlja(hungarian, of_hungarian)))
         return failure;
-    return write(program, u"szavak.idx"_s, word_index(english, hungarian, {}));
+    return write(program, word_index_file, word_index(english, hungarian, {}));
 }
 
 }  // namespace search_data
