@@ -33,6 +33,7 @@ class SuggestionTables : public testing::Test {
         const auto found = static_cast<double>(table.size() - missed.size()) / static_cast<double>(table.size());
         EXPECT_GE(found, least) << missed.join(u'\n').toStdString();
         RecordProperty("found", std::to_string(found));
+        RecordProperty("missed", missed.join(u'\n').toStdString());
     }
 
   private:
