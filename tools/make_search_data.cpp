@@ -1,6 +1,7 @@
 // zimbora-index: makes what the search for what was meant needs of the dictionaries in a program folder: the index of
 // their words and the frequencies of their headwords.
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QStringList>
@@ -14,6 +15,8 @@
 using namespace Qt::StringLiterals;
 
 int main(int count, char *values[]) {
+    // The library of Hungarian forms is looked for beside the executable.
+    const QCoreApplication application(count, values);
     constexpr int called_wrongly = 2;
     QStringList arguments;
     for (int i = 1; i < count; ++i)

@@ -76,6 +76,7 @@ struct címszólista::belső {
     nyelv language;
     std::once_flag once;
     std::array<Group, leghosszabb + 1> groups;
+    QStringList with_forms;
     QStringList missing;
 
     belső(QString where, nyelv which) : folder(std::move(where)), language(which) {}
@@ -123,7 +124,7 @@ struct címszólista::belső {
         }
     }
 
-    void add(QByteArrayView line, std::uint8_t frequency, std::array<std::vector<Read>, leghosszabb + 1> &read) const {
+    void add(QByteArrayView line, std::uint8_t frequency, std::array<std::vector<Read>, leghosszabb + 1> &read) {
         const qsizetype colon = line.indexOf(':');
         if (colon <= 0)
             return;
@@ -132,6 +133,8 @@ struct címszólista::belső {
         const QByteArrayView key = without_further_forms(english_verb ? keresőkulcs(headword) : headword, language);
         if (key.isEmpty() || key.size() > leghosszabb)
             return;
+        if (headword.contains(", ") && language == nyelv::angol)
+            with_forms.append(code_page::decode(headword));
         const bool verb = language == nyelv::angol ? english_verb : line.sliced(colon + 1).startsWith("to ");
         read[static_cast<size_t>(key.size())].push_back({key, verb, frequency});
     }
@@ -201,6 +204,16 @@ bool címszólista::van(QStringView címszó) {
 int címszólista::gyakoriság(QStringView címszó) {
     const auto found = item(*this, belső_->language, címszó);
     return found ? found->gyakoriság : 0;
+}
+
+QStringList címszólista::alakosak() {
+    return betöltve().with_forms;
+}
+
+címszókérdések címszólista::kérdések() {
+    return {.van = [this](QStringView headword) { return van(headword); },
+            .gyakoriság = [this](QStringView headword) { return gyakoriság(headword); },
+            .alakosak = [this] { return alakosak(); }};
 }
 
 QStringList címszólista::hiányok() {

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "forms/form_reader.h"
 #include "suggestions/letter_sets.h"
 
 /// All headwords of a dictionary and how common they are, in some 20 bytes each: their letters in the program's code
@@ -31,6 +32,11 @@ class címszólista final {
     [[nodiscard]] int gyakoriság(QStringView címszó);
     /// What is missing or damaged, each a sentence for the user that names the file.
     [[nodiscard]] QStringList hiányok();
+
+    /// The English headwords that bring their forms, whole: "to go, went, gone".
+    [[nodiscard]] QStringList alakosak();
+    /// What an analyser asks about these headwords; this object must outlive it.
+    [[nodiscard]] címszókérdések kérdések();
 
     /// One headword.
     struct tétel {

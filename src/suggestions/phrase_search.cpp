@@ -114,12 +114,18 @@ struct kifejezéskereső::belső {
         }
     }
 
+    void add_with_forms(Answers &answers, std::uint32_t number) {
+        add_whole(answers, other_form, number);
+        for (const std::uint32_t form : index->alakjai(number))
+            add_whole(answers, other_form, form);
+    }
+
     /// Words that are written so but for their accents.
     void add_accented(Answers &answers) {
         for (std::uint32_t i = 0; i < index->szavak(); ++i) {
             const QByteArrayView word = index->szó(i);
             if (word.size() == answers.word.size() && bare(word) == answers.word)
-                add_whole(answers, other_form, i);
+                add_with_forms(answers, i);
         }
     }
 
@@ -135,9 +141,7 @@ struct kifejezéskereső::belső {
             const auto number = index->keres(base);
             if (!number)
                 continue;
-            add_whole(answers, other_form, *number);
-            for (const std::uint32_t form : index->alakjai(*number))
-                add_whole(answers, other_form, form);
+            add_with_forms(answers, *number);
         }
         for (auto &pairs : answers.pairs) {
             if (!pairs)

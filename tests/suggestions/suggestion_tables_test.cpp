@@ -3,19 +3,17 @@
 #include <algorithm>
 
 #include "dictionary/dictionary_search.h"
-#include "suggestions/suggester.h"
+#include "support/real_suggestions.h"
 #include "support/suggestion_tables.h"
-#include "support/test_places.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The real dictionaries, without analysis of forms.
 class SuggestionTables : public testing::Test {
   protected:
     [[nodiscard]] bool leads_to(const TableLine &line, bool from_english) {
-        const ajánlás answer = suggester_.ajánl({line.text, from_english}, [] { return false; });
+        const ajánlás answer = all_.suggester.ajánl({line.text, from_english}, [] { return false; });
         return std::ranges::any_of(answer.ajánlatok, [&](const ajánlat &offer) {
             return offer.angolról == from_english &&
                    (offer.címszó == line.wanted || (from_english && keresőkulcs(offer.címszó) == line.wanted));
@@ -37,9 +35,7 @@ class SuggestionTables : public testing::Test {
     }
 
   private:
-    címszólista english_{test_places::program(), címszólista::nyelv::angol};
-    címszólista hungarian_{test_places::program(), címszólista::nyelv::magyar};
-    ajánló suggester_{{.angol_címszavak = english_, .magyar_címszavak = hungarian_}};
+    RealSuggestions all_;
 };
 
 TEST_F(SuggestionTables, have_the_right_english_word_for_95_of_100_misspelt_ones) {

@@ -21,12 +21,6 @@ class WorkerThread : public testing::Test {
         }
         return condition();
     }
-
-  private:
-    int count_ = 1;
-    char name_[5] = "test";
-    char *arguments_[1] = {name_};
-    QCoreApplication application_{count_, arguments_};
 };
 
 TEST_F(WorkerThread, works_elsewhere_and_tells_the_window_on_its_thread) {

@@ -11,7 +11,7 @@ namespace search_data {
 struct Folders {
     QString wordnet;
     QString scowl;
-    /// With the dictionaries; the files are written here.
+    /// With the dictionaries and what explains forms; the files are written here.
     QString program;
 };
 
