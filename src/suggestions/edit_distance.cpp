@@ -110,12 +110,13 @@ int alone(QByteArrayView text, qsizetype i) {
     return i == 0 ? betű + elöl : betű;
 }
 
-bool is_ly(QByteArrayView text, qsizetype end) {
-    return end >= 2 && betűk::kicsi(text[end - 2]) == 'l' && betűk::kicsi(text[end - 1]) == 'y';
-}
-
-bool is_j(QByteArrayView text, qsizetype end) {
-    return end >= 1 && betűk::kicsi(text[end - 1]) == 'j';
+/// True when `two` stands in the first text before its end and `one`, which sounds the same, in the second one.
+bool same_sound(QByteArrayView first, qsizetype first_end, QByteArrayView second, qsizetype second_end,
+                bool hungarian) {
+    const QByteArrayView two = hungarian ? "ly" : "ph";
+    const char one = hungarian ? 'j' : 'f';
+    return first_end >= 2 && second_end >= 1 && betűk::kicsi(second[second_end - 1]) == one &&
+           betűk::kicsi(first[first_end - 2]) == two[0] && betűk::kicsi(first[first_end - 1]) == two[1];
 }
 
 }  // namespace
@@ -152,10 +153,10 @@ int eltérésmérő::lépés(const rács &eddig, QByteArrayView szó, qsizetype 
         if (crossed < hasonló)
             best = std::min(best, eddig.at(i - 2, j - 2) + csere + crossed);
     }
-    if (magyar_ && i >= 2 && is_ly(szöveg_, i) && is_j(szó, j))
-        best = std::min(best, eddig.at(i - 2, j - 1) + ly);
-    if (magyar_ && j >= 2 && is_j(szöveg_, i) && is_ly(szó, j))
-        best = std::min(best, eddig.at(i - 1, j - 2) + ly);
+    if (same_sound(szöveg_, i, szó, j, magyar_))
+        best = std::min(best, eddig.at(i - 2, j - 1) + hangjel);
+    if (same_sound(szó, j, szöveg_, i, magyar_))
+        best = std::min(best, eddig.at(i - 1, j - 2) + hangjel);
     return best;
 }
 
@@ -194,10 +195,10 @@ int eltérésmérő::mér(QByteArrayView szó, int határ) const {
 
 int eltérésmérő::szokásos_határ() const {
     const auto letters = std::ranges::count_if(szöveg_, [](char byte) { return betűk::szóé(byte); });
-    constexpr std::array<int, 8> bounds{0, 0, 0, betű, ly, 17, 2 * betű, 2 * betű + 2};
+    constexpr std::array<int, 8> bounds{0, 0, kettőzés, betű, hangjel, 17, 2 * betű, 2 * betű + 2};
     return letters < static_cast<qsizetype>(bounds.size()) ? bounds[static_cast<size_t>(letters)] : 2 * betű + hangzás;
 }
 
 int eltérésmérő::legnagyobb_többlet(int határ) {
-    return határ >= ly ? std::max(határ / kettőzés, 2) : határ / kettőzés;
+    return határ >= hangjel ? std::max(határ / kettőzés, 2) : határ / kettőzés;
 }

@@ -17,8 +17,8 @@ inline constexpr int betű = 10;
 inline constexpr int hasonló = 9;
 inline constexpr int csere = 8;
 inline constexpr int kettőzés = 7;
-/// "ly" for "j" or the other way round, which sound the same.
-inline constexpr int ly = 13;
+/// Two letters for one that sounds the same, or the other way round: Hungarian "ly" and "j", English "ph" and "f".
+inline constexpr int hangjel = 13;
 /// A blank, a hyphen, an apostrophe, a full stop too many or too few.
 inline constexpr int mellékes = 4;
 /// Besides, where the first letter is another one, missing or too many.

@@ -71,6 +71,12 @@ QChar usual(QChar character) {
     return character;
 }
 
+/// A letter that the code page lacks without its accent: "naive" for "naïve".
+QChar in_code_page(QChar character) {
+    const QString parts = code_page::encode_as_it_is(QString(character)) ? QString() : character.decomposition();
+    return parts.isEmpty() || !parts.front().isLetter() ? character : parts.front();
+}
+
 }  // namespace
 
 std::uint8_t alap(char byte) {
@@ -109,7 +115,7 @@ std::optional<QByteArray> kódolva(const QString &szöveg) {
     QString text = szöveg.normalized(QString::NormalizationForm_C).simplified();
     text.remove(QChar(0xad));
     for (QChar &character : text)
-        character = usual(character);
+        character = in_code_page(usual(character));
     return code_page::encode_as_it_is(text);
 }
 

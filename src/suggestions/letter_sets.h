@@ -36,7 +36,8 @@ inline constexpr std::uint8_t egyéb = 26;
 }
 
 /// The bytes of a text that a person typed or copied: accents joined, õ and û as ő and ű, curly apostrophes straight,
-/// dashes as hyphens, blanks single and none at the ends. Nothing when it has characters that the code page lacks.
+/// dashes as hyphens, blanks single and none at the ends, letters that the code page lacks without their accents.
+/// Nothing when it has other characters that the code page lacks.
 [[nodiscard]] std::optional<QByteArray> kódolva(const QString &szöveg);
 
 }  // namespace betűk

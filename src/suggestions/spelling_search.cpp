@@ -48,10 +48,43 @@ void add(QVector<közelítés> &found, const címszólista::tétel &item, int co
         {.kulcs = item.kulcs.toByteArray(), .csak_ige = item.ige, .gyakoriság = item.gyakoriság, .költség = cost});
 }
 
+/// The text with "ly" for one of its "j" or the other way round, which sound the same: the usual slip in Hungarian.
+QVector<QByteArray> heard_alike(const QByteArray &text) {
+    QVector<QByteArray> variants;
+    const auto replaced = [&](qsizetype at, qsizetype length, const char *by) {
+        QByteArray variant = text;
+        variants.append(variant.replace(at, length, by));
+    };
+    for (qsizetype i = 0; i < text.size() && variants.size() < 4; ++i) {
+        if (betűk::kicsi(text[i]) == 'j')
+            replaced(i, 1, "ly");
+        else if (betűk::kicsi(text[i]) == 'l' && i + 1 < text.size() && betűk::kicsi(text[i + 1]) == 'y')
+            replaced(i, 2, "j");
+    }
+    return variants;
+}
+
 void sort_by_value(QVector<közelítés> &found, int weight_of_cost) {
     for (közelítés &one : found)
         one.érték = weight_of_cost * one.költség - one.gyakoriság;
     std::ranges::stable_sort(found, {}, &közelítés::érték);
+}
+
+/// Headwords of the letters of a text that sounds like what was typed; one that was found by its letters costs less
+/// now.
+void add_same_letters(QVector<közelítés> &found, címszólista &headwords, const QByteArray &text,
+                      címszólista::nyelv language) {
+    const auto group = headwords.csoport(text.size());
+    const betűhalmaz set = betűk::halmaza(text);
+    const QByteArray letters = bare(text);
+    const eltérésmérő distance(text, language);
+    for (qsizetype i = 0; i < group.darab(); ++i) {
+        if (group.halmazok[i] != set || bare(group.elem(i).kulcs) != letters)
+            continue;
+        const auto item = group.elem(i);
+        found.removeIf([&](const közelítés &other) { return other.kulcs == item.kulcs; });
+        add(found, item, eltérésköltség::elöl + distance.mér(item.kulcs, no_bound));
+    }
 }
 
 }  // namespace
@@ -95,6 +128,10 @@ QVector<közelítés> elírások(címszólista &címszavak, címszólista::nyelv
             if (cost <= bound && bare(item.kulcs) != letters)
                 add(found, item, cost);
         });
+    if (nyelv == címszólista::nyelv::magyar) {
+        for (const QByteArray &variant : heard_alike(szöveg))
+            add_same_letters(found, címszavak, variant, nyelv);
+    }
     constexpr int weight_of_cost = 16;
     sort_by_value(found, weight_of_cost);
     if (found.size() > legfeljebb)

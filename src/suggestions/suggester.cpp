@@ -114,12 +114,15 @@ class Question final {
 
     /// All kinds but slips.
     void ask(const Side &side, Offers &offers) const {
+        bool found = false;
         for (const QString &text : {text_, without_article(text_, side.from_english)}) {
-            if (out_of_date_() || !offers.empty())
+            if (out_of_date_() || found)
                 break;
+            const qsizetype before = offers.all().size();
             add_forms(text, side, offers);
             if (!out_of_date_())
                 add_spellings(text, side, offers);
+            found = offers.all().size() > before;
         }
         if (!out_of_date_())
             add_units(side, offers);
@@ -222,6 +225,8 @@ ajánlás ajánló::ajánl(const ajánlókérdés &kérdés, const std::function
     const Question question(text, elavult);
     const bool known = !exact_headword(text, own).isEmpty();
     Offers offers;
+    if (known && text != kérdés.szöveg)
+        offers.add_headword(ajánlatfajta::írásmód, exact_headword(text, own), own.from_english);
     question.ask(own, offers);
     const bool found = known || !offers.empty();
     if (!found)

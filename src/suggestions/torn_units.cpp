@@ -250,14 +250,15 @@ class HungarianSearch final {
 
     bool joined(qsizetype verb, qsizetype preverb) {
         const auto fits = [](const QString &text) { return !text.contains(u' '); };
+        bool any = false;
         for (const QString &base : bases_of(words_[verb], forms_, fits)) {
             const QString headword = hungarian_unit(headwords_, words_[preverb].kicsi, base);
-            if (!headword.isEmpty()) {
-                add(found_, headword);
-                return true;
-            }
+            if (headword.isEmpty())
+                continue;
+            add(found_, headword);
+            any = true;
         }
-        return false;
+        return any;
     }
 
     QVector<szövegszó> words_;
