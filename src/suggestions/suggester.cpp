@@ -114,15 +114,15 @@ class Question final {
 
     /// All kinds but slips.
     void ask(const Side &side, Offers &offers) const {
-        bool found = false;
-        for (const QString &text : {text_, without_article(text_, side.from_english)}) {
-            if (out_of_date_() || found)
+        const qsizetype before = offers.all().size();
+        QStringList texts{text_, without_article(text_, side.from_english)};
+        texts.removeDuplicates();
+        for (const QString &text : texts) {
+            if (out_of_date_() || offers.all().size() > before)
                 break;
-            const qsizetype before = offers.all().size();
             add_forms(text, side, offers);
             if (!out_of_date_())
                 add_spellings(text, side, offers);
-            found = offers.all().size() > before;
         }
         if (!out_of_date_())
             add_units(side, offers);
