@@ -48,18 +48,22 @@ void add(QVector<közelítés> &found, const címszólista::tétel &item, int co
         {.kulcs = item.kulcs.toByteArray(), .csak_ige = item.ige, .gyakoriság = item.gyakoriság, .költség = cost});
 }
 
-/// The text with "ly" for one of its "j" or the other way round, which sound the same: the usual slip in Hungarian.
-QVector<QByteArray> heard_alike(const QByteArray &text) {
+/// The text with "ly" for one of its "j" or the other way round, which sound the same: the usual slip in Hungarian; in
+/// English with "ph" for "f".
+QVector<QByteArray> heard_alike(const QByteArray &text, címszólista::nyelv language) {
+    const bool hungarian = language == címszólista::nyelv::magyar;
+    const QByteArray two = hungarian ? "ly" : "ph";
+    const QByteArray one = hungarian ? "j" : "f";
     QVector<QByteArray> variants;
-    const auto replaced = [&](qsizetype at, qsizetype length, const char *by) {
+    const auto replaced = [&](qsizetype at, qsizetype length, const QByteArray &by) {
         QByteArray variant = text;
         variants.append(variant.replace(at, length, by));
     };
     for (qsizetype i = 0; i < text.size() && variants.size() < 4; ++i) {
-        if (betűk::kicsi(text[i]) == 'j')
-            replaced(i, 1, "ly");
-        else if (betűk::kicsi(text[i]) == 'l' && i + 1 < text.size() && betűk::kicsi(text[i + 1]) == 'y')
-            replaced(i, 2, "j");
+        if (betűk::kicsi(text[i]) == one.front())
+            replaced(i, 1, two);
+        else if (i + 1 < text.size() && betűk::kicsi(text[i]) == two.front() && betűk::kicsi(text[i + 1]) == two.back())
+            replaced(i, 2, one);
     }
     return variants;
 }
@@ -128,10 +132,8 @@ QVector<közelítés> elírások(címszólista &címszavak, címszólista::nyelv
             if (cost <= bound && bare(item.kulcs) != letters)
                 add(found, item, cost);
         });
-    if (nyelv == címszólista::nyelv::magyar) {
-        for (const QByteArray &variant : heard_alike(szöveg))
-            add_same_letters(found, címszavak, variant, nyelv);
-    }
+    for (const QByteArray &variant : heard_alike(szöveg, nyelv))
+        add_same_letters(found, címszavak, variant, nyelv);
     constexpr int weight_of_cost = 16;
     sort_by_value(found, weight_of_cost);
     if (found.size() > legfeljebb)

@@ -174,6 +174,10 @@ class Question final {
         const auto bytes = betűk::kódolva(text);
         if (!bytes)
             return;
+        // Letters that the dictionaries do not have: õ for ő, ï for i.
+        const QString usual = code_page::decode(*bytes);
+        if (const QString headword = exact_headword(usual, side); usual != text && !headword.isEmpty())
+            offers.add_headword(ajánlatfajta::írásmód, headword, side.from_english);
         for (const közelítés &near : íráskereső::írásmódok(side.headwords, side.language(), *bytes, out_of_date_)) {
             if (offers.count(ajánlatfajta::írásmód) < ajánló::legtöbb)
                 offers.add_headword(ajánlatfajta::írásmód, headword_of(near, side), side.from_english);

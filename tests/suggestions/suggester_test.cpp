@@ -52,6 +52,7 @@ TEST_F(Suggester, finds_other_capitals_accents_and_hyphens) {
     EXPECT_EQ(headwords(u"huto"_s, false), QStringList{u"hűtő"_s});
     EXPECT_THAT(headwords(u"tor"_s, false).first(2), testing::UnorderedElementsAre(u"tör"_s, u"tőr"_s));
     EXPECT_EQ(headwords(u"„hűtő”."_s, false), QStringList{u"hűtő"_s});
+    EXPECT_EQ(headwords(u"hûtõ"_s, false), QStringList{u"hűtő"_s});
     EXPECT_EQ(headwords(u"icecream"_s), QStringList{u"ice-cream"_s});
     EXPECT_EQ(headwords(u"color"_s), QStringList{u"colour"_s});
 }
