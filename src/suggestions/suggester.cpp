@@ -4,6 +4,7 @@
 
 #include "dictionary/dictionary_search.h"
 #include "platform/code_page.h"
+#include "suggestions/accentless_forms.h"
 #include "suggestions/spelling_search.h"
 #include "suggestions/spelling_variants.h"
 #include "suggestions/text_words.h"
@@ -112,8 +113,8 @@ class Question final {
     Question(QString text, const std::function<bool()> &out_of_date)
         : text_(std::move(text)), out_of_date_(out_of_date) {}
 
-    /// All kinds but slips.
-    void ask(const Side &side, Offers &offers) const {
+    /// All kinds but slips. `own`: the text was asked about in this language.
+    void ask(const Side &side, bool own, Offers &offers) const {
         const qsizetype before = offers.all().size();
         QStringList texts{text_, without_article(text_, side.from_english)};
         texts.removeDuplicates();
@@ -124,6 +125,8 @@ class Question final {
             if (!out_of_date_())
                 add_spellings(text, side, offers);
         }
+        if (own && !out_of_date_() && !is_likely(side, offers))
+            add_accentless_forms(side, offers);
         if (!out_of_date_())
             add_units(side, offers);
     }
@@ -152,7 +155,7 @@ class Question final {
     void ask_forms_too(const Side &side, Offers &offers) const {
         const bool known = !offers.empty();
         Offers more;
-        ask(side, more);
+        ask(side, false, more);
         for (const ajánlat &offer : more.all()) {
             if (!known || offer.fajta == ajánlatfajta::alak)
                 offers.add(offer);
@@ -168,6 +171,22 @@ class Question final {
             if (!itself_only)
                 offers.add(explained(text, reading, side));
         }
+    }
+
+    /// True when one of the offers is a word that people use.
+    static bool is_likely(const Side &side, const Offers &offers) {
+        constexpr int usual = 110;
+        return std::ranges::any_of(offers.all(), [&](const ajánlat &offer) {
+            return offer.angolról == side.from_english && side.headwords.gyakoriság(offer.címszó) >= usual;
+        });
+    }
+
+    /// "hazaimban", typed where there is no á.
+    void add_accentless_forms(const Side &side, Offers &offers) const {
+        if (side.from_english || !side.forms || !exact_headword(text_, side).isEmpty())
+            return;
+        for (const QString &form : ékezetes_alakok(text_, side.headwords, *side.forms, out_of_date_))
+            add_forms(form, side, offers);
     }
 
     void add_spellings(const QString &text, const Side &side, Offers &offers) const {
@@ -231,7 +250,7 @@ ajánlás ajánló::ajánl(const ajánlókérdés &kérdés, const std::function
     Offers offers;
     if (known && text != kérdés.szöveg)
         offers.add_headword(ajánlatfajta::írásmód, exact_headword(text, own), own.from_english);
-    question.ask(own, offers);
+    question.ask(own, true, offers);
     const bool found = known || !offers.empty();
     if (!found)
         question.ask_other(other, offers);
