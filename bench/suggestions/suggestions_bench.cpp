@@ -10,9 +10,9 @@
 #include <string>
 
 #include "forms/english_forms.h"
-#include "forms/form_data.h"
 #include "forms/hungarian_forms.h"
 #include "print/peak_memory.h"
+#include "state/program_folder.h"
 #include "suggestions/fts_phrases.h"
 #include "suggestions/spelling_search.h"
 #include "suggestions/suggester.h"
@@ -35,8 +35,8 @@ bool never() {
 struct All {
     címszólista english{staged_program(), címszólista::nyelv::angol};
     címszólista hungarian{staged_program(), címszólista::nyelv::magyar};
-    angol_alakelemző english_forms{staged_program() + u'/' + alakok_mappája, english.kérdések()};
-    magyar_alakelemző hungarian_forms{staged_program() + u'/' + alakok_mappája, hungarian.kérdések()};
+    angol_alakelemző english_forms{staged_program() + u'/' + form_data_folder, english.kérdések()};
+    magyar_alakelemző hungarian_forms{staged_program() + u'/' + form_data_folder, hungarian.kérdések()};
     kifejezéskereső phrases{staged_program(), {.angol = &english_forms, .magyar = &hungarian_forms}};
     ajánló suggester{{.angol_címszavak = english,
                       .magyar_címszavak = hungarian,

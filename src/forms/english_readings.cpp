@@ -31,6 +31,15 @@ bool kettőzött(const QString &szó) {
     return hossz > legrövidebb_tő && szó.at(hossz - 1) == szó.at(hossz - 2) && mássalhangzó(szó.back());
 }
 
+/// One syllable that ends in a vowel and a consonant: such a stem doubles its last letter, so "hoped" is not of "hop".
+bool kettőzne(const QString &tő) {
+    const auto magánhangzó = [](QChar betű) { return QStringView(u"aeiou").contains(betű); };
+    const qsizetype hossz = tő.size();
+    if (hossz < legrövidebb_tő || std::ranges::count_if(tő, magánhangzó) != 1)
+        return false;
+    return magánhangzó(tő.at(hossz - 2)) && mássalhangzó(tő.back()) && !QStringView(u"wxy").contains(tő.back());
+}
+
 /// The stems that may have taken the ending: "mak-" is "make" or "mak", "stopp-" is "stop", too.
 QStringList tövek(const QString &alak, QStringView vég) {
     if (!alak.endsWith(vég))
@@ -38,7 +47,9 @@ QStringList tövek(const QString &alak, QStringView vég) {
     const QString tő = alak.chopped(vég.size());
     if (tő.size() + 1 < legrövidebb_tő)
         return {};
-    QStringList mind{tő, tő + u'e'};
+    QStringList mind{tő + u'e'};
+    if (!kettőzne(tő))
+        mind.prepend(tő);
     if (tő.endsWith(u'i'))
         mind.prepend(tő.chopped(1) + u'y');
     if (kettőzött(tő))
@@ -64,6 +75,38 @@ QStringList s_nélkül(const QString &alak) {
     return mind;
 }
 
+/// Plurals that came with the word from Latin and Greek.
+QStringList idegen_többes_alapjai(const QString &alak) {
+    static constexpr végződés végek[] = {
+        {u"a", u"um"}, {u"a", u"on"}, {u"i", u"us"}, {u"ae", u"a"}, {u"ices", u"ex"}, {u"ices", u"ix"}, {u"es", u"is"},
+    };
+    QStringList mind;
+    for (const auto &[vég, alap] : végek) {
+        if (alak.endsWith(vég))
+            mind.append(alak.chopped(vég.size()) + alap.toString());
+    }
+    return mind;
+}
+
+/// Degrees that WordNet takes for words of their own.
+QStringList fok_alapjai(const QString &alak) {
+    static const QHash<QString, QStringList> tábla{
+        {u"farther"_s, {u"far"_s}},
+        {u"farthest"_s, {u"far"_s}},
+        {u"further"_s, {u"far"_s}},
+        {u"furthest"_s, {u"far"_s}},
+        {u"elder"_s, {u"old"_s}},
+        {u"eldest"_s, {u"old"_s}},
+        {u"less"_s, {u"little"_s}},
+        {u"least"_s, {u"little"_s}},
+        {u"more"_s, {u"much"_s, u"many"_s}},
+        {u"most"_s, {u"much"_s, u"many"_s}},
+        {u"worse"_s, {u"bad"_s, u"badly"_s}},
+        {u"worst"_s, {u"bad"_s, u"badly"_s}},
+    };
+    return tábla.value(alak);
+}
+
 bool igenévi(const QString &alak) {
     return alak.endsWith(u'n') || alak.endsWith(u"ne");
 }
@@ -87,6 +130,7 @@ std::vector<olvasat> angol_olvasatkészítő::olvasatok() {
     igét_olvas();
     melléknevet_olvas();
     önmagát_felveszi();
+    bizonytalanokat_jelöl();
     std::ranges::stable_sort(jelöltek_, [](const jelölt &egyik, const jelölt &másik) {
         return egyik.mennyire != másik.mennyire ? egyik.mennyire < másik.mennyire : egyik.gyakoriság > másik.gyakoriság;
     });
@@ -94,6 +138,22 @@ std::vector<olvasat> angol_olvasatkészítő::olvasatok() {
     for (jelölt &egy : jelöltek_)
         sorban.push_back(std::move(egy.mit));
     return sorban;
+}
+
+void angol_olvasatkészítő::bizonytalanokat_jelöl() {
+    const auto ismert = [](const jelölt &egy) { return egy.gyakoriság >= 0; };
+    const auto ritka = [&](const jelölt &egy) { return egy.mennyire == bizonyosság::szabályos && !ismert(egy); };
+    // Beside an irregular form a rare word is a coincidence: "lying" is not of "to lye".
+    if (std::ranges::any_of(jelöltek_, [](const jelölt &egy) { return egy.mennyire == bizonyosság::rendhagyó; })) {
+        std::erase_if(jelöltek_, ritka);
+        return;
+    }
+    if (std::ranges::none_of(jelöltek_, ismert))
+        return;
+    for (jelölt &egy : jelöltek_) {
+        if (ritka(egy))
+            egy.mennyire = bizonyosság::bizonytalan;
+    }
 }
 
 void angol_olvasatkészítő::összevonást_olvas() {
@@ -106,24 +166,37 @@ void angol_olvasatkészítő::összevonást_olvas() {
 void angol_olvasatkészítő::birtokost_olvas() {
     if (alak_.endsWith(u"'s")) {
         const QString tő = alak_.chopped(2);
-        for (const QString &egyes : adatok_.alapalakok(angol_szófaj::főnév, tő)) {
+        for (const QString &egyes : rendhagyó_többes_alapjai(tő))
             főnév(egyes, english::többes_szám + u", "_s + english::birtokos_eset, bizonyosság::összevonás);
-        }
         főnév(tő, english::birtokos_eset, bizonyosság::rendhagyó);
     } else if (alak_.endsWith(u"s'")) {
         const QString többes = alak_.chopped(1);
-        for (const QString &egyes : s_nélkül(többes) + adatok_.alapalakok(angol_szófaj::főnév, többes))
+        for (const QString &egyes : s_nélkül(többes) + rendhagyó_többes_alapjai(többes))
             főnév(egyes, english::többes_birtokos, bizonyosság::szabályos);
         főnév(többes, english::birtokos_eset, bizonyosság::bizonytalan);
     }
 }
 
-void angol_olvasatkészítő::rendhagyót_olvas() {
-    for (const QString &tő : adatok_.alapalakok(angol_szófaj::főnév, alak_))
-        főnév(tő, english::többes_szám, bizonyosság::rendhagyó);
+QStringList angol_olvasatkészítő::rendhagyó_többes_alapjai(const QString &többes) const {
+    QStringList mind = adatok_.alapalakok(angol_szófaj::főnév, többes);
     // "policemen", "Englishmen"
-    if (alak_.endsWith(u"men") && alak_.size() > legrövidebb_tő)
-        főnév(alak_.chopped(3) + u"man"_s, english::többes_szám, bizonyosság::rendhagyó);
+    if (többes.endsWith(u"men") && többes.size() >= legrövidebb_tő)
+        mind.append(többes.chopped(3) + u"man"_s);
+    mind.removeDuplicates();
+    return mind;
+}
+
+void angol_olvasatkészítő::rendhagyót_olvas() {
+    const QStringList szabályosak = s_nélkül(alak_);
+    for (const QString &tő : rendhagyó_többes_alapjai(alak_)) {
+        // WordNet lists what the rules tell, too.
+        const bool szabályos = szabályosak.contains(tő);
+        főnév(tő, english::többes_szám, szabályos ? bizonyosság::szabályos : bizonyosság::rendhagyó);
+    }
+    for (const QString &tő : idegen_többes_alapjai(alak_))
+        főnév(tő, english::többes_szám, bizonyosság::bizonytalan);
+    for (const QString &tő : fok_alapjai(alak_))
+        melléknév(tő, alak_.endsWith(u"st") ? english::felsőfok : english::középfok, bizonyosság::rendhagyó);
     for (const QString &tő : adatok_.alapalakok(angol_szófaj::ige, alak_))
         ige(tő, igealak(tő), bizonyosság::rendhagyó);
     for (const auto szófaj : {angol_szófaj::melléknév, angol_szófaj::határozó}) {

@@ -58,6 +58,8 @@ class angol_olvasatkészítő {
     void igét_olvas();
     void melléknevet_olvas();
     void önmagát_felveszi();
+    void bizonytalanokat_jelöl();
+    [[nodiscard]] QStringList rendhagyó_többes_alapjai(const QString &többes) const;
 
     void főnév(const QString &tő, const QString &magyarázat, bizonyosság mennyire);
     void ige(const QString &tő, const QString &magyarázat, bizonyosság mennyire);

@@ -9,8 +9,6 @@
 
 using namespace Qt::StringLiterals;
 
-const QString alakok_mappája = u"alakok"_s;
-
 namespace {
 
 const QString összegek_fájlja = u"osszegek.txt"_s;

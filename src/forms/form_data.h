@@ -12,6 +12,3 @@
 /// Of these files of the folder `mappa` those that are missing or not what they were made, each a sentence for the
 /// user.
 [[nodiscard]] QStringList hibás_alakfájlok(const QString &mappa, const QStringList &nevek);
-
-/// The folder of the data in the program folder.
-extern const QString alakok_mappája;

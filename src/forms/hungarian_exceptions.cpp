@@ -43,6 +43,7 @@ const QHash<QString, kivétel> &kivételek() {
         {u"ugyanarról"_s, {u"ugyanaz"_s, miről}},
         {u"ugyanerről"_s, {u"ugyanez"_s, miről}},
         {u"ugyanannál"_s, {u"ugyanaz"_s, kinél}},
+        {u"estig"_s, {u"este"_s, meddig}},
         {u"nincsenek"_s, {u"nincs"_s, u"jelen idő, ők, alanyi ragozás"_s}},
         {u"sincsenek"_s, {u"sincs"_s, u"jelen idő, ők, alanyi ragozás"_s}},
         {u"légy"_s, {u"van"_s, u"felszólító mód, te, alanyi ragozás"_s}},

@@ -21,6 +21,9 @@ constexpr int összetétel = 200;
 constexpr int előtaggal = 60;
 constexpr int név = 6;
 constexpr int leggyakoribb = 4;
+constexpr int szokatlan = 6;
+constexpr int ritkább_ige = 1;
+constexpr int képzett_alap = 1;
 /// A form that is a headword, but not as a word of the Hungarian dictionary, stands behind what it is made of.
 constexpr int képzett_önmaga = 30;
 /// What is less likely than the first reading by more than this only confuses.
@@ -65,6 +68,8 @@ int súlya(const QString &címke) {
         súly += régies;
     if (érték.startsWith(u"SUBJ/"))
         súly += felszólítás;
+    if (érték.startsWith(u"bb_"))
+        súly -= leggyakoribb;
     if (képzőcímke(címke))
         súly += képzés;
     return súly;
@@ -77,19 +82,40 @@ int súlyuk(const QStringList &címkék) {
     return összesen;
 }
 
-/// The commonest verbs of all: a past tense of theirs is likelier than a word that is written alike.
+/// The commonest verbs of all: their forms are likelier than words that are written alike.
 bool leggyakoribb_ige(const QString &tő) {
     static const QStringList igék{u"van"_s,  u"megy"_s, u"jön"_s,  u"lesz"_s,  u"tesz"_s,
                                   u"vesz"_s, u"visz"_s, u"hisz"_s, u"eszik"_s, u"iszik"_s};
     return igék.contains(tő);
 }
 
+/// The adjective of "jobban" has the ending of an adverb rather than that of a place, that of "vártunk" is a verb.
+bool melléknévhez_illik(const QString &címke) {
+    static const QStringList ritka{u"is:INE"_s, u"is:SUE"_s};
+    return !ritka.contains(címke) && !címke.startsWith(u"is:POSS_");
+}
+
+/// A verb "-tat" or "-tet" that makes others do something is rarer than the one that it comes from.
+bool műveltető(const elemzés &elemzés) {
+    return elemzés.szófaj == u"vrb" && (elemzés.tő.endsWith(u"tat") || elemzés.tő.endsWith(u"tet"));
+}
+
 int elemzés_súlya(const elemzés &elemzés, const QStringList &címkék) {
     int súly = súlyuk(címkék) + static_cast<int>(elemzés.előtagok.size()) * összetétel;
     if (elemzés.szófaj == u"noun_prs")
         súly += név;
-    const bool múlt = std::ranges::any_of(címkék, [](const QString &c) { return c.startsWith(u"is:PAST_"); });
-    return múlt && leggyakoribb_ige(elemzés.tő) ? súly - leggyakoribb : súly;
+    if (elemzés.szófaj == u"adj" && !std::ranges::all_of(címkék, melléknévhez_illik))
+        súly += szokatlan;
+    if (műveltető(elemzés))
+        súly += ritkább_ige;
+    if (elemzés.szófaj.startsWith(u"noun_pron") || elemzés.szófaj.startsWith(u"noun_ref"))
+        súly -= leggyakoribb;
+    const bool véges = std::ranges::any_of(címkék, [](const QString &c) { return c.contains(u"_INDIC_"); });
+    // "vagy" is hardly ever "you are".
+    const bool vagy = elemzés.tő == u"van" && címkék.contains(u"is:PRES_INDIC_INDEF_SG_2"_s);
+    if (véges && !vagy && elemzés.igekötő.isEmpty() && leggyakoribb_ige(elemzés.tő))
+        súly -= leggyakoribb;
+    return súly;
 }
 
 /// True of "is:SG_1" to "is:PL_3".
@@ -147,7 +173,7 @@ olvasatkészítő::olvasatkészítő(const szóelemző &szóelemző, const címs
 std::vector<olvasat> olvasatkészítő::olvasatok() {
     elemzések_ = elemzései(alak_, szóelemző_);
     if (const auto kivétel = kivételes_olvasat(alak_); kivétel && kérdések_.van(kivétel->alapalak))
-        felvesz(*kivétel, minden_címke);
+        felvesz(*kivétel, -minden_címke);
     for (const elemzés &elemzés : elemzések_)
         elemzést_olvas(elemzés);
     önmagát_felveszi();
@@ -170,8 +196,8 @@ void olvasatkészítő::elemzést_olvas(const elemzés &elemzés) {
         részek->előtag.prepend(elemzés.előtagok.join(QString()));
         választott = alapok.insert(alapok.end(), *std::move(részek));
     }
-    // The form itself is a reading of its own.
-    if (választott->előtag.isEmpty() && címkék->isEmpty() && kisbetűs(választott->tő) == kisbetűs(alak_))
+    // The form itself is a reading of its own, and nothing can be said of another base without an ending.
+    if (választott->előtag.isEmpty() && címkék->isEmpty())
         return;
     int súly = elemzés_súlya(elemzés, *címkék);
     súly += választott->előtag.isEmpty() ? 0 : előtaggal;
@@ -195,7 +221,7 @@ void olvasatkészítő::névmást_olvas(const QStringList &címkék, const QStri
         többi.removeOne(*személy);
     }
     if (kérdések_.van(alapalak) && kisbetűs(alapalak) != kisbetűs(alak_))
-        felvesz({.alapalak = alapalak, .magyarázat = címkék_magyarázata(többi, szófaj)}, súlyuk(többi));
+        felvesz({.alapalak = alapalak, .magyarázat = címkék_magyarázata(többi, szófaj)}, súlyuk(többi) - leggyakoribb);
 }
 
 void olvasatkészítő::képzett_alapot_keres(const elemzés &elemzés, const QStringList &címkék) {
@@ -203,14 +229,22 @@ void olvasatkészítő::képzett_alapot_keres(const elemzés &elemzés, const QS
     if (utolsó == címkék.rend() || utolsó == címkék.rbegin())
         return;
     constexpr qsizetype legrövidebb = 3;
-    const QString szó = kisbetűs(alak_);
+    const QString eleje = elemzés.előtagok.join(QString());
+    const QString szó = kisbetűs(alak_).mid(eleje.size());
     for (qsizetype hossz = szó.size() - 1; hossz >= legrövidebb; --hossz) {
         for (const QString &kezdet : {szó.first(hossz), rövid_végű(szó.first(hossz))}) {
-            const qsizetype képzők = kérdések_.van(kezdet) ? egyező_képzők(kezdet, elemzés, címkék) : 0;
+            const bool egészben = kérdések_.van(eleje + kezdet);
+            const bool címszó = egészben || kérdések_.van(kezdet);
+            const qsizetype képzők = címszó ? egyező_képzők(kezdet, elemzés, címkék) : 0;
             if (képzők == 0)
                 continue;
             const QStringList vége = címkék.sliced(képzők);
-            felvesz({.alapalak = kezdet, .magyarázat = címkék_magyarázata(vége, elemzés.szófaj)}, súlyuk(vége));
+            int súly = súlyuk(vége) + képzett_alap + static_cast<int>(elemzés.előtagok.size()) * összetétel;
+            súly += egészben ? 0 : előtaggal;
+            felvesz({.alapalak = egészben ? eleje + kezdet : kezdet,
+                     .magyarázat = címkék_magyarázata(vége, elemzés.szófaj),
+                     .előtag = egészben ? QString() : eleje},
+                    súly);
             return;
         }
     }
@@ -219,7 +253,7 @@ void olvasatkészítő::képzett_alapot_keres(const elemzés &elemzés, const QS
 qsizetype olvasatkészítő::egyező_képzők(const QString &kezdet, const elemzés &egész, const QStringList &címkék) const {
     for (const elemzés &egy : elemzései(kezdet, szóelemző_)) {
         const auto övéi = beszédes_címkék(egy, kezdet);
-        const bool azonos = egy.tő == egész.tő && egy.igekötő == egész.igekötő && egy.előtagok == egész.előtagok;
+        const bool azonos = egy.tő == egész.tő && egy.igekötő == egész.igekötő && egy.előtagok.isEmpty();
         if (azonos && övéi && !övéi->isEmpty() && övéi->size() < címkék.size() && képzőcímke(övéi->last()) &&
             std::ranges::equal(*övéi, címkék.first(övéi->size())))
             return övéi->size();

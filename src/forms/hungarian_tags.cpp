@@ -17,8 +17,9 @@ using enum címkefajta;
 
 const QHash<QString, címkesor> &jelek_és_ragok() {
     static const QHash<QString, címkesor> sorok{
-        {u"NOM"_s, {néma, {}}},
         {u"SG"_s, {néma, {}}},
+        // An adverb of place of its own, misspelt in the data.
+        {u"SodabL"_s, {néma, {}}},
         {u"PRES_INDIC_INDEF"_s, {néma, {}}},
         {u"PLUR"_s, {rag, u"többes szám"_s}},
         {u"PL"_s, {rag, u"többes szám"_s}},
@@ -72,8 +73,8 @@ const QHash<QString, címkesor> &végződések() {
         {u"szOrtA_MULTORD_adv"_s, {rag, u"-szorta/-szerte/-szörte (mennyivel?)"_s}},
         {u"d_FRACTION_num"_s, {rag, u"törtszám (-d)"_s}},
         {u"d_FRjACTION_num"_s, {rag, u"törtszám (-d)"_s}},
-        {u"dik_ORDINAL_adj"_s, {rag, u"sorszám (-dik)"_s}},
-        {u"dik_ORDINAL_adj]"_s, {rag, u"sorszám (-dik)"_s}},
+        {u"dik_ORDINAL_adj"_s, {képző, u"sorszám (-dik)"_s}},
+        {u"dik_ORDINAL_adj]"_s, {képző, u"sorszám (-dik)"_s}},
         {u"dikA_DATE_noun"_s, {rag, u"a hónap napja (-dika/-dike)"_s}},
         {u"i_PLACE/TIME_adj"_s, {képző, u"-i (valahová, valamikorra való)"_s}},
         {u"i_PLACETIME_adj"_s, {képző, u"-i (valahová, valamikorra való)"_s}},
@@ -167,13 +168,17 @@ bool véges(const QString &címke) {
 
 std::optional<címkesor> sora(const QString &címke) {
     const QString érték = címke.mid(3);
+    // The data run it together with what follows.
+    if (érték.startsWith(u"NOM"))
+        return címkesor{.fajta = néma, .szöveg = {}};
     for (const auto *tábla : {&jelek_és_ragok(), &végződések(), &képzők()}) {
         const auto sor = tábla->constFind(érték);
         if (sor != tábla->constEnd())
             return *sor;
     }
     if (const QString ige = igealak(érték); !ige.isEmpty()) {
-        const bool szótári = címke == u"ts:PRES_INDIC_INDEF_SG_3";
+        // The form under which a verb stands in a dictionary.
+        const bool szótári = érték == u"PRES_INDIC_INDEF_SG_3";
         return címkesor{.fajta = szótári ? néma : rag, .szöveg = ige};
     }
     if (const QString alak = személyes_alak(érték); !alak.isEmpty())
@@ -208,11 +213,13 @@ bool lehetetlen(const elemzés &elemzés, QStringView alak) {
     const QStringList &címkék = elemzés.címkék;
     if (std::ranges::count_if(címkék, véges) > 1)
         return true;
-    if (!címkék.isEmpty() && címkék.last() == u"is:ACC" && !alak.endsWith(u't', Qt::CaseInsensitive))
+    // Pronouns have none: "engem".
+    const bool névmás = elemzés.szófaj == u"noun_pron";
+    if (!névmás && !címkék.isEmpty() && címkék.last() == u"is:ACC" && !alak.endsWith(u't', Qt::CaseInsensitive))
         return true;
     // "mi" of "mit" is the question, not "we".
     const qsizetype alany = címkék.indexOf(u"is:NOM"_s);
-    return elemzés.szófaj == u"noun_pron" && alany >= 0 && alany + 1 < címkék.size();
+    return névmás && alany >= 0 && alany + 1 < címkék.size();
 }
 
 }  // namespace

@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 const QString english_hungarian_file = u"am.txt"_s;
 const QString hungarian_english_file = u"ma.txt"_s;
+const QString form_data_folder = u"alakok"_s;
 const QString word_index_file = u"szavak.idx"_s;
 const QString english_frequency_file = u"am.gyk"_s;
 const QString hungarian_frequency_file = u"ma.gyk"_s;
@@ -25,10 +26,11 @@ bool holds_a_dictionary(const QDir &folder) {
     return folder.exists(english_hungarian_file) || folder.exists(hungarian_english_file);
 }
 
-/// Made at the first start; a link whose dictionary has moved with an update is made anew.
+/// With what explains the forms of words. Made at the first start; a link whose target has moved with an update is made
+/// anew.
 void link_dictionaries(const QDir &from, const QDir &to) {
     for (const QString &name : {english_hungarian_file, hungarian_english_file, word_index_file, english_frequency_file,
-                                hungarian_frequency_file}) {
+                                hungarian_frequency_file, form_data_folder}) {
         const QFileInfo link(to.filePath(name));
         if (link.exists() || !from.exists(name))
             continue;

@@ -70,6 +70,22 @@ TEST_F(HungarianForms, with_two_finite_endings_are_none) {
         EXPECT_FALSE(reading.magyarázat.contains(u"múlt idő, ő"_s)) << reading.magyarázat.toStdString();
 }
 
+TEST_F(HungarianForms, of_pronouns_lead_to_the_person) {
+    EXPECT_EQ(line(u"engem"_s), "engem = én + -t (kit? mit?)");
+    EXPECT_EQ(line(u"hozzánk"_s), "hozzánk = mi + -hoz/-hez/-höz (hová? kihez?)");
+    EXPECT_EQ(line(u"mellettem"_s), "mellettem = mellett + személy: én");
+}
+
+TEST_F(HungarianForms, of_derived_headwords_lead_to_these) {
+    EXPECT_EQ(line(u"főzést"_s), "főzést = főzés + -t (kit? mit?)");
+    EXPECT_EQ(line(u"nyelvtanulóknak"_s), "nyelvtanulóknak = nyelv + tanuló + többes szám + -nak/-nek (kinek? minek?)");
+}
+
+TEST_F(HungarianForms, are_themselves_where_they_are_the_base) {
+    EXPECT_EQ(line(u"látszik"_s), "látszik = látszik");
+    EXPECT_EQ(line(u"ház"_s), "ház = ház");
+}
+
 TEST_F(HungarianForms, without_a_headword_have_no_reading) {
     magyar_alakelemző none(forms_folder(), {.van = [](QStringView) { return false; }});
 

@@ -68,10 +68,10 @@ do_the_main_job() {
 
 find_what_is_installed_with_it() {
     local name
-    for name in am.txt ma.txt szavak.idx am.gyk ma.gyk; do
+    for name in am.txt ma.txt szavak.idx am.gyk ma.gyk alakok; do
         [[ -s $root/usr/share/zimbora/$name &&
             $(readlink "$root$own_folder/$name") == "/usr/share/zimbora/$name" ]] ||
-            fail "The dictionary $name is not in the program folder."
+            fail "$name is not in the program folder."
     done
     for name in hangok zenemid kavaro; do
         diff -r "$root/usr/share/zimbora/$name" "$root$own_folder/$name" || fail "$name is not in the program folder."

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <memory>
 
-#include "forms/form_data.h"
 #include "forms/form_reader.h"
+#include "state/program_folder.h"
 #include "support/headwords.h"
 
 /// The headwords of a dictionary of this build, as an analyser asks about them.
@@ -30,7 +30,7 @@ inline címszókérdések questions_about(const char *dictionary) {
 
 /// The staged folder of the data that explain forms.
 inline QString forms_folder() {
-    return test_places::in_program(alakok_mappája);
+    return test_places::in_program(form_data_folder);
 }
 
 /// One row of a list of forms: "form | base | explanation".

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "forms/english_forms.h"
-#include "forms/form_data.h"
 #include "forms/hungarian_forms.h"
+#include "state/program_folder.h"
 #include "suggestions/suggester.h"
 #include "support/test_places.h"
 
@@ -10,8 +10,8 @@
 struct RealSuggestions {
     címszólista english{test_places::program(), címszólista::nyelv::angol};
     címszólista hungarian{test_places::program(), címszólista::nyelv::magyar};
-    angol_alakelemző english_forms{test_places::in_program(alakok_mappája), english.kérdések()};
-    magyar_alakelemző hungarian_forms{test_places::in_program(alakok_mappája), hungarian.kérdések()};
+    angol_alakelemző english_forms{test_places::in_program(form_data_folder), english.kérdések()};
+    magyar_alakelemző hungarian_forms{test_places::in_program(form_data_folder), hungarian.kérdések()};
     kifejezéskereső phrases{test_places::program(), {.angol = &english_forms, .magyar = &hungarian_forms}};
     ajánló suggester{{.angol_címszavak = english,
                       .magyar_címszavak = hungarian,

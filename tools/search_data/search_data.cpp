@@ -6,7 +6,6 @@
 #include <variant>
 
 #include "forms/english_forms.h"
-#include "forms/form_data.h"
 #include "forms/hungarian_forms.h"
 #include "platform/code_page.h"
 #include "search_data/dictionary_lines.h"
@@ -57,8 +56,8 @@ class Forms final {
     explicit Forms(const QDir &program)
         : english_words_(program.path(), címszólista::nyelv::angol),
           hungarian_words_(program.path(), címszólista::nyelv::magyar),
-          english_(program.filePath(alakok_mappája), english_words_.kérdések()),
-          hungarian_(program.filePath(alakok_mappája), hungarian_words_.kérdések()) {}
+          english_(program.filePath(form_data_folder), english_words_.kérdések()),
+          hungarian_(program.filePath(form_data_folder), hungarian_words_.kérdések()) {}
 
     std::optional<Failure> missing() {
         const QStringList sentences = english_.hiányok() + hungarian_.hiányok();

@@ -52,6 +52,16 @@ TEST_F(ProgramFolder, is_linked_to_what_was_made_of_the_dictionaries) {
     }
 }
 
+TEST_F(ProgramFolder, is_linked_to_what_explains_forms) {
+    QDir(root_.path()).mkpath(u"share/alakok"_s);
+    write_file(place("share/alakok/angol.txt"), "v went go");
+
+    const QString folder = find_program_folder(started_from("other"));
+
+    EXPECT_EQ(read_file(folder + u"/alakok/angol.txt"_s), "v went go");
+    EXPECT_TRUE(QFileInfo(folder + u"/alakok"_s).isSymLink());
+}
+
 TEST_F(ProgramFolder, mends_a_link_whose_dictionary_has_moved) {
     QDir(root_.path()).mkpath(u"documents/Zimbora"_s);
     QFile::link(place("gone/am.txt"), place("documents/Zimbora/am.txt"));
