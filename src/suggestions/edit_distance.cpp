@@ -202,3 +202,9 @@ int eltérésmérő::szokásos_határ() const {
 int eltérésmérő::legnagyobb_többlet(int határ) {
     return határ >= hangjel ? std::max(határ / kettőzés, 2) : határ / kettőzés;
 }
+
+int eltérésmérő::legnagyobb_eltérés(int határ) {
+    // For its price nothing changes more sets than another letter instead of one, then two for one of the same sound.
+    const auto by_letters = [](int cost) { return 2 * (cost / hasonló) + (cost % hasonló >= kettőzés ? 1 : 0); };
+    return határ < hangjel ? by_letters(határ) : std::max(by_letters(határ), 3 + by_letters(határ - hangjel));
+}

@@ -46,8 +46,9 @@ class eltérésmérő final {
     [[nodiscard]] const QByteArray &szöveg() const { return szöveg_; }
     /// What two letters may cost; less for short texts, in which everything is like everything.
     [[nodiscard]] int szokásos_határ() const;
-    /// A bound of többlet() in both directions for words within `határ`.
+    /// A bound of többlet() in each direction for words within `határ`, and of both together.
     [[nodiscard]] static int legnagyobb_többlet(int határ);
+    [[nodiscard]] static int legnagyobb_eltérés(int határ);
 
   private:
     struct rács;

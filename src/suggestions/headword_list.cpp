@@ -20,9 +20,9 @@ namespace {
 
 /// A headword on its way into the group of its length.
 struct Read {
-    QByteArrayView key;
-    bool verb;
+    std::uint32_t place;
     std::uint8_t frequency;
+    bool verb;
 };
 
 /// The headwords of one length, item i of all four belonging together.
@@ -37,29 +37,31 @@ int compared(QByteArrayView left, QByteArrayView right) {
     return std::memcmp(left.data(), right.data(), static_cast<size_t>(std::min(left.size(), right.size())));
 }
 
-Group group_of(std::vector<Read> &headwords) {
-    std::ranges::stable_sort(headwords, [](const Read &left, const Read &right) {
-        const int order = compared(left.key, right.key);
+/// The group of the headwords of this length in a dictionary.
+Group group_of(std::vector<Read> &headwords, qsizetype length, QByteArrayView dictionary) {
+    const auto key_of = [=](const Read &headword) { return dictionary.sliced(headword.place, length); };
+    std::ranges::stable_sort(headwords, [&](const Read &left, const Read &right) {
+        const int order = compared(key_of(left), key_of(right));
         return order != 0 ? order < 0 : left.verb < right.verb;
     });
-    // The same word may stand in several lines: to lie, lay, lain and to lie, lied.
     Group group;
-    group.keys.reserve(static_cast<qsizetype>(headwords.size()) * headwords.front().key.size());
+    group.keys.reserve(static_cast<qsizetype>(headwords.size()) * length);
+    group.letters.reserve(headwords.size());
+    group.frequencies.reserve(headwords.size());
+    group.verbs.reserve(headwords.size());
     const Read *last = nullptr;
     for (const Read &headword : headwords) {
-        if (last && last->key == headword.key && last->verb == headword.verb) {
+        // The same word may stand in several lines: to lie, lay, lain and to lie, lied.
+        if (last && key_of(*last) == key_of(headword) && last->verb == headword.verb) {
             group.frequencies.back() = std::max(group.frequencies.back(), headword.frequency);
             continue;
         }
         last = &headword;
-        group.keys.append(headword.key);
-        group.letters.push_back(betűk::halmaza(headword.key));
+        group.keys.append(key_of(headword));
+        group.letters.push_back(betűk::halmaza(key_of(headword)));
         group.frequencies.push_back(headword.frequency);
         group.verbs.push_back(headword.verb ? 1 : 0);
     }
-    group.letters.shrink_to_fit();
-    group.frequencies.shrink_to_fit();
-    group.verbs.shrink_to_fit();
     return group;
 }
 
@@ -112,19 +114,20 @@ struct címszólista::belső {
             const qsizetype end = dictionary.indexOf('\n', start);
             const QByteArrayView line = dictionary.sliced(start, (end < 0 ? dictionary.size() : end) - start);
             start = end + 1;
-            add(line, number < frequencies.size() ? static_cast<std::uint8_t>(frequencies[number]) : std::uint8_t{0},
-                read);
+            add(dictionary, line,
+                number < frequencies.size() ? static_cast<std::uint8_t>(frequencies[number]) : std::uint8_t{0}, read);
             if (end < 0)
                 break;
         }
         for (size_t length = 0; length < read.size(); ++length) {
             if (!read[length].empty())
-                groups[length] = group_of(read[length]);
+                groups[length] = group_of(read[length], static_cast<qsizetype>(length), dictionary);
             std::vector<Read>().swap(read[length]);
         }
     }
 
-    void add(QByteArrayView line, std::uint8_t frequency, std::array<std::vector<Read>, leghosszabb + 1> &read) {
+    void add(QByteArrayView dictionary, QByteArrayView line, std::uint8_t frequency,
+             std::array<std::vector<Read>, leghosszabb + 1> &read) {
         const qsizetype colon = line.indexOf(':');
         if (colon <= 0)
             return;
@@ -136,7 +139,8 @@ struct címszólista::belső {
         if (headword.contains(", ") && language == nyelv::angol)
             with_forms.append(code_page::decode(headword));
         const bool verb = language == nyelv::angol ? english_verb : line.sliced(colon + 1).startsWith("to ");
-        read[static_cast<size_t>(key.size())].push_back({key, verb, frequency});
+        read[static_cast<size_t>(key.size())].push_back(
+            {static_cast<std::uint32_t>(key.data() - dictionary.data()), frequency, verb});
     }
 };
 

@@ -124,7 +124,8 @@ struct kifejezéskereső::belső {
     void add_accented(Answers &answers) {
         for (std::uint32_t i = 0; i < index->szavak(); ++i) {
             const QByteArrayView word = index->szó(i);
-            if (word.size() == answers.word.size() && bare(word) == answers.word)
+            const auto same = [](char mine, char its) { return mine == betűk::ékezettelen(its); };
+            if (word.size() == answers.word.size() && std::ranges::equal(answers.word, word, same))
                 add_with_forms(answers, i);
         }
     }

@@ -121,11 +121,14 @@ QVector<közelítés> elírások(címszólista &címszavak, címszólista::nyelv
         return found;
     const betűhalmaz set = betűk::halmaza(szöveg);
     const int surplus = eltérésmérő::legnagyobb_többlet(bound);
+    const int difference = eltérésmérő::legnagyobb_eltérés(bound);
     const QByteArray letters = bare(szöveg);
     scan(
         címszavak, szöveg.size(), régi,
         [=](betűhalmaz other) {
-            return betűk::többlet(set, other) <= surplus && betűk::többlet(other, set) <= surplus;
+            const int more = betűk::többlet(set, other);
+            const int fewer = betűk::többlet(other, set);
+            return more <= surplus && fewer <= surplus && more + fewer <= difference;
         },
         [&](const címszólista::tétel &item) {
             const int cost = distance.mér(item.kulcs, bound);
