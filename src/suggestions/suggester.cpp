@@ -181,7 +181,7 @@ class Question final {
         });
     }
 
-    /// "hazaimban", typed where there is no á.
+    /// "kutyaimmal", typed where there is no á.
     void add_accentless_forms(const Side &side, Offers &offers) const {
         if (side.from_english || !side.forms || !exact_headword(text_, side).isEmpty())
             return;

@@ -103,4 +103,15 @@ TEST(HeadwordList, knows_every_headword_of_the_real_dictionaries) {
     EXPECT_TRUE(hungarian.hiányok().isEmpty());
 }
 
+TEST(HeadwordList, knows_which_real_headwords_are_common) {
+    címszólista english(test_places::program(), nyelv::angol);
+    címszólista hungarian(test_places::program(), nyelv::magyar);
+
+    for (const auto &[common, rare] :
+         {std::pair{u"house", u"houseleek"}, {u"to receive", u"to rescind"}, {u"because", u"becalm"}})
+        EXPECT_GT(english.gyakoriság(common), english.gyakoriság(rare)) << QString::fromUtf16(rare).toStdString();
+    for (const auto &[common, rare] : {std::pair{u"ház", u"házfedél"}, {u"könyv", u"könyök"}, {u"eszik", u"esztergál"}})
+        EXPECT_GT(hungarian.gyakoriság(common), hungarian.gyakoriság(rare)) << QString::fromUtf16(rare).toStdString();
+}
+
 }  // namespace

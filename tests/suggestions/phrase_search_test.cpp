@@ -8,7 +8,7 @@
 #include "search_data/dictionary_lines.h"
 #include "support/dictionary_folder.h"
 #include "support/fake_form_reader.h"
-#include "support/test_places.h"
+#include "support/real_suggestions.h"
 
 using namespace Qt::StringLiterals;
 
@@ -186,6 +186,22 @@ TEST(PhraseSearch, finds_in_the_real_dictionaries_what_reading_all_of_them_finds
         }
         EXPECT_EQ(whole, pairs_with(cp1250(word))) << QString::fromUtf16(word).toStdString();
     }
+}
+
+TEST(PhraseSearch, finds_the_other_forms_of_a_word_in_the_real_dictionaries) {
+    RealSuggestions all;
+    const auto finds = [&](const QString &text, const QString &form) {
+        const Found found = found_by(all.phrases, text);
+        return std::ranges::any_of(found.all, [&](const kifejezés &row) {
+            return row.egész_szó && (u' ' + row.angol + u' ' + row.magyar + u' ').contains(u' ' + form + u' ');
+        });
+    };
+
+    EXPECT_TRUE(finds(u"ház"_s, u"házban"_s));
+    EXPECT_TRUE(finds(u"házaimban"_s, u"ház"_s));
+    EXPECT_TRUE(finds(u"lovakkal"_s, u"ló"_s));
+    EXPECT_TRUE(finds(u"children"_s, u"child"_s));
+    EXPECT_TRUE(finds(u"child"_s, u"children"_s));
 }
 
 }  // namespace
