@@ -40,10 +40,10 @@ int compared(QByteArrayView left, QByteArrayView right) {
 /// The group of the headwords of this length in a dictionary.
 Group group_of(std::vector<Read> &headwords, qsizetype length, QByteArrayView dictionary) {
     const auto key_of = [=](const Read &headword) { return dictionary.sliced(headword.place, length); };
-    std::ranges::stable_sort(headwords, [&](const Read &left, const Read &right) {
-        const int order = compared(key_of(left), key_of(right));
-        return order != 0 ? order < 0 : left.verb < right.verb;
-    });
+    const auto before = [&](const Read &left, const Read &right) { return compared(key_of(left), key_of(right)) < 0; };
+    // Those of a whole dictionary are in order.
+    if (!std::ranges::is_sorted(headwords, before))
+        std::ranges::stable_sort(headwords, before);
     Group group;
     group.keys.reserve(static_cast<qsizetype>(headwords.size()) * length);
     group.letters.reserve(headwords.size());
