@@ -36,7 +36,7 @@ struct Words {
 QByteArray with_right_fingerprints(QByteArray index, const Words &words) {
     if (index.size() < format::fejléc)
         return index;
-    index.replace(0, format::kezdethossz, format::kezdet, format::kezdethossz);
+    index.replace(qsizetype{0}, format::kezdethossz, format::kezdet, format::kezdethossz);
     char *prints = index.data() + format::ujjlenyomatok;
     qToLittleEndian<quint64>(ujjlenyomat(words.english), prints);
     qToLittleEndian<quint64>(ujjlenyomat(words.hungarian), prints + 8);
