@@ -16,6 +16,9 @@ using namespace Qt::StringLiterals;
 const QString english_hungarian_file = u"am.txt"_s;
 const QString hungarian_english_file = u"ma.txt"_s;
 const QString form_data_folder = u"alakok"_s;
+const QString word_index_file = u"szavak.idx"_s;
+const QString english_frequency_file = u"am.gyk"_s;
+const QString hungarian_frequency_file = u"ma.gyk"_s;
 
 namespace {
 
@@ -26,7 +29,8 @@ bool holds_a_dictionary(const QDir &folder) {
 /// With what explains the forms of words. Made at the first start; a link whose target has moved with an update is made
 /// anew.
 void link_dictionaries(const QDir &from, const QDir &to) {
-    for (const QString &name : {english_hungarian_file, hungarian_english_file, form_data_folder}) {
+    for (const QString &name : {english_hungarian_file, hungarian_english_file, word_index_file, english_frequency_file,
+                                hungarian_frequency_file, form_data_folder}) {
         const QFileInfo link(to.filePath(name));
         if (link.exists() || !from.exists(name))
             continue;

@@ -44,3 +44,8 @@ extern const QString english_hungarian_file;
 extern const QString hungarian_english_file;
 /// Name of the folder in it that has what explains inflected forms.
 extern const QString form_data_folder;
+/// Names of what is made of the dictionaries beside them: the index of their words, and how common the headwords are of
+/// the English and of the Hungarian one.
+extern const QString word_index_file;
+extern const QString english_frequency_file;
+extern const QString hungarian_frequency_file;

@@ -17,9 +17,9 @@ const QString source_folder = u"" ZIMBORA_SOURCE_DIR ""_s;
 /// 4 the roof. Nothing for a folder that is in none of the floors.
 std::optional<int> floor_of(const QString &file) {
     static const QMap<QString, int> floors{{u"platform"_s, 0},   {u"state"_s, 0},     {u"wordlist"_s, 1},
-                                           {u"dictionary"_s, 1}, {u"exercises"_s, 1}, {u"lookup"_s, 1},
-                                           {u"media"_s, 1},      {u"print"_s, 1},     {u"forms"_s, 1},
-                                           {u"ui"_s, 2},         {u"app"_s, 4}};
+                                           {u"dictionary"_s, 1}, {u"exercises"_s, 1}, {u"suggestions"_s, 1},
+                                           {u"forms"_s, 1},      {u"lookup"_s, 1},    {u"media"_s, 1},
+                                           {u"print"_s, 1},      {u"ui"_s, 2},        {u"app"_s, 4}};
     const QStringList path = file.split(u'/');
     const auto floor = floors.constFind(path.first());
     if (floor == floors.constEnd())

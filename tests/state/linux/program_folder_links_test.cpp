@@ -39,6 +39,19 @@ TEST_F(ProgramFolder, is_made_in_the_documents_and_linked_to_the_installed_dicti
     EXPECT_FALSE(QFileInfo::exists(folder + u"/ma.txt"_s));
 }
 
+TEST_F(ProgramFolder, is_linked_to_what_was_made_of_the_dictionaries) {
+    write_file(place("share/am.txt"), "dictionary");
+    for (const char *name : {"share/szavak.idx", "share/am.gyk", "share/ma.gyk"})
+        write_file(place(name), name);
+
+    const QString folder = find_program_folder(started_from("other"));
+
+    for (const QString &name : {u"szavak.idx"_s, u"am.gyk"_s, u"ma.gyk"_s}) {
+        EXPECT_EQ(read_file(folder + u'/' + name), u"share/"_s.append(name).toUtf8());
+        EXPECT_TRUE(QFileInfo(folder + u'/' + name).isSymLink());
+    }
+}
+
 TEST_F(ProgramFolder, is_linked_to_what_explains_forms) {
     QDir(root_.path()).mkpath(u"share/alakok"_s);
     write_file(place("share/alakok/angol.txt"), "v went go");
