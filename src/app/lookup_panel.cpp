@@ -27,6 +27,7 @@ void keresőpanel::eseményeket_köt() {
     new LookupKeys(*v_.angolszó, *v_.szólist, *v_.magyarlist);
     for (const QKeySequence &billentyű : {QKeySequence(Qt::CTRL | Qt::Key_L), QKeySequence(Qt::Key_F6)})
         köt(new QShortcut(billentyű, v_.angolszó->window()), &QShortcut::activated, &keresőpanel::keresőmezőbe);
+    QObject::connect(v_.lst_ajánlatok, &LinkList::chosen, &események_, [this](int i) { lst_ajánlatok_Click(i); });
     köt(v_.Command2, &QPushButton::clicked, &keresőpanel::Command2_Click);
     for (QRadioButton *irány : v_.nyelv) {
         QObject::connect(irány, &QRadioButton::toggled, &események_, [this](bool kijelölt) {
@@ -45,6 +46,7 @@ void keresőpanel::Ok_Click() {
     v_.hozzáad->setEnabled(false);
     if (v_.angolszó->text().isEmpty()) {
         k_.kereső.ürít();
+        k_.ajánlatok.kiürít();
         v_.Label3->clear();
         return;
     }
@@ -58,11 +60,32 @@ void keresőpanel::Ok_Click() {
     const auto &vég = std::get<keresésvége>(eredmény);
     if (vég.megszakadt)
         return;
+    ajánlatot_kér(vég.kijelölendő);
     v_.Label3->setText(u"%1 találat"_s.arg(vég.darab));
     if (vég.kijelölendő >= 0)
         v_.szólist->select(vég.kijelölendő);
     v_.szólist->show_selected_in_middle();
     szótárat_vizsgál();
+}
+
+void keresőpanel::ajánlatot_kér(int kijelölendő) {
+    const QString szöveg = v_.angolszó->text();
+    const QString címszó = k_.kereső.találatok().címszó(kijelölendő).section(u',', 0, 0);
+    const bool pontos = kijelölendő >= 0 && keresőkulcs(QStringView(címszó)) == keresőkulcs(QStringView(szöveg));
+    k_.ajánlatok.kérdez({.szöveg = szöveg, .angolról = k_.kereső.angolról()},
+                        pontos ? ajánlatlista::mennyit::csak_alakokat : ajánlatlista::mennyit::mindent);
+}
+
+void keresőpanel::lst_ajánlatok_Click(int i) {
+    if (k_.ajánlatok.kifejezések_sora(i)) {
+        k_.kifejezések(k_.ajánlatok.szöveg());
+        return;
+    }
+    const ajánlat mit = k_.ajánlatok.egyik(i);
+    irányt_vált(mit.angolról);
+    v_.angolszó->setText(keresőkulcs(QStringView(mit.címszó)).toString());
+    k_.kereső.kijelöl(mit.címszó);
+    v_.szólist->setFocus();
 }
 
 void keresőpanel::szótárat_vizsgál() {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "state/program_folder.h"
+#include "suggestions/dictionary_suggestions.h"
 #include "ui/drawing/twips.h"
 #include "wordlist/recent_files.h"
 
@@ -26,18 +27,26 @@ szótár::szótár(szótárkörnyezet környezet)
     : ablak(u"szótár"_s, menü::van),
       k_(std::move(környezet)),
       kereső_(k_.állapot),
-      v_(*this, kereső_, lista_),
+      ajánlatok_([this] { return std::make_shared<szótárajánló>(k_.állapot.programkönyvtár, ismeret()); }),
+      v_(*this, kereső_, ajánlatok_, lista_),
       m_(*menüsor()),
       fájlok_(k_.állapot, lista_, *this, k_.üzenetek, k_.fájlablakok, k_.meghajtó.path(u"c:\\zbrmkfnh.ini"_s)),
       keresés_(v_.keresés, {.kereső = kereső_,
+                            .ajánlatok = ajánlatok_,
                             .állapot = k_.állapot,
                             .üzenetek = k_.üzenetek,
                             .vége = [this] { return vége_; },
-                            .hozzáad = [this] { return hozzáad_Click(); }}),
+                            .hozzáad = [this] { return hozzáad_Click(); },
+                            .kifejezések = [this](const QString &szöveg) { kifejezéseket_keres(szöveg); }}),
       szószedet_(v_.szószedet,
                  {.lista = lista_, .kereső = kereső_, .állapot = k_.állapot, .üzenetek = k_.üzenetek, .ablak = *this}),
-      ablakok_(k_, *this, lista_, [this] { return vége_; }),
-      kisablak_(k_, *this, *this, kereső_) {
+      ablakok_(k_, {.főablak = *this,
+                    .lista = lista_,
+                    .ajánlatok = ajánlatok_,
+                    .ismeret = [this] { return ismeret(); },
+                    .felvesz = [this](const szópár &pár) { szószedet_.felvesz(pár); },
+                    .vége = [this] { return vége_; }}),
+      kisablak_(k_, *this, *this, kereső_, ajánlatok_) {
     setWindowTitle(u"névtelen szószedet"_s);
     méretez(hely(v_.kilép).right() + 120 + keretszélesség(), üres_magasság);
     háttérszínbeállít(k_.referencia.háttérszín());
@@ -76,6 +85,7 @@ void szótár::menüt_köt() {
     köt(m_.mnu_súgó, ablakok_, &ablakok::mnu_súgó_Click);
     köt(m_.mnunévjegy, ablakok_, &ablakok::mnunévjegy_Click);
     köt(m_.mnu_cim, ablakok_, &ablakok::mnu_cim_Click);
+    köt(m_.mnuszótárkifejezések, ablakok_, &ablakok::mnuszótárkifejezések_Click);
     köt(m_.mnubeállításhang, ablakok_, &ablakok::mnubeállításhang_Click);
     köt(m_.mnubeállítászene, ablakok_, &ablakok::mnubeállítászene_Click);
 }
@@ -100,6 +110,12 @@ void szótár::Form_Load(const QString &parancssor) {
     // From here on, when the program folder is known.
     ablakok_.zenét_indít();
     fájlok_.parancssorból(parancssor);
+}
+
+const std::shared_ptr<nyelvismeret> &szótár::ismeret() {
+    if (!ismeret_)
+        ismeret_ = std::make_shared<nyelvismeret>(k_.állapot.programkönyvtár);
+    return ismeret_;
 }
 
 void szótár::kilép_Click() {

@@ -5,6 +5,7 @@
 #include <QRectF>
 #include <QString>
 #include <QStringList>
+#include <memory>
 
 #include "app/lookup_panel.h"
 #include "app/main_window_controls.h"
@@ -14,6 +15,8 @@
 #include "app/word_list_panel.h"
 #include "dictionary/word_lookup.h"
 #include "lookup/widgets/large_window.h"
+#include "suggestions/language_knowledge.h"
+#include "suggestions/offer_list.h"
 #include "ui/window/window.h"
 #include "wordlist/word_list_files.h"
 #include "wordlist/word_pair_list.h"
@@ -61,13 +64,20 @@ class szótár final : public ablak, private szószedetablak, private nagyablak 
     void fájllistmutat(const QStringList &fájlok) override;
 
     // What the mini window wants of the window
+    void irányt_vált(bool angolról) override { keresés_.irányt_vált(angolról); }
+    void kifejezéseket_keres(const QString &szöveg) override { ablakok_.kifejezéseket_keres(szöveg); }
     void angolszóba_ír(const QString &szöveg) override { v_.keresés.angolszó->setText(szöveg); }
     [[nodiscard]] QRectF helye() const override;
     void visszatér(const QPointF &közép) override { kisablak_.visszatér(közép); }
 
+    /// What is known of both languages; made by the first who asks.
+    [[nodiscard]] const std::shared_ptr<nyelvismeret> &ismeret();
+
     const szótárkörnyezet k_;
     szópárlista lista_;
+    std::shared_ptr<nyelvismeret> ismeret_;
     szókereső kereső_;
+    ajánlatlista ajánlatok_;
     szótárvezérlők v_;
     szótármenü m_;
     szószedetfájlok fájlok_;

@@ -29,6 +29,7 @@ constexpr double hits_top = search_top + row_height + 90;
 constexpr double lookup_bottom = 3320;
 constexpr double lookup_buttons_top = 3860 - row_height;
 constexpr double mini_window_top = 1420;
+constexpr double offers_top = mini_window_top + row_height + 60;
 constexpr double address_top = 2960;
 constexpr double pairs_top = 4060;
 constexpr double pairs_bottom = 6830;
@@ -73,6 +74,11 @@ QLabel *quiet(QLabel *label) {
     return label;
 }
 
+LinkList *offers(ajánlatlista &list) {
+    return new LinkList(&list, {ajánlatlista::hivatkozás_kezdete, ajánlatlista::hivatkozás_hossza},
+                        LinkList::Layout::lines);
+}
+
 /// A key that does what the menu item does, once while it is held down.
 void set_shortcut(QAction &item, const QKeySequence &keys) {
     item.setShortcut(keys);
@@ -85,7 +91,7 @@ QAction *separator(QMenu &menu, const char16_t *name) {
 
 }  // namespace
 
-keresővezérlők::keresővezérlők(ablak &mire, szókereső &kereső)
+keresővezérlők::keresővezérlők(ablak &mire, szókereső &kereső, ajánlatlista &ajánlatok)
     : Label1(placed(mire, new QLabel(u"&Angolul:"_s), u"Label1", {left_column, caption_top, list_width, caption_height},
                     nullptr)),
       angolszó(
@@ -106,6 +112,8 @@ keresővezérlők::keresővezérlők(ablak &mire, szókereső &kereső)
                    {right_column, search_top, button_width, row_height}, u"Angolról magyarra"),
             placed(mire, new QRadioButton(u"Magyarról angolra"_s), u"nyelv(1)",
                    {right_column, search_top + row_height, button_width, row_height}, u"Magyarról angolra")},
+      lst_ajánlatok(placed(mire, offers(ajánlatok), u"lst_ajánlatok",
+                           {right_column, offers_top, button_width, address_top - offers_top}, u"Erre gondolt?")),
       megoldlist(placed(mire, never_shown(new ListBox(&kereső.találatok(), találatlista::jelentések_oszlop)),
                         u"megoldlist", {left_column, hits_top, list_width, row_height}, u"A találatok jelentései")),
       Command2(placed(mire, never_shown(new QPushButton(u"Állományt átalakít (nem látható)"_s)), u"Command2",
@@ -135,8 +143,8 @@ szószedetvezérlők::szószedetvezérlők(ablak &mire, szópárlista &lista)
     szómagylist->setFocusPolicy(Qt::NoFocus);
 }
 
-szótárvezérlők::szótárvezérlők(ablak &mire, szókereső &kereső, szópárlista &lista)
-    : keresés(mire, kereső),
+szótárvezérlők::szótárvezérlők(ablak &mire, szókereső &kereső, ajánlatlista &ajánlatok, szópárlista &lista)
+    : keresés(mire, kereső, ajánlatok),
       cmd_kisablak(placed(mire, new QPushButton(u"Kisablak"_s), u"cmd_kisablak",
                           {right_column, mini_window_top, button_width, row_height}, u"Kisablak")),
       Label4(placed(mire, link(készítők_lapja), u"Label4", {right_column, address_top, button_width, caption_height},
@@ -148,8 +156,8 @@ szótárvezérlők::szótárvezérlők(ablak &mire, szókereső &kereső, szóp�
     QWidget *előző = keresés.angolszó;
     for (QWidget *következő : std::initializer_list<QWidget *>{
              keresés.szólist, keresés.Ok, keresés.magyarlist, keresés.hozzáad, keresés.nyelv[0], keresés.nyelv[1],
-             cmd_kisablak, Label4, kilép, szószedet.szószedet, szószedet.sztöröl, szószedet.szóangtext,
-             szószedet.szómagytext, szószedet.módosít}) {
+             cmd_kisablak, keresés.lst_ajánlatok, Label4, kilép, szószedet.szószedet, szószedet.sztöröl,
+             szószedet.szóangtext, szószedet.szómagytext, szószedet.módosít}) {
         QWidget::setTabOrder(előző, következő);
         előző = következő;
     }
@@ -176,9 +184,12 @@ szótármenü::szótármenü(QMenuBar &sor)
       mnu_súgó(named(mnu_info->addAction(u"&Súgó"_s), u"mnu_súgó")),
       mnunévjegy(named(mnu_info->addAction(u"&Névjegy"_s), u"mnunévjegy")),
       mnu_cim(named(mnu_info->addAction(készítők_lapja), u"mnu_cim")),
+      mnuszótár(named(sor.addMenu(u"&Szótár"_s), u"mnuszótár")),
+      mnuszótárkifejezések(named(mnuszótár->addAction(u"&Kifejezések..."_s), u"mnuszótárkifejezések")),
       mnubeállítás(named(sor.addMenu(u"&Beállítások"_s), u"mnubeállítás")),
       mnubeállításhang(named(mnubeállítás->addAction(u"&Hangok..."_s), u"mnubeállításhang")),
       mnubeállítászene(named(mnubeállítás->addAction(u"&Zene..."_s), u"mnubeállítászene")) {
+    mnuszótárkifejezések->setShortcut(Qt::Key_F3);
     set_shortcut(*mnufájlúj, QKeySequence::New);
     set_shortcut(*mnufájlmegnyit, QKeySequence::Open);
     set_shortcut(*mnufájlment, QKeySequence::Save);

@@ -9,6 +9,8 @@
 #include <array>
 
 #include "dictionary/word_lookup.h"
+#include "suggestions/offer_list.h"
+#include "ui/controls/link_list.h"
 #include "ui/controls/list_box.h"
 #include "ui/window/window.h"
 #include "wordlist/recent_files.h"
@@ -19,7 +21,7 @@
 
 /// Looking a word up.
 struct keresővezérlők {
-    keresővezérlők(ablak &mire, szókereső &kereső);
+    keresővezérlők(ablak &mire, szókereső &kereső, ajánlatlista &ajánlatok);
 
     QLabel *Label1;
     QLineEdit *angolszó;
@@ -31,6 +33,8 @@ struct keresővezérlők {
     QPushButton *hozzáad;
     /// 0 "Angolról magyarra", 1 "Magyarról angolra".
     std::array<QRadioButton *, 2> nyelv;
+    /// What was probably meant by a text without an exact hit.
+    LinkList *lst_ajánlatok;
 
     // Never shown: the meanings field of each hit, and the conversion tool.
     ListBox *megoldlist;
@@ -53,7 +57,7 @@ struct szószedetvezérlők {
 
 /// All controls, in the order of reading, which is the order of Tab.
 struct szótárvezérlők {
-    szótárvezérlők(ablak &mire, szókereső &kereső, szópárlista &lista);
+    szótárvezérlők(ablak &mire, szókereső &kereső, ajánlatlista &ajánlatok, szópárlista &lista);
 
     keresővezérlők keresés;
     QPushButton *cmd_kisablak;
@@ -91,6 +95,9 @@ struct szótármenü {
     QAction *mnu_súgó;
     QAction *mnunévjegy;
     QAction *mnu_cim;
+
+    QMenu *mnuszótár;
+    QAction *mnuszótárkifejezések;
 
     QMenu *mnubeállítás;
     QAction *mnubeállításhang;

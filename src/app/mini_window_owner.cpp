@@ -16,12 +16,14 @@ const QString kisablakfájl_helye = u"c:\\zbrmk\\angol\\kisablak.ini"_s;
 
 }  // namespace
 
-kisablakgazda::kisablakgazda(const szótárkörnyezet &k, ablak &főablak, nagyablak &nagy, szókereső &kereső)
-    : k_(k), főablak_(főablak), kisablak_([this, &nagy, &kereső] {
+kisablakgazda::kisablakgazda(const szótárkörnyezet &k, ablak &főablak, nagyablak &nagy, szókereső &kereső,
+                             ajánlatlista &ajánlatok)
+    : k_(k), főablak_(főablak), kisablak_([this, &nagy, &kereső, &ajánlatok] {
           return std::make_unique<frm_kisablak>(
               kisablakkörnyezet{.közös = {.hasznos = k_.hasznos, .főablak = főablak_, .üzenetek = k_.üzenetek},
                                 .nagy = nagy,
                                 .kereső = kereső,
+                                .ajánlatok = ajánlatok,
                                 .állapot = k_.állapot,
                                 .legfelül = k_.legfelül,
                                 .vágólap = k_.vágólap,

@@ -8,6 +8,7 @@
 #include "dictionary/word_lookup.h"
 #include "lookup/widgets/large_window.h"
 #include "lookup/widgets/mini_window.h"
+#include "suggestions/offer_list.h"
 #include "ui/window/window.h"
 #include "ui/window/window_reference.h"
 
@@ -15,7 +16,8 @@
 class kisablakgazda final {
   public:
     /// Everything must outlive this object; `nagy` is the main window as the mini window sees it, `főablak` its window.
-    kisablakgazda(const szótárkörnyezet &k, ablak &főablak, nagyablak &nagy, szókereső &kereső);
+    kisablakgazda(const szótárkörnyezet &k, ablak &főablak, nagyablak &nagy, szókereső &kereső,
+                  ajánlatlista &ajánlatok);
 
     /// Reads place and mode from "c:\zbrmk\angol\kisablak.ini"; without a readable file, the middle of the screen.
     /// One that is there and cannot be read is told.

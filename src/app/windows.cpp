@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <utility>
 
+#include "suggestions/dictionary_suggestions.h"
 #include "ui/messages/about_window.h"
 #include "ui/messages/system_description.h"
 #include "ui/messages/text_window.h"
@@ -17,12 +18,10 @@ constexpr int rövid_üzenet_ideje = 5000;
 
 }  // namespace
 
-ablakok::ablakok(const szótárkörnyezet &k, ablak &főablak, const szópárlista &lista, std::function<bool()> vége)
+ablakok::ablakok(const szótárkörnyezet &k, ablakokkörnyezet környezet)
     : k_(k),
-      főablak_(főablak),
-      lista_(lista),
-      vége_(std::move(vége)),
-      üzenet_([this] { return std::make_unique<üzenet>(k_.hasznos, főablak_, k_.állapot.aktuálisfájl); }),
+      mik_(std::move(környezet)),
+      üzenet_([this] { return std::make_unique<üzenet>(k_.hasznos, mik_.főablak, k_.állapot.aktuálisfájl); }),
       tanulás_([this] { return std::make_unique<tanulás>(feladatnak()); }),
       kikérdező_([this] { return std::make_unique<kikérdező>(feladatnak()); }),
       választás_([this] { return std::make_unique<választás>(feladatnak()); }),
@@ -30,6 +29,7 @@ ablakok::ablakok(const szótárkörnyezet &k, ablak &főablak, const szópárlis
       memória_([this] { return std::make_unique<frm_memory>(feladatnak()); }),
       nyomtatás_([this] { return std::make_unique<frm_nyomtatás>(nyomtatásnak()); }),
       súgó_([this] { return std::make_unique<frm_súgó>(súgónak()); }),
+      kifejezések_([this] { return std::make_unique<frm_kifejezések>(kifejezéseknek()); }),
       játszó_(k_.multimédia, k_.állapot),
       hangbeáll_([this] { return std::make_unique<frm_hangbeáll>(hangoknak()); }),
       zenebeáll_([this] { return std::make_unique<frm_zenebeáll>(hangoknak()); }),
@@ -49,10 +49,12 @@ bool ablakok::kiléphet() {
 void ablakok::elrejt() {
     if (súgó_.loaded())
         súgó_.get().hide();
+    if (kifejezések_.loaded())
+        kifejezések_.get().hide();
 }
 
 ablakkörnyezet ablakok::közös() const {
-    return {.hasznos = k_.hasznos, .főablak = főablak_, .üzenetek = k_.üzenetek};
+    return {.hasznos = k_.hasznos, .főablak = mik_.főablak, .üzenetek = k_.üzenetek};
 }
 
 // The exercises
@@ -60,7 +62,7 @@ ablakkörnyezet ablakok::közös() const {
 feladatkörnyezet ablakok::feladatnak() {
     return {
         .közös = közös(),
-        .szószedet = lista_,
+        .szószedet = mik_.lista,
         .véletlen = k_.véletlen,
         .beállítások = k_.beállítások,
         .üzenetmutat = [this](qint16 ezredmásodperc, const QStringList &sorok) { üzenetmutat(ezredmásodperc, sorok); }};
@@ -68,20 +70,20 @@ feladatkörnyezet ablakok::feladatnak() {
 
 template <class Feladat>
 void ablakok::feladatot_mutat(WindowReference<Feladat> &feladat) {
-    főablak_.hide();
+    mik_.főablak.hide();
     feladat.get().mutatmodálisan();
-    if (!vége_())
-        főablak_.show();
+    if (!mik_.vége())
+        mik_.főablak.show();
     feladat.unload();
 }
 
 void ablakok::mnufeladattanul_Click() {
-    tanulás_.get().feltölt(lista_.párok());
+    tanulás_.get().feltölt(mik_.lista.párok());
     feladatot_mutat(tanulás_);
 }
 
 void ablakok::mnufeladatválaszt_Click() {
-    if (lista_.darab() >= választáshoz_kell) {
+    if (mik_.lista.darab() >= választáshoz_kell) {
         feladatot_mutat(választás_);
         return;
     }
@@ -109,7 +111,7 @@ void ablakok::üzenetmutat(qint16 ezredmásodperc, const QStringList &sorok) {
 
 nyomtatáskörnyezet ablakok::nyomtatásnak() const {
     return {.közös = közös(),
-            .szószedet = lista_,
+            .szószedet = mik_.lista,
             .állapot = k_.állapot,
             .beállítások = k_.beállítások,
             .fájlablakok = k_.fájlablakok,
@@ -125,6 +127,27 @@ void ablakok::mnufájlnyomtatás_Click() {
 hangkörnyezet ablakok::hangoknak() {
     return {
         .közös = közös(), .programkönyvtár = k_.állapot.programkönyvtár, .meghajtó = k_.meghajtó, .játszó = játszó_};
+}
+
+// Phrases
+
+kifejezéskörnyezet ablakok::kifejezéseknek() {
+    return {.közös = közös(),
+            .keresés = kifejezéskeresés(k_.állapot.programkönyvtár, mik_.ismeret()),
+            .hozzáad =
+                [this](const QString &angol, const QString &magyar) {
+                    mik_.felvesz({angol, magyar});
+                },
+            .bezárva = [this] { kifejezések_.unload(); }};
+}
+
+void ablakok::kifejezéseket_keres(const QString &szöveg) {
+    frm_kifejezések &ablak = kifejezések_.get();
+    ablak.show();
+    ablak.raise();
+    ablak.activateWindow();
+    if (!szöveg.isEmpty())
+        ablak.keres(szöveg);
 }
 
 // Help and information
@@ -158,8 +181,8 @@ void ablakok::mnu_cim_Click() {
 }
 
 void ablakok::mnunévjegy_Click() {
-    frmAbout névjegy(k_.hasznos, főablak_, QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
-                     [this] { rendszeradatokat_mutat(); });
+    frmAbout névjegy(k_.hasznos, mik_.főablak, QCoreApplication::applicationName(),
+                     QCoreApplication::applicationVersion(), [this] { rendszeradatokat_mutat(); });
     névjegy.mutatmodálisan();
 }
 
@@ -172,11 +195,18 @@ void ablakok::rendszeradatokat_mutat() {
     const QString program = QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion();
     const QString mappák =
         u"Programkönyvtár: %1\nA „c:\\” mappa: %2"_s.arg(k_.állapot.programkönyvtár, k_.meghajtó.path(u"c:\\"));
-    frm_üzenet(k_.hasznos, főablak_).mutat(u"Rendszeradatok"_s, rendszerleírás(program, mappák));
+    const auto ablak = std::make_shared<frm_üzenet>(k_.hasznos, mik_.főablak);
+    // What is missing is known when all has been read.
+    mik_.ajánlatok.hiányokat_kérdez([hova = std::weak_ptr(ablak)](const QStringList &hiányok) {
+        const auto nyitva = hova.lock();
+        if (nyitva && !hiányok.isEmpty())
+            nyitva->hozzáír(u"\nA keresés segítségéből hiányzik:\n"_s + hiányok.join(u'\n'));
+    });
+    ablak->mutat(u"Rendszeradatok"_s, rendszerleírás(program, mappák));
 }
 
 void ablakok::rövid_üzenetet_mutat(const QString &szöveg) {
-    frm_szövegüzenet(k_.hasznos, főablak_).mutat(szöveg, rövid_üzenet_ideje);
+    frm_szövegüzenet(k_.hasznos, mik_.főablak).mutat(szöveg, rövid_üzenet_ideje);
 }
 
 void ablakok::egyszer_szól(const QString &szöveg) {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <memory>
 
 #include "app/main_window_surroundings.h"
 #include "exercises/common/widgets/exercise_surroundings.h"
@@ -18,17 +19,33 @@
 #include "media/widgets/music_settings_window.h"
 #include "media/widgets/sound_settings_window.h"
 #include "print/widgets/print_settings_window.h"
+#include "suggestions/language_knowledge.h"
+#include "suggestions/offer_list.h"
+#include "suggestions/widgets/phrases_window.h"
 #include "ui/messages/result_message_window.h"
 #include "ui/window/window_reference.h"
 #include "ui/window/window_surroundings.h"
 #include "wordlist/word_pair_list.h"
 
+/// What the owner of the windows is given beside the surroundings. Everything referred to must outlive it.
+struct ablakokkörnyezet {
+    ablak &főablak;
+    const szópárlista &lista;
+    ajánlatlista &ajánlatok;
+    /// What is known of both languages; made by the first who asks.
+    std::function<std::shared_ptr<nyelvismeret>()> ismeret;
+    /// Adds a pair to the word list, or tells why not.
+    std::function<void(const szópár &pár)> felvesz;
+    /// True once the program is to end.
+    std::function<bool()> vége;
+};
+
 /// The owner of the windows that the menus open: each is made at its first use and gone when it is unloaded. The
 /// handlers carry the names of their menu items.
 class ablakok final {
   public:
-    /// `k`, `főablak` and `lista` must outlive this object. `vége` is true once the program is to end.
-    ablakok(const szótárkörnyezet &k, ablak &főablak, const szópárlista &lista, std::function<bool()> vége);
+    /// `k` must outlive this object.
+    ablakok(const szótárkörnyezet &k, ablakokkörnyezet környezet);
 
     /// Starts the playlist, which goes on as long as the program runs.
     void zenét_indít();
@@ -48,6 +65,11 @@ class ablakok final {
     void mnubeállításhang_Click() { hangbeáll_.get().mutat(); }
     void mnubeállítászene_Click() { zenebeáll_.get().mutat(); }
 
+    // The menu "&Szótár"
+    void mnuszótárkifejezések_Click() { kifejezéseket_keres({}); }
+    /// Shows the window of phrases, with those in which the words of a text stand.
+    void kifejezéseket_keres(const QString &szöveg);
+
     // The menu "&Info"
     void mnu_súgó_Click();
     void mnunévjegy_Click();
@@ -59,6 +81,7 @@ class ablakok final {
     [[nodiscard]] hangkörnyezet hangoknak();
     [[nodiscard]] nyomtatáskörnyezet nyomtatásnak() const;
     [[nodiscard]] súgókörnyezet súgónak();
+    [[nodiscard]] kifejezéskörnyezet kifejezéseknek();
 
     /// Hides the main window, shows an exercise until it closes, shows the main window again and unloads the exercise.
     template <class Feladat>
@@ -70,9 +93,7 @@ class ablakok final {
     void egyszer_szól(const QString &szöveg);
 
     const szótárkörnyezet &k_;
-    ablak &főablak_;
-    const szópárlista &lista_;
-    const std::function<bool()> vége_;
+    const ablakokkörnyezet mik_;
     /// What is told once.
     QStringList elmondott_;
     WindowReference<üzenet> üzenet_;
@@ -83,6 +104,7 @@ class ablakok final {
     WindowReference<frm_memory> memória_;
     WindowReference<frm_nyomtatás> nyomtatás_;
     WindowReference<frm_súgó> súgó_;
+    WindowReference<frm_kifejezések> kifejezések_;
     lejátszó játszó_;
     WindowReference<frm_hangbeáll> hangbeáll_;
     WindowReference<frm_zenebeáll> zenebeáll_;

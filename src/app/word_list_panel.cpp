@@ -39,7 +39,10 @@ bool szószedetpanel::hozzáad_Click() {
     const auto mit = k_.kereső.választott();
     if (!mit)
         return false;
-    const szópár pár = k_.kereső.angolról() ? szópár{mit->címszó, mit->jelentés} : szópár{mit->jelentés, mit->címszó};
+    return felvesz(k_.kereső.angolról() ? szópár{mit->címszó, mit->jelentés} : szópár{mit->jelentés, mit->címszó});
+}
+
+bool szószedetpanel::felvesz(const szópár &pár) {
     if (!felvehető(pár))
         return false;
     v_.szószedet->select(-1);

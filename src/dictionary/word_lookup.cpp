@@ -107,6 +107,16 @@ std::variant<keresésvége, Failure> szókereső::keres(const QString &szöveg, 
     return szótárkereső(forrás).keres(*bytes, figyelő);
 }
 
+void szókereső::kijelöl(const QString &címszó) {
+    for (int i = 0; i < találatok_.darab(); ++i) {
+        const QString egyik = találatok_.címszó(i);
+        if (egyik == címszó || egyik.startsWith(címszó + u',')) {
+            kijelölt_találat_.setCurrentIndex(találatok_.index(i, 0), QItemSelectionModel::ClearAndSelect);
+            return;
+        }
+    }
+}
+
 void szókereső::jelentéseket_mutat() {
     const QModelIndex melyik = kijelölt_találat_.currentIndex();
     jelentések_.setStringList(melyik.isValid() ? ::jelentések(találatok_.jelentések(melyik.row())) : QStringList());

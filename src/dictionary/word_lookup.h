@@ -63,6 +63,9 @@ class szókereső final {
     /// What is wrong with the dictionary of the direction; nothing when it is sound, and when it cannot be read at all.
     [[nodiscard]] std::optional<Failure> szótárhiba() const;
 
+    /// Selects the hit with this headword, which may have further forms behind a comma; the first one when there are
+    /// several, none when there is none.
+    void kijelöl(const QString &címszó);
     /// Lists the meanings of the selected hit and selects the first of them.
     void jelentéseket_mutat();
 

@@ -21,8 +21,8 @@ struct kifejezés {
     /// With its "to " and the further forms of the headword.
     QString angol;
     QString magyar;
-    QVector<szövegrész> angol_találatok;
-    QVector<szövegrész> magyar_találatok;
+    QVector<szövegrész> angol_találatok = {};
+    QVector<szövegrész> magyar_találatok = {};
     /// True when every word stands there as it was typed or in another form of it; false when one of them is a part of
     /// a longer word.
     bool egész_szó = false;

@@ -27,7 +27,7 @@ struct ajánlat {
     /// The text to be shown, "házaimban = ház + többes szám + birtokos: én + -ban/-ben (hol?)" or the headword alone.
     QString szöveg;
     /// The part of the text that is the link.
-    szövegrész hivatkozás;
+    szövegrész hivatkozás = {};
     /// What to search for, as it stands in the search box: "ház", "to go".
     QString címszó;
     /// In which dictionary: the other one than was asked about where that one knows the text. The text does not tell.
@@ -37,7 +37,7 @@ struct ajánlat {
 /// The answer to a question.
 struct ajánlás {
     /// At most `ajánló::legtöbb`, the best first; no headword of a dictionary twice.
-    QVector<ajánlat> ajánlatok;
+    QVector<ajánlat> ajánlatok = {};
     /// In how many phrases all words of the text stand whole; 0 when the index of the phrases is missing.
     int kifejezések = 0;
 };

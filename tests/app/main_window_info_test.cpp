@@ -1,6 +1,7 @@
 #include <QPlainTextEdit>
 #include <QTimer>
 
+#include "support/events.h"
 #include "support/main_window_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -150,6 +151,25 @@ TEST_F(MainWindowInfo, shows_what_is_known_of_the_system_in_front_of_the_about_b
     EXPECT_TRUE(text.contains(u"Program: Zimbora 3.1.4"_s));
     EXPECT_TRUE(text.contains(place("angol"))) << text.toStdString();
     EXPECT_TRUE(text.contains(place("c"))) << text.toStdString();
+}
+
+TEST_F(MainWindowInfo, tells_below_it_which_data_of_the_suggestions_are_missing) {
+    QString text;
+
+    open_about_box([&] {
+        QTimer::singleShot(0, window_.get(), [&] {
+            QWidget *message = modal(u"frm_üzenet");
+            ASSERT_NE(message, nullptr);
+            EXPECT_TRUE(comes_true([&] {
+                text = message->findChild<QPlainTextEdit *>(u"txt_üzenet"_s)->toPlainText();
+                return text.contains(u"hiányzik"_s);
+            }));
+            message->close();
+        });
+        QTest::mouseClick(modal(u"frmAbout")->findChild<QPushButton *>(u"cmdSysInfo"_s), Qt::LeftButton);
+    });
+
+    EXPECT_TRUE(text.contains(u"szavak.idx"_s)) << text.toStdString();
 }
 
 }  // namespace

@@ -2,28 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QSemaphore>
 #include <QThread>
 
+#include "support/events.h"
+
 namespace {
 
-/// An event loop of the "window" for as long as a test needs it.
-class WorkerThread : public testing::Test {
-  protected:
-    template <typename Condition>
-    [[nodiscard]] bool comes_true(Condition condition) {
-        const QDeadlineTimer deadline(20000);
-        while (!condition() && !deadline.hasExpired()) {
-            QCoreApplication::processEvents();
-            QThread::usleep(200);
-        }
-        return condition();
-    }
-};
-
-TEST_F(WorkerThread, works_elsewhere_and_tells_the_window_on_its_thread) {
+TEST(WorkerThread, works_elsewhere_and_tells_the_window_on_its_thread) {
     munkaszál worker;
     QThread *worked_on = nullptr;
     QThread *told_on = nullptr;
@@ -37,7 +23,7 @@ TEST_F(WorkerThread, works_elsewhere_and_tells_the_window_on_its_thread) {
     EXPECT_NE(worked_on, QThread::currentThread());
 }
 
-TEST_F(WorkerThread, drops_older_work_and_what_it_would_have_told) {
+TEST(WorkerThread, drops_older_work_and_what_it_would_have_told) {
     munkaszál worker;
     QSemaphore runs;
     std::atomic<bool> told_to_end = false;
@@ -61,7 +47,7 @@ TEST_F(WorkerThread, drops_older_work_and_what_it_would_have_told) {
     EXPECT_EQ(waited, 0);
 }
 
-TEST_F(WorkerThread, tells_nothing_after_it_was_told_to_drop_all) {
+TEST(WorkerThread, tells_nothing_after_it_was_told_to_drop_all) {
     munkaszál worker;
     QSemaphore done;
     bool told = false;
@@ -76,7 +62,7 @@ TEST_F(WorkerThread, tells_nothing_after_it_was_told_to_drop_all) {
     EXPECT_FALSE(told);
 }
 
-TEST_F(WorkerThread, ends_with_its_owner_while_work_runs) {
+TEST(WorkerThread, ends_with_its_owner_while_work_runs) {
     QSemaphore runs;
     bool ended = false;
     {

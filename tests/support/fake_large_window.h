@@ -52,6 +52,11 @@ class FakeLargeWindow final : public nagyablak {
         calls.append(u"Ok_Click"_s);
         search();
     }
+    void irányt_vált(bool from_english) override {
+        calls.append(from_english ? u"from English"_s : u"from Hungarian"_s);
+        lookup_.irányt_vált(from_english);
+    }
+    void kifejezéseket_keres(const QString &text) override { calls.append(u"phrases "_s + text); }
     bool magyarlist_DblClick() override {
         calls.append(u"magyarlist_DblClick"_s);
         return adds;

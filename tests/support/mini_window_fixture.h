@@ -15,6 +15,7 @@
 #include "support/dictionary_for_tests.h"
 #include "support/fake_desktop.h"
 #include "support/fake_large_window.h"
+#include "support/fake_suggestions.h"
 #include "support/files_for_tests.h"
 #include "support/timers.h"
 #include "support/window_fixture.h"
@@ -52,6 +53,7 @@ class MiniWindowTest : public WindowTest {
             kisablakkörnyezet{.közös = common(),
                               .nagy = large_,
                               .kereső = lookup_,
+                              .ajánlatok = offers_,
                               .állapot = state_,
                               .legfelül = top_most_,
                               .vágólap = [this] { return std::make_unique<FakeClipboardWatch>(clipboard_); },
@@ -127,6 +129,8 @@ class MiniWindowTest : public WindowTest {
     QVector<QRectF> screens_{screen_};
     global::programállapot state_;
     szókereső lookup_{state_};
+    std::shared_ptr<FakeSuggestions> suggestions_ = std::make_shared<FakeSuggestions>();
+    ajánlatlista offers_{[this] { return suggestions_; }};
     FakeLargeWindow large_{lookup_};
     FakeTopMost top_most_;
     FakeClipboard clipboard_;

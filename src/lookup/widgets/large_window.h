@@ -12,6 +12,10 @@ class nagyablak {
     /// Writes into the search field, which searches. Other events run meanwhile.
     virtual void angolszóba_ír(const QString &szöveg) = 0;
     virtual void Ok_Click() = 0;
+    /// Turns to the dictionary of a direction, which empties the search field.
+    virtual void irányt_vált(bool angolról) = 0;
+    /// Shows the phrases in which the words of a text stand.
+    virtual void kifejezéseket_keres(const QString &szöveg) = 0;
     /// Both add the selected hit and meaning to the word list; true when the list has them now.
     virtual bool magyarlist_DblClick() = 0;
     virtual bool hozzáad_Click() = 0;

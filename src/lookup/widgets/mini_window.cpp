@@ -27,6 +27,8 @@ constexpr double fejlécmagasság = 330;
 constexpr double vonal = 15;
 constexpr double belső = tervszélesség - 2 * szél;
 constexpr QRectF feliratshely(szél, 420, belső, 270);
+/// Right of the caption, which is shorter than its place.
+constexpr QRectF ajánlathely(szél + 1230, 420, belső - 1230, 270);
 constexpr QRectF kereshely(szél, 700, 2340, 330);
 constexpr QRectF keresgombhely(szél + 2400, 700, belső - 2400, 330);
 constexpr QRectF találathely(szél, 1120, belső, 1560);
@@ -90,6 +92,10 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
       cmd_lent_(súgóval(named(new QLabel, u"cmd_lent", u"Sarokba, F2"), lent_súgója)),
       cmd_x_(súgóval(named(new QLabel, u"cmd_x", u"Szótár bezárása"), x_súgója)),
       Label1_(named(new QLabel(u"Keresett szó:"_s), u"Label1")),
+      lst_ajánlatok_(
+          named(new LinkList(&k_.ajánlatok, {ajánlatlista::hivatkozás_kezdete, ajánlatlista::hivatkozás_hossza},
+                             LinkList::Layout::single_line),
+                u"lst_ajánlatok", u"Erre gondolt?")),
       txt_keres_(súgóval(named(new SearchBox, u"txt_keres", u"Keresett szó"),
                          u"Ide írja be a keresett szót. Ha valamely alkalmazásban a vágólapra helyez egy "
                          "szót, az rögtön megjelenik a keresőmezőben."_s)),
@@ -118,10 +124,8 @@ frm_kisablak::frm_kisablak(const kisablakkörnyezet &környezet)
     eseményeket_köt();
     Module_hasznos::betűméretez(*this, k_.közös.hasznos.ablakméretez(*this, képernyőrész));
     k_.közös.hasznos.ablakstílus(*this);
-    const QString cím = k_.kereső.angolról() ? u"Zimbora Angol-magyar szótár"_s : u"Zimbora Magyar-angol szótár"_s;
     label_fejléc_->setTextFormat(Qt::PlainText);
-    label_fejléc_->setText(cím);
-    setWindowTitle(cím);
+    címet_ír();
     if (const auto most = vágólap_->text())
         vágólapszöveg_.megjegyez(most->text);
     k_.legfelül.make(winId());
@@ -140,6 +144,7 @@ void frm_kisablak::elhelyezés() {
     for (QFrame *egyik : Line1_)
         elhelyez(egyik, {0, 0, belső, vonal});
     elhelyez(Label1_, feliratshely);
+    elhelyez(lst_ajánlatok_, ajánlathely);
     elhelyez(txt_keres_, kereshely);
     elhelyez(cmd_keres_, keresgombhely);
     elhelyez(lst_találatlista_, találathely);
@@ -155,6 +160,7 @@ void frm_kisablak::eseményeket_köt() {
     connect(cmd_keres_, &QPushButton::clicked, this, [this] { cmd_keres_Click(); });
     connect(lst_találatlista_, &ListBox::itemSelected, this, [this] { lst_találatlista_Click(); });
     connect(lst_translate_, &ListBox::itemDoubleClicked, this, [this] { lst_translate_DblClick(); });
+    connect(lst_ajánlatok_, &LinkList::chosen, this, [this](int i) { lst_ajánlatok_Click(i); });
     connect(cmd_szószedethez_ad_, &QPushButton::clicked, this, [this] { cmd_szószedethez_ad_Click(); });
     connect(cmd_kilép_, &QPushButton::clicked, this, [this] { cmd_kilép_Click(); });
     Timer1_->setObjectName(u"Timer1"_s);
@@ -293,11 +299,32 @@ void frm_kisablak::Timer1_Timer() {
             return std::nullopt;
         return lst_találatlista_->count() > 0;
     });
+    // What was copied is a form of a word more often than not, also when a shorter one has been found.
+    if (ez_a_keresés == vágólapkeresés_ && isVisible() && !szó->isEmpty())
+        k_.ajánlatok.kérdez({.szöveg = *szó, .angolról = k_.kereső.angolról()});
 }
 
 void frm_kisablak::lst_találatlista_Click() {
     k_.kereső.jelentéseket_mutat();
     lst_találatlista_->setToolTip(lst_találatlista_->item(lst_találatlista_->selected()));
+}
+
+void frm_kisablak::lst_ajánlatok_Click(int i) {
+    const Foglalt foglalt(*this);
+    if (k_.ajánlatok.kifejezések_sora(i)) {
+        k_.nagy.kifejezéseket_keres(k_.ajánlatok.szöveg());
+        return;
+    }
+    const ajánlat mit = k_.ajánlatok.egyik(i);
+    const QString kulcs = keresőkulcs(QStringView(mit.címszó)).toString();
+    k_.nagy.irányt_vált(mit.angolról);
+    címet_ír();
+    if (txt_keres_->text() == kulcs)
+        txt_keres_Change();
+    else
+        txt_keres_->setText(kulcs);
+    k_.kereső.kijelöl(mit.címszó);
+    lst_találatlista_->setFocus();
 }
 
 void frm_kisablak::cmd_szószedethez_ad_Click() {
@@ -319,6 +346,12 @@ void frm_kisablak::felvettet_mutat() {
     const int szélesség = cmd_lent_->x() - label_fejléc_->x() - label_fejléc_->contentsMargins().left();
     label_fejléc_->setText(label_fejléc_->fontMetrics().elidedText(hír, Qt::ElideRight, szélesség));
     Timer_fejléc_->start(hírideje);
+}
+
+void frm_kisablak::címet_ír() {
+    const QString cím = k_.kereső.angolról() ? u"Zimbora Angol-magyar szótár"_s : u"Zimbora Magyar-angol szótár"_s;
+    label_fejléc_->setText(cím);
+    setWindowTitle(cím);
 }
 
 void frm_kisablak::Timer_fejléc_Timer() {

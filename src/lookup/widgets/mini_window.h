@@ -17,6 +17,8 @@
 #include "platform/dialogs.h"
 #include "platform/top_most.h"
 #include "state/global.h"
+#include "suggestions/offer_list.h"
+#include "ui/controls/link_list.h"
 #include "ui/controls/list_box.h"
 #include "ui/window/window.h"
 #include "ui/window/window_surroundings.h"
@@ -27,6 +29,8 @@ struct kisablakkörnyezet {
     nagyablak &nagy;
     /// What is looked up in the main window and shown here, too.
     szókereső &kereső;
+    /// What was probably meant by it.
+    ajánlatlista &ajánlatok;
     global::programállapot &állapot;
     TopMost &legfelül;
     /// Begins to watch the clipboard.
@@ -96,6 +100,9 @@ class frm_kisablak final : public ablak {
     void Timer_fejléc_Timer();
     void lst_találatlista_Click();
     void lst_translate_DblClick();
+    void lst_ajánlatok_Click(int i);
+    /// The title names the direction.
+    void címet_ír();
     /// Tells in the header for a while what has been added to the word list.
     void felvettet_mutat();
     void keresőmezőbe();
@@ -113,6 +120,7 @@ class frm_kisablak final : public ablak {
     /// Top, bottom, left and right line round the header.
     std::array<QFrame *, 4> Line1_;
     QLabel *Label1_;
+    LinkList *lst_ajánlatok_;
     QLineEdit *txt_keres_;
     QPushButton *cmd_keres_;
     ListBox *lst_találatlista_;

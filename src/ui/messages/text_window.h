@@ -14,6 +14,8 @@ class frm_üzenet final : public ablak {
 
     /// Shows the text under a caption and returns when the window has closed.
     void mutat(const QString &felirat, const QString &szöveg);
+    /// Writes something below the text while the window is open.
+    void hozzáír(const QString &szöveg) { txt_üzenet_->appendPlainText(szöveg); }
 
   private:
     const Module_hasznos &hasznos_;
