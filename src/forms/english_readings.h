@@ -7,20 +7,22 @@
 #include "forms/english_data.h"
 #include "forms/form_reader.h"
 
+using namespace Qt::StringLiterals;
+
 /// What a form of English says.
 namespace english {
 
-inline const QString többes_szám = QStringLiteral("többes szám");
-inline const QString birtokos_eset = QStringLiteral("birtokos eset ('s)");
-inline const QString többes_birtokos = QStringLiteral("többes szám, birtokos eset (s')");
-inline const QString harmadik_személy = QStringLiteral("egyes szám harmadik személy");
-inline const QString múlt_idő = QStringLiteral("múlt idő");
-inline const QString múlt_idejű_igenév = QStringLiteral("múlt idejű melléknévi igenév");
-inline const QString múlt_vagy_igenév = QStringLiteral("múlt idő vagy múlt idejű melléknévi igenév");
-inline const QString ing_alak = QStringLiteral("-ing alak");
-inline const QString középfok = QStringLiteral("középfok");
-inline const QString felsőfok = QStringLiteral("felsőfok");
-inline const QString ly_határozó = QStringLiteral("-ly (hogyan?)");
+inline const QString többes_szám = u"többes szám"_s;
+inline const QString birtokos_eset = u"birtokos eset ('s)"_s;
+inline const QString többes_birtokos = u"többes szám, birtokos eset (s')"_s;
+inline const QString harmadik_személy = u"egyes szám harmadik személy"_s;
+inline const QString múlt_idő = u"múlt idő"_s;
+inline const QString múlt_idejű_igenév = u"múlt idejű melléknévi igenév"_s;
+inline const QString múlt_vagy_igenév = u"múlt idő vagy múlt idejű melléknévi igenév"_s;
+inline const QString ing_alak = u"-ing alak"_s;
+inline const QString középfok = u"középfok"_s;
+inline const QString felsőfok = u"felsőfok"_s;
+inline const QString ly_határozó = u"-ly (hogyan?)"_s;
 
 }  // namespace english
 

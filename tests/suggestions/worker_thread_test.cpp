@@ -7,6 +7,8 @@
 
 #include "support/events.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(WorkerThread, works_elsewhere_and_tells_the_window_on_its_thread) {
@@ -30,7 +32,7 @@ TEST(WorkerThread, drops_older_work_and_what_it_would_have_told) {
     int waited = 0;
     QStringList told;
     worker.végez([&](const munkaszál::elavult &old) {
-        worker.közöl(old, [&] { told.append(QStringLiteral("first")); });
+        worker.közöl(old, [&] { told.append(u"first"_s); });
         runs.release();
         while (!old())
             QThread::usleep(100);
@@ -38,11 +40,10 @@ TEST(WorkerThread, drops_older_work_and_what_it_would_have_told) {
     });
     runs.acquire();
     worker.végez([&](const munkaszál::elavult &) { ++waited; });
-    worker.végez(
-        [&](const munkaszál::elavult &old) { worker.közöl(old, [&] { told.append(QStringLiteral("last")); }); });
+    worker.végez([&](const munkaszál::elavult &old) { worker.közöl(old, [&] { told.append(u"last"_s); }); });
 
     ASSERT_TRUE(comes_true([&] { return !told.isEmpty(); }));
-    EXPECT_EQ(told, QStringList{QStringLiteral("last")});
+    EXPECT_EQ(told, QStringList{u"last"_s});
     EXPECT_TRUE(told_to_end);
     EXPECT_EQ(waited, 0);
 }

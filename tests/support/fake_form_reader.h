@@ -4,6 +4,8 @@
 
 #include "forms/form_reader.h"
 
+using namespace Qt::StringLiterals;
+
 /// Knows the forms that it is told.
 class FakeFormReader final : public alakelemző {
   public:
@@ -15,7 +17,7 @@ class FakeFormReader final : public alakelemző {
     }
     [[nodiscard]] QStringList hiányok() override { return missing; }
     [[nodiscard]] QString sor(const QString &alak, const olvasat &olvasat) const override {
-        return alak + QStringLiteral(" = ") + olvasat.alapalak + QStringLiteral(" + ") + olvasat.magyarázat;
+        return alak + u" = "_s + olvasat.alapalak + u" + "_s + olvasat.magyarázat;
     }
 
     int asked = 0;

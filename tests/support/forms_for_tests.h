@@ -11,13 +11,15 @@
 #include "state/program_folder.h"
 #include "support/headwords.h"
 
+using namespace Qt::StringLiterals;
+
 /// The headwords of a dictionary of this build, as an analyser asks about them.
 inline címszókérdések questions_about(const char *dictionary) {
     auto all = std::make_shared<QSet<QString>>();
     QStringList with_forms;
     for (const QByteArray &bytes : headwords_of(read_file(test_places::in_program(QString::fromLatin1(dictionary))))) {
         const QString headword = code_page::decode(bytes);
-        const qsizetype comma = headword.indexOf(QStringLiteral(", "));
+        const qsizetype comma = headword.indexOf(u", "_s);
         all->insert(headword);
         if (comma > 0) {
             all->insert(headword.first(comma));
@@ -42,8 +44,8 @@ struct FormRow {
 
 inline QList<FormRow> rows_of(const QString &file) {
     QList<FormRow> rows;
-    for (const QByteArray &line : read_file(QStringLiteral(ZIMBORA_FORM_LISTS "/") + file).split('\n')) {
-        const QStringList fields = QString::fromUtf8(line).split(QStringLiteral(" | "));
+    for (const QByteArray &line : read_file(u"" ZIMBORA_FORM_LISTS "/"_s + file).split('\n')) {
+        const QStringList fields = QString::fromUtf8(line).split(u" | "_s);
         if (!line.startsWith('#') && fields.size() == 3)
             rows.append({fields[0], fields[1], fields[2]});
     }
@@ -61,9 +63,9 @@ struct FormFigures {
 };
 
 inline QString in_one_line(alakelemző &reader, const FormRow &row, const std::vector<olvasat> &readings) {
-    QString line = row.base + QStringLiteral(" (") + row.explanation + QStringLiteral(") <>");
+    QString line = row.base + u" ("_s + row.explanation + u") <>"_s;
     for (const olvasat &reading : readings)
-        line += QStringLiteral(" | ") + reader.sor(row.form, reading);
+        line += u" | "_s + reader.sor(row.form, reading);
     return line;
 }
 

@@ -17,7 +17,7 @@ constexpr qsizetype places = 4;
 /// Twice the logarithm to the base 2, in whole numbers so that it is the same everywhere.
 int twice_logarithm(int count) {
     const auto number = static_cast<unsigned>(std::max(count, 0)) + 1U;
-    const int whole = std::bit_width(number) - 1;
+    const int whole = static_cast<int>(std::bit_width(number)) - 1;
     const bool above_half = std::uint64_t{number} * number >= std::uint64_t{1} << (2 * whole + 1);
     return 2 * whole + (above_half ? 1 : 0);
 }
