@@ -38,7 +38,8 @@ void kisablakgazda::fájlolvas() {
     if (!bytes && files::is_taken(fájl))
         k_.üzenetek.tell(std::get<Failure>(tartalom).sentence);
     const QSizeF képernyő = k_.hasznos.képernyő().size();
-    const kisablakfájl::értékek alap{qRound(képernyő.width() / 2), qRound(képernyő.height() / 2), 0};
+    const kisablakfájl::értékek alap{
+        .bal = qRound(képernyő.width() / 2), .fent = qRound(képernyő.height() / 2), .mód = 0};
     const auto olvasott = bytes ? kisablakfájl::olvas(*bytes) : std::nullopt;
     const kisablakfájl::értékek értékek = olvasott.value_or(alap);
     k_.állapot.kisablakbal = értékek.bal;
@@ -51,7 +52,8 @@ void kisablakgazda::fájlír() {
     if (QFileInfo(fájl).dir().entryList(QDir::Files).isEmpty())
         return;
     const auto hiba = files::replace_whole(
-        fájl, kisablakfájl::ír({k_.állapot.kisablakbal, k_.állapot.kisablakfent, k_.állapot.kisablakmód}));
+        fájl, kisablakfájl::ír(
+                  {.bal = k_.állapot.kisablakbal, .fent = k_.állapot.kisablakfent, .mód = k_.állapot.kisablakmód}));
     if (hiba)
         k_.üzenetek.tell(hiba->sentence);
 }

@@ -16,6 +16,13 @@ namespace {
 constexpr int választáshoz_kell = 2;
 constexpr int rövid_üzenet_ideje = 5000;
 
+/// Shows a window in front of the others, whether it was seen before or not.
+void előhoz(QWidget &ablak) {
+    ablak.show();
+    ablak.raise();
+    ablak.activateWindow();
+}
+
 }  // namespace
 
 ablakok::ablakok(const szótárkörnyezet &k, ablakokkörnyezet környezet)
@@ -142,12 +149,9 @@ kifejezéskörnyezet ablakok::kifejezéseknek() {
 }
 
 void ablakok::kifejezéseket_keres(const QString &szöveg) {
-    frm_kifejezések &ablak = kifejezések_.get();
-    ablak.show();
-    ablak.raise();
-    ablak.activateWindow();
+    előhoz(kifejezések_.get());
     if (!szöveg.isEmpty())
-        ablak.keres(szöveg);
+        kifejezések_.get().keres(szöveg);
 }
 
 // Help and information
@@ -161,22 +165,16 @@ súgókörnyezet ablakok::súgónak() {
             .bezárva = [this] { súgó_.unload(); }};
 }
 
-void ablakok::súgót_előhoz() {
-    súgó_.get().show();
-    súgó_.get().raise();
-    súgó_.get().activateWindow();
-}
-
 void ablakok::mnu_súgó_Click() {
     // A window that is made now opens the help by itself.
     const bool nyitva_volt = súgó_.loaded();
-    súgót_előhoz();
+    előhoz(súgó_.get());
     if (nyitva_volt)
         súgó_.get().súgóhoz();
 }
 
 void ablakok::mnu_cim_Click() {
-    súgót_előhoz();
+    előhoz(súgó_.get());
     súgó_.get().megnyit(súgócímek(k_.állapot.programkönyvtár).készítőcím());
 }
 

@@ -87,7 +87,6 @@ class ablakok final {
     template <class Feladat>
     void feladatot_mutat(WindowReference<Feladat> &feladat);
     void üzenetmutat(qint16 ezredmásodperc, const QStringList &sorok);
-    void súgót_előhoz();
     void rendszeradatokat_mutat();
     void rövid_üzenetet_mutat(const QString &szöveg);
     void egyszer_szól(const QString &szöveg);

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "state/number_text.h"
+
 namespace kisablakfájl {
 namespace {
 
@@ -22,7 +24,7 @@ std::optional<Number> number(const QByteArray &word) {
 
 /// How a number is written into text files: with a blank in the place of its sign and one behind it.
 QByteArray line(qint64 value) {
-    return (value < 0 ? QByteArray() : QByteArray(" ")) + QByteArray::number(value) + " \r\n";
+    return számszöveg(value).toLatin1() + " \r\n";
 }
 
 }  // namespace

@@ -46,7 +46,7 @@ std::optional<Failure> hangbeállítások::betölt() {
     for (névlista *lista : {&gratula, &helyes, &hiba})
         lista->feltölt({});
     const QString gratulaút = fájl(gratulafájl);
-    std::optional<Failure> baj;
+    std::optional<Failure> mi_a_hiba;
     const auto olvasott = beállítássorok::olvas(gratulaút);
     if (const auto *sorok = std::get_if<QStringList>(&olvasott)) {
         size_t hányadik = 0;
@@ -58,21 +58,21 @@ std::optional<Failure> hangbeállítások::betölt() {
         }
         gratula.feltölt(meglévők(sorok->sliced(static_cast<qsizetype>(hányadik))));
         if (hányadik < kapcsolók.size() && files::exists(gratulaút))
-            baj = nem_öt_kapcsoló(gratulaút);
+            mi_a_hiba = nem_öt_kapcsoló(gratulaút);
     } else {
-        baj = std::get<Failure>(olvasott);
+        mi_a_hiba = std::get<Failure>(olvasott);
     }
     for (const auto &[név, lista] : {std::pair(helyesfájl, &helyes), std::pair(hibafájl, &hiba)}) {
-        if (const auto lista_baja = listát_betölt(név, *lista); lista_baja && !baj)
-            baj = lista_baja;
+        if (const auto a_listáé = listát_betölt(név, *lista); a_listáé && !mi_a_hiba)
+            mi_a_hiba = a_listáé;
     }
-    return baj;
+    return mi_a_hiba;
 }
 
 std::optional<Failure> hangbeállítások::listát_betölt(const QString &név, névlista &lista) {
     const auto olvasott = beállítássorok::olvas(fájl(név));
-    if (const auto *baj = std::get_if<Failure>(&olvasott))
-        return *baj;
+    if (const auto *mi_a_hiba = std::get_if<Failure>(&olvasott))
+        return *mi_a_hiba;
     lista.feltölt(meglévők(std::get<QStringList>(olvasott)));
     return std::nullopt;
 }
@@ -87,15 +87,15 @@ std::optional<Failure> hangbeállítások::ment() const {
     for (const auto &[név, sorok] : {std::pair(gratulafájl, gratulasorok), std::pair(helyesfájl, helyes.nevek()),
                                      std::pair(hibafájl, hiba.nevek())}) {
         const FileContent tartalom = beállítássorok::bájtok(sorok);
-        if (const auto *baj = std::get_if<Failure>(&tartalom))
-            return *baj;
+        if (const auto *mi_a_hiba = std::get_if<Failure>(&tartalom))
+            return *mi_a_hiba;
         mind.emplace_back(fájl(név), std::get<QByteArray>(tartalom));
     }
-    if (auto baj = files::make_folder(QFileInfo(fájl(gratulafájl)).path()))
-        return baj;
+    if (auto mi_a_hiba = files::make_folder(QFileInfo(fájl(gratulafájl)).path()))
+        return mi_a_hiba;
     for (const auto &[út, bájtok] : mind) {
-        if (auto baj = files::replace_whole(út, bájtok))
-            return baj;
+        if (auto mi_a_hiba = files::replace_whole(út, bájtok))
+            return mi_a_hiba;
     }
     return std::nullopt;
 }

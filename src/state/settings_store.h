@@ -4,12 +4,14 @@
 #include <QSettings>
 #include <QString>
 #include <QVariant>
+#include <memory>
 
 namespace global {
 
 /// The user's choices between runs, as text, under the application "szotar", a section for each window and a key. On
 /// Windows they lie in the registry, elsewhere in one text file of the user. No caching, no checks: a failing read
-/// gives the default, a failing write is silent.
+/// gives the default, a failing write is silent. What is no ordinary file in the place of theirs is left alone: then
+/// they last as long as the program runs.
 class beállítástár final {
   public:
     /// The store of the user who runs the program.
@@ -24,7 +26,7 @@ class beállítástár final {
     [[nodiscard]] QVariant beállításolvas(const QObject &window, const QString &key, const QVariant &fallback) const;
 
   private:
-    QSettings store_;
+    std::unique_ptr<QSettings> store_;
 };
 
 }  // namespace global

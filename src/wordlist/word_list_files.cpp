@@ -244,7 +244,7 @@ void szószedetfájlok::fájllistír() {
     if (!hiba)
         hiba = files::replace_whole(legutóbbi_, fájl.bytes);
     if (hiba)
-        üzenetek_.tell(hiba->sentence);
+        egyszer_szól(*hiba);
     for (const Failure &kimaradt : fájl.kimaradtak)
         egyszer_szól(kimaradt);
     fájlistolvas();

@@ -407,6 +407,19 @@ TEST_F(WordListFiles, recent_file_that_is_gone_does_nothing) {
     EXPECT_EQ(pairs(), u"apple:alma"_s);
 }
 
+TEST_F(WordListFiles, place_of_the_recent_files_that_cannot_be_kept_is_told_once) {
+    // A folder in the place of the file.
+    QDir().mkpath(recent_file_);
+    add("apple", "alma");
+    dialogs_.choices = {place("a.szs"), place("b.szs")};
+
+    files_.mnufájlmentmásként();
+    files_.mnufájlmentmásként();
+
+    EXPECT_EQ(boxes_.told.size(), 1) << boxes_.told.join(u'\n').toStdString();
+    EXPECT_EQ(read_file(place("b.szs")), "apple:alma\r\n");
+}
+
 TEST_F(WordListFiles, missing_recent_files_drop_out_when_the_list_is_written) {
     write_file(recent_file_, "/nincs/ilyen.szs\r\n");
     files_.fájlistolvas();

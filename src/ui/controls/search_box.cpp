@@ -8,7 +8,8 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <limits>
+
+#include "ui/controls/unlimited_line_edit.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ QAction *paste_item(const QMenu &menu) {
 }  // namespace
 
 SearchBox::SearchBox() {
-    setMaxLength(std::numeric_limits<int>::max());
+    take_any_length(*this);
 }
 
 void SearchBox::keyPressEvent(QKeyEvent *event) {
