@@ -29,6 +29,14 @@ class LinkListTest : public testing::Test {
         Q_EMIT model_.modelReset({});
     }
 
+    void focus(Qt::FocusReason reason) {
+        list_.show();
+        list_.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&list_));
+        list_.clearFocus();
+        list_.setFocus(reason);
+    }
+
     QStandardItemModel model_;
     LinkList list_{&model_, {start, length}, LinkList::Layout::lines};
     QSignalSpy chosen_{&list_, &LinkList::chosen};
@@ -54,11 +62,22 @@ TEST_F(LinkListTest, shows_lines_as_they_are_whatever_signs_they_have) {
 TEST_F(LinkListTest, goes_from_link_to_link_and_chooses_by_the_keyboard) {
     list_.resize(300, 100);
     set_lines({u"went = go"_s, u"left = leave"_s}, 2);
-    list_.show();
-    list_.setFocus(Qt::TabFocusReason);
+    focus(Qt::TabFocusReason);
 
+    QTest::keyClick(&list_, Qt::Key_Return);
     QTest::keyClick(&list_, Qt::Key_Tab);
-    QTest::keyClick(&list_, Qt::Key_Tab);
+    QTest::keyClick(&list_, Qt::Key_Return);
+
+    ASSERT_EQ(chosen_.size(), 2);
+    EXPECT_EQ(chosen_.front().front(), 0);
+    EXPECT_EQ(chosen_.back().front(), 1);
+}
+
+TEST_F(LinkListTest, begins_with_its_last_link_when_it_is_come_to_from_behind) {
+    list_.resize(300, 100);
+    set_lines({u"went = go"_s, u"left = leave"_s}, 2);
+    focus(Qt::BacktabFocusReason);
+
     QTest::keyClick(&list_, Qt::Key_Return);
 
     ASSERT_EQ(chosen_.size(), 1);
