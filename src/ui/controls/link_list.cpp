@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QFontMetrics>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTextFrame>
 #include <QUrl>
@@ -50,6 +51,21 @@ void LinkList::focusInEvent(QFocusEvent *event) {
     // By itself it would have the focus without any of its links, so that Enter did nothing.
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
         focusNextPrevChild(event->reason() == Qt::TabFocusReason);
+}
+
+void LinkList::paintEvent(QPaintEvent *event) {
+    QTextBrowser::paintEvent(event);
+    const QScrollBar &along = *horizontalScrollBar();
+    if (layout_ != Layout::single_line || along.value() == along.maximum())
+        return;
+    const QString more = u" …"_s;
+    QPainter painter(viewport());
+    painter.setFont(document()->defaultFont());
+    QRect place = viewport()->rect();
+    place.setLeft(place.right() - painter.fontMetrics().horizontalAdvance(more));
+    painter.fillRect(place, window()->palette().color(QPalette::Window));
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, more);
 }
 
 void LinkList::show_lines() {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QtTest/QTest>
@@ -101,6 +102,23 @@ TEST_F(LinkListTest, stands_in_one_line_where_there_is_room_for_one_only) {
 
     EXPECT_EQ(one.document()->blockCount(), 1);
     EXPECT_FALSE(one.toPlainText().contains(u'\n'));
+}
+
+TEST_F(LinkListTest, ends_a_line_that_is_cut_off_with_a_mark) {
+    LinkList one(&model_, {start, length}, LinkList::Layout::single_line);
+    one.resize(200, 20);
+    const auto end_is_blank = [&] {
+        const QImage end = one.grab(QRect(170, 0, 30, 20)).toImage();
+        return end == end.copy(0, 0, 1, 1).scaled(end.size());
+    };
+
+    set_lines({u"leave"_s}, 5);
+    one.show();
+    EXPECT_TRUE(end_is_blank());
+
+    const QString blanks(200, QChar::Nbsp);
+    set_lines({u"go"_s + blanks + u"leave"_s}, 5);
+    EXPECT_FALSE(end_is_blank());
 }
 
 }  // namespace
