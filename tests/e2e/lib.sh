@@ -34,6 +34,12 @@ set_up_places() {
     children=()
 }
 
+# bring_suggestions: what explains forms, offers words and finds phrases, which most tests do without.
+bring_suggestions() {
+    cp -r "$dictionaries/alakok" "$ZIMBORA_PROGRAM"
+    cp "$dictionaries"/{am.gyk,ma.gyk,szavak.idx} "$ZIMBORA_PROGRAM"
+}
+
 end_children() {
     local child signal
     for ((child = ${#children[@]} - 1; child >= 0; child--)); do
@@ -182,6 +188,7 @@ readonly to_puzzle="k k Return"
 # Where the controls stand, in twips of the design: a place inside each.
 readonly search_box="2045 610"
 readonly first_meaning="6075 510"
+readonly from_english="8900 610"
 readonly from_hungarian="8900 1030"
 readonly mini_window_button="9300 1600"
 readonly first_pair="2045 4170"
@@ -274,6 +281,18 @@ copied_is() {
 wait_for_item() {
     forget_clipboard
     wait_until "the selected item \"$1\"" copied_is "$1"
+}
+
+# tab_to <link>: goes from control to control, and from link to link, until this link has the focus.
+tab_to() {
+    wait_until "the link \"$1\" by the key Tab" tab_reaches "$1"
+}
+
+tab_reaches() {
+    local patience=1
+    forget_clipboard
+    press Tab
+    within_patience copied_is "$1"
 }
 
 # Waits until the text box that has the focus holds this text; leaves all of it selected.

@@ -61,3 +61,24 @@ typed_text_is() {
     press ctrl+a
     [[ $(timeout 5 xclip -o -selection primary 2>/dev/null) == "$1" ]]
 }
+
+has_focus() {
+    [[ $(xdotool getactivewindow 2>/dev/null) == "$1" ]]
+}
+
+# A window of another program, which keeps what is typed into it in a file, beside the mini window.
+open_other_window() {
+    xterm -T "other program" -geometry 40x10+20+20 -e "cat >'$temp/typed'" 2>"$temp/xterm.log" &
+    children+=($!)
+    wait_for_title "other program"
+    other=$(xdotool getactivewindow)
+}
+
+typed_is() {
+    [[ $(<"$temp/typed") == "$1" ]]
+}
+
+# copy <text> [-t <kind>]
+copy() {
+    printf '%s' "$1" | xclip -i -selection clipboard "${@:2}" >/dev/null 2>&1
+}

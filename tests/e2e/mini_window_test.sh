@@ -65,27 +65,6 @@ end_program() {
     wait "$program" 2>/dev/null || true
 }
 
-has_focus() {
-    [[ $(xdotool getactivewindow 2>/dev/null) == "$1" ]]
-}
-
-# A window of another program, which keeps what is typed into it in a file, beside the mini window.
-open_other_window() {
-    xterm -T "other program" -geometry 40x10+20+20 -e "cat >'$temp/typed'" 2>"$temp/xterm.log" &
-    children+=($!)
-    wait_for_title "other program"
-    other=$(xdotool getactivewindow)
-}
-
-typed_is() {
-    [[ $(<"$temp/typed") == "$1" ]]
-}
-
-# copy <text> [-t <kind>]
-copy() {
-    printf '%s' "$1" | xclip -i -selection clipboard "${@:2}" >/dev/null 2>&1
-}
-
 # own_clipboard <argument of the owner>...: its words go to $temp/owner.log.
 own_clipboard() {
     rm -f "$temp/owner.log"

@@ -56,6 +56,30 @@ picture_szo_jo() { look_up_alone hungarian jó; take_picture; }
 picture_szo_nap() { look_up_alone hungarian nap; take_picture; }
 picture_szo_var() { look_up_alone hungarian vár; take_picture; }
 
+# The explanation comes when it has been found: a still screen alone does not tell that it is there.
+picture_alak() {
+    start_program
+    click "$from_hungarian"
+    paste házaimban
+    wait_for_text házaimban
+    tab_to ház
+    press ctrl+l
+    wait_for_text házaimban
+    press End
+    take_picture
+}
+
+picture_kifejezesek() {
+    start_program
+    press F3
+    wait_for_title "Kifejezések"
+    write "turn off"
+    wait_for_text "turn off"
+    press Down
+    wait_for_item $'to turn off\telzár'
+    take_picture
+}
+
 picture_tanulas() {
     open_long_list
     practise t "Tanulás"
@@ -196,6 +220,7 @@ take() {
     (
         # Its path is seen in some pictures.
         set_up_places /tmp/zimbora
+        bring_suggestions
         start_screen "${ZIMBORA_SCREEN:-1024x768}"
         "picture_${picture//-/_}"
     )

@@ -1,8 +1,13 @@
 #include "ui/controls/link_list.h"
 
 #include <QEvent>
+#include <QFocusEvent>
+#include <QFontMetrics>
+#include <QPainter>
 #include <QScrollBar>
+#include <QTextFrame>
 #include <QUrl>
+#include <algorithm>
 
 #include "ui/drawing/fonts.h"
 
@@ -41,6 +46,28 @@ void LinkList::changeEvent(QEvent *event) {
     document()->setDefaultFont(letters);
 }
 
+void LinkList::focusInEvent(QFocusEvent *event) {
+    QTextBrowser::focusInEvent(event);
+    // By itself it would have the focus without any of its links, so that Enter did nothing.
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        focusNextPrevChild(event->reason() == Qt::TabFocusReason);
+}
+
+void LinkList::paintEvent(QPaintEvent *event) {
+    QTextBrowser::paintEvent(event);
+    const QScrollBar &along = *horizontalScrollBar();
+    if (layout_ != Layout::single_line || along.value() == along.maximum())
+        return;
+    const QString more = u" …"_s;
+    QPainter painter(viewport());
+    painter.setFont(document()->defaultFont());
+    QRect place = viewport()->rect();
+    place.setLeft(place.right() - painter.fontMetrics().horizontalAdvance(more));
+    painter.fillRect(place, window()->palette().color(QPalette::Window));
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, more);
+}
+
 void LinkList::show_lines() {
     const int count = model_->rowCount();
     setVisible(count > 0);
@@ -54,8 +81,17 @@ void LinkList::show_lines() {
     }
     setHtml(lines.join(layout_ == Layout::lines ? u"<br>"_s : u" &nbsp; "_s));
     setToolTip(plain.join(u'\n'));
+    if (layout_ == Layout::single_line)
+        put_in_the_middle();
     horizontalScrollBar()->setValue(0);
     verticalScrollBar()->setValue(0);
+}
+
+void LinkList::put_in_the_middle() {
+    QTextFrame &lines = *document()->rootFrame();
+    QTextFrameFormat format = lines.frameFormat();
+    format.setTopMargin(std::max(height() - QFontMetrics(document()->defaultFont()).height(), 0) / 2);
+    lines.setFrameFormat(format);
 }
 
 QString LinkList::html_of(const QModelIndex &line) const {

@@ -4,8 +4,9 @@
 #include <QTextBrowser>
 
 /// The lines of a model as text, each with a part that is a link: a click on it chooses the line, as Enter does while
-/// the link has the focus; Tab goes from link to link. Is not seen while the model has no line. What has no room is
-/// scrolled to, and is told by the tool tip. The letters are a little smaller than those of other controls.
+/// the link has the focus; Tab goes to the first link and from link to link. Is not seen while the model has no line.
+/// What has no room is scrolled to, and is told by the tool tip; a single line that is cut off ends with "…". The
+/// letters are a little smaller than those of other controls.
 class LinkList final : public QTextBrowser {
     Q_OBJECT
 
@@ -30,9 +31,12 @@ class LinkList final : public QTextBrowser {
 
   protected:
     void changeEvent(QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
   private:
     void show_lines();
+    void put_in_the_middle();
     [[nodiscard]] QString html_of(const QModelIndex &line) const;
 
     QAbstractItemModel *model_;
