@@ -81,7 +81,8 @@ void frm_kifejezések::eseményeket_köt() {
     connect(&lista_, &QAbstractItemModel::rowsInserted, this, [this] {
         if (!lst_kifejezések_->currentIndex().isValid())
             lst_kifejezések_->setCurrentIndex(lista_.index(0, 0));
-        Label_kifejezések_->setText(u"%1 kifejezés"_s.arg(lista_.darab()));
+        const bool több = lista_.darab() >= kifejezésfigyelő().legfeljebb;
+        Label_kifejezések_->setText((több ? u"az első %1 kifejezés"_s : u"%1 kifejezés"_s).arg(lista_.darab()));
     });
     connect(cmd_kifejezést_ad_, &QPushButton::clicked, this, [this] { cmd_kifejezést_ad_Click(); });
     connect(cmd_bezár_, &QPushButton::clicked, this, [this] { close(); });

@@ -6,7 +6,7 @@
 #include <QtTest/QTest>
 #include <functional>
 
-#include "support/printing.h"
+#include "support/window_fixture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,13 +14,8 @@ namespace {
 
 const QStringList four_lines{u"Ehhez a játékhoz "_s, u"legalább két szót"_s, u"kell felvenni"_s, u"a szószedetbe!"_s};
 
-class ResultMessageWindow : public testing::Test {
+class ResultMessageWindow : public WindowTest {
   protected:
-    ResultMessageWindow() {
-        reference_.feliratbeállít(u"Zimbora Angol-Magyar Szótár"_s);
-        main_window_.háttérszínbeállít(Qt::cyan);
-    }
-
     /// Shows the lines; `look` is called while the window is open, which is closed then.
     void show(qint16 milliseconds, const QStringList &lines, const std::function<void()> &look) {
         QTimer::singleShot(0, &window_, [&] {
@@ -40,9 +35,6 @@ class ResultMessageWindow : public testing::Test {
 
     [[nodiscard]] QPushButton *ok() const { return window_.findChild<QPushButton *>(u"cmd_ok"_s); }
 
-    frm_referencia reference_;
-    ablak main_window_{u"szótár"_s};
-    Module_hasznos fitting_{reference_, [] { return QRectF(0, 0, 1024 * 15, 768 * 15); }};
     üzenet window_{fitting_, main_window_, u"/szavak/a.szs"_s};
 };
 
