@@ -11,8 +11,8 @@
 namespace english {
 
 inline const QString többes_szám = QStringLiteral("többes szám");
-inline const QString birtokos_eset = QStringLiteral("birtokos eset ('s)");
-inline const QString többes_birtokos = QStringLiteral("többes szám, birtokos eset (s')");
+inline const QString birtokos_eset = QStringLiteral("birtokos eset: 's");
+inline const QString többes_birtokos = QStringLiteral("többes szám, birtokos eset: s'");
 inline const QString harmadik_személy = QStringLiteral("egyes szám harmadik személy");
 inline const QString múlt_idő = QStringLiteral("múlt idő");
 inline const QString múlt_idejű_igenév = QStringLiteral("múlt idejű melléknévi igenév");
@@ -20,7 +20,7 @@ inline const QString múlt_vagy_igenév = QStringLiteral("múlt idő vagy múlt 
 inline const QString ing_alak = QStringLiteral("-ing alak");
 inline const QString középfok = QStringLiteral("középfok");
 inline const QString felsőfok = QStringLiteral("felsőfok");
-inline const QString ly_határozó = QStringLiteral("-ly (hogyan?)");
+inline const QString ly_határozó = QStringLiteral("-ly: hogyan?");
 
 }  // namespace english
 
