@@ -290,12 +290,21 @@ void olvasatkészítő::felvesz(olvasat mit, int súly, const QStringList &címk
     jelöltek_.push_back({.mit = std::move(mit), .súly = súly, .címkék = címkék});
 }
 
+namespace {
+
+/// Makes a word whose meaning does not tell what it was made of, unlike "-dik" and "-tat".
+bool szóalkotó(const QString &címke) {
+    return képzőcímke(címke) && !címke.contains(u"_ORDINAL_") && !címke.contains(u"_FACTITIVE_");
+}
+
+}  // namespace
+
 void olvasatkészítő::felbontottakat_elhagy() {
     const auto ugyanaz_képzővel = [](const súlyozott &hosszabb, const súlyozott &rövidebb) {
         const qsizetype képzők = hosszabb.címkék.size() - rövidebb.címkék.size();
         return képzők > 0 && !rövidebb.címkék.isEmpty() && rövidebb.súly <= hosszabb.súly &&
                rövidebb.mit.előtag == hosszabb.mit.előtag &&
-               std::ranges::all_of(hosszabb.címkék.first(képzők), képzőcímke) &&
+               std::ranges::all_of(hosszabb.címkék.first(képzők), szóalkotó) &&
                hosszabb.címkék.sliced(képzők) == rövidebb.címkék;
     };
     const std::vector<súlyozott> mind = jelöltek_;

@@ -85,6 +85,8 @@ TEST_F(HungarianForms, of_derived_headwords_are_not_taken_apart_any_further) {
     EXPECT_EQ(bases(u"dolgoznak"_s), QStringList{u"dolgozik"_s});
     EXPECT_EQ(bases(u"esőben"_s), QStringList{u"eső"_s});
     EXPECT_EQ(bases(u"futó"_s), (QStringList{u"futó"_s, u"fut"_s}));
+    EXPECT_TRUE(bases(u"nevettetett"_s).contains(u"nevet"_s));
+    EXPECT_TRUE(bases(u"huszadikat"_s).contains(u"húsz"_s));
 }
 
 TEST_F(HungarianForms, of_words_with_another_stem_lead_to_the_word_that_learners_look_up) {
