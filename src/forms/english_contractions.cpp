@@ -66,7 +66,7 @@ std::vector<olvasat> tagadás(const QString &ige) {
     const auto sor = tagadott_igék().constFind(ige.toLower());
     if (sor == tagadott_igék().constEnd())
         return {};
-    const QString tagadás = u"tagadás (not)"_s;
+    const QString tagadás = u"tagadás: not"_s;
     const bool módbeli = sor->magyarázat.isEmpty();
     return {{.alapalak = sor->alapalak, .magyarázat = módbeli ? tagadás : sor->magyarázat + u", "_s + tagadás}};
 }

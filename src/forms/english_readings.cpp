@@ -82,7 +82,7 @@ QStringList idegen_többes_alapjai(const QString &alak) {
     };
     QStringList mind;
     for (const auto &[vég, alap] : végek) {
-        if (alak.endsWith(vég))
+        if (alak.endsWith(vég) && alak.size() > vég.size() + 1)
             mind.append(alak.chopped(vég.size()) + alap.toString());
     }
     return mind;
@@ -164,6 +164,9 @@ void angol_olvasatkészítő::összevonást_olvas() {
 }
 
 void angol_olvasatkészítő::birtokost_olvas() {
+    // "let's" owns nothing.
+    if (!jelöltek_.empty())
+        return;
     if (alak_.endsWith(u"'s")) {
         const QString tő = alak_.chopped(2);
         for (const QString &egyes : rendhagyó_többes_alapjai(tő))

@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 namespace english {
 
 inline const QString többes_szám = u"többes szám"_s;
-inline const QString birtokos_eset = u"birtokos eset ('s)"_s;
-inline const QString többes_birtokos = u"többes szám, birtokos eset (s')"_s;
+inline const QString birtokos_eset = u"birtokos eset: 's"_s;
+inline const QString többes_birtokos = u"többes szám, birtokos eset: s'"_s;
 inline const QString harmadik_személy = u"egyes szám harmadik személy"_s;
 inline const QString múlt_idő = u"múlt idő"_s;
 inline const QString múlt_idejű_igenév = u"múlt idejű melléknévi igenév"_s;
@@ -22,7 +22,7 @@ inline const QString múlt_vagy_igenév = u"múlt idő vagy múlt idejű mellék
 inline const QString ing_alak = u"-ing alak"_s;
 inline const QString középfok = u"középfok"_s;
 inline const QString felsőfok = u"felsőfok"_s;
-inline const QString ly_határozó = u"-ly (hogyan?)"_s;
+inline const QString ly_határozó = u"-ly: hogyan?"_s;
 
 }  // namespace english
 

@@ -1,6 +1,7 @@
 #include "forms/hungarian_exceptions.h"
 
 #include <QHash>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +47,7 @@ const QHash<QString, kivétel> &kivételek() {
         {u"estig"_s, {u"este"_s, meddig}},
         {u"nincsenek"_s, {u"nincs"_s, u"jelen idő, ők, alanyi ragozás"_s}},
         {u"sincsenek"_s, {u"sincs"_s, u"jelen idő, ők, alanyi ragozás"_s}},
+        {u"fia"_s, {u"fiú"_s, u"birtokos: ő"_s}},
         {u"légy"_s, {u"van"_s, u"felszólító mód, te, alanyi ragozás"_s}},
     };
     return tábla;
@@ -58,4 +60,15 @@ std::optional<olvasat> kivételes_olvasat(const QString &alak) {
     if (sor == kivételek().constEnd())
         return std::nullopt;
     return olvasat{.alapalak = sor->alapalak, .magyarázat = sor->címke};
+}
+
+elemzés szótári_tővel(elemzés egy, const QString &alak) {
+    const auto birtokos = [](const QString &címke) { return címke.startsWith(u"is:POSS_"); };
+    if (egy.tő == u"fia" && std::ranges::any_of(egy.címkék, birtokos))
+        egy.tő = u"fiú"_s;
+    if (egy.tő == u"emlékezik" && alak.contains(u"emléksz", Qt::CaseInsensitive))
+        egy.tő = u"emlékszik"_s;
+    if (egy.tő == u"van" && egy.címkék.removeOne(u"is:hAt_MODAL_vrb"_s))
+        egy.tő = u"lehet"_s;
+    return egy;
 }

@@ -180,7 +180,8 @@ std::vector<olvasat> olvasatkészítő::olvasatok() {
     return rendezve();
 }
 
-void olvasatkészítő::elemzést_olvas(const elemzés &elemzés) {
+void olvasatkészítő::elemzést_olvas(const elemzés &nyers) {
+    const elemzés elemzés = szótári_tővel(nyers, alak_);
     const auto címkék = beszédes_címkék(elemzés, alak_);
     if (!címkék)
         return;
@@ -204,7 +205,7 @@ void olvasatkészítő::elemzést_olvas(const elemzés &elemzés) {
     felvesz({.alapalak = választott->tő,
              .magyarázat = címkék_magyarázata(*címkék, elemzés.szófaj),
              .előtag = választott->előtag},
-            súly);
+            súly, *címkék);
 }
 
 void olvasatkészítő::névmást_olvas(const QStringList &címkék, const QString &szófaj) {
@@ -245,7 +246,7 @@ void olvasatkészítő::képzett_alapot_keres(const elemzés &elemzés, const QS
             felvesz({.alapalak = egészben ? eleje + kezdet : kezdet,
                      .magyarázat = címkék_magyarázata(vége, elemzés.szófaj),
                      .előtag = egészben ? QString() : eleje},
-                    súly);
+                    súly, vége);
             return;
         }
     }
@@ -276,7 +277,7 @@ void olvasatkészítő::önmagát_felveszi() {
     }
 }
 
-void olvasatkészítő::felvesz(olvasat mit, int súly) {
+void olvasatkészítő::felvesz(olvasat mit, int súly, const QStringList &címkék) {
     const QString közös = közös_ragozás(mit.magyarázat);
     for (súlyozott &másik : jelöltek_) {
         if (másik.mit.alapalak != mit.alapalak || közös_ragozás(másik.mit.magyarázat) != közös)
@@ -286,10 +287,35 @@ void olvasatkészítő::felvesz(olvasat mit, int súly) {
         másik.súly = std::min(másik.súly, súly);
         return;
     }
-    jelöltek_.push_back({.mit = std::move(mit), .súly = súly});
+    jelöltek_.push_back({.mit = std::move(mit), .súly = súly, .címkék = címkék});
+}
+
+namespace {
+
+/// Makes a word whose meaning does not tell what it was made of, unlike "-dik" and "-tat".
+bool szóalkotó(const QString &címke) {
+    return képzőcímke(címke) && !címke.contains(u"_ORDINAL_") && !címke.contains(u"_FACTITIVE_");
+}
+
+}  // namespace
+
+void olvasatkészítő::felbontottakat_elhagy() {
+    const auto ugyanaz_képzővel = [](const súlyozott &hosszabb, const súlyozott &rövidebb) {
+        const qsizetype képzők = hosszabb.címkék.size() - rövidebb.címkék.size();
+        return képzők > 0 && !rövidebb.címkék.isEmpty() && rövidebb.súly <= hosszabb.súly &&
+               rövidebb.mit.előtag == hosszabb.mit.előtag &&
+               std::ranges::all_of(hosszabb.címkék.first(képzők), szóalkotó) &&
+               hosszabb.címkék.sliced(képzők) == rövidebb.címkék;
+    };
+    const std::vector<súlyozott> mind = jelöltek_;
+    std::erase_if(jelöltek_, [&](const súlyozott &hosszabb) {
+        return std::ranges::any_of(mind,
+                                   [&](const súlyozott &rövidebb) { return ugyanaz_képzővel(hosszabb, rövidebb); });
+    });
 }
 
 std::vector<olvasat> olvasatkészítő::rendezve() {
+    felbontottakat_elhagy();
     const auto gyakoriság = [this](const súlyozott &jelölt) {
         return kérdések_.gyakoriság ? kérdések_.gyakoriság(jelölt.mit.alapalak) : 0;
     };

@@ -213,6 +213,9 @@ bool lehetetlen(const elemzés &elemzés, QStringView alak) {
     const QStringList &címkék = elemzés.címkék;
     if (std::ranges::count_if(címkék, véges) > 1)
         return true;
+    // "legjobb" is of "jó", not of "jobb".
+    if (elemzés.tő.endsWith(u"bb") && !címkék.isEmpty() && címkék.first().startsWith(u"ip:leg"))
+        return true;
     // Pronouns have none: "engem".
     const bool névmás = elemzés.szófaj == u"noun_pron";
     if (!névmás && !címkék.isEmpty() && címkék.last() == u"is:ACC" && !alak.endsWith(u't', Qt::CaseInsensitive))

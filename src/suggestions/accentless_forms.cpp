@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype shortest_stem = 2;
-constexpr qsizetype longest_word = 30;
+/// Longer words take the analysis a millisecond for each try.
+constexpr qsizetype longest_word = 20;
 constexpr qsizetype most_forms = 3;
 constexpr int most_tries = 48;
 /// Of what stands behind one stem.

@@ -103,14 +103,19 @@ struct címszólista::belső {
                 missing.append(
                     u"A szavak gyakorisága nem ehhez a szótárhoz való: „%1”."_s.arg(in.filePath(frequency_name)));
         }
-        take_apart(bytes, known.value_or(QByteArrayView()));
+        const qsizetype lines = take_apart(bytes, known.value_or(QByteArrayView()));
+        if (known && known->size() != lines)
+            missing.append(u"A szavak gyakorisága sérült: „%1”."_s.arg(in.filePath(frequency_name)));
     }
 
   private:
-    void take_apart(QByteArrayView dictionary, QByteArrayView frequencies) {
+    /// Returns the number of lines behind the notice.
+    qsizetype take_apart(QByteArrayView dictionary, QByteArrayView frequencies) {
         std::array<std::vector<Read>, leghosszabb + 1> read;
         qsizetype start = dictionary.indexOf('\n') + 1;
-        for (qsizetype number = 0; start > 0 && start < dictionary.size(); ++number) {
+        qsizetype lines = 0;
+        while (start > 0 && start < dictionary.size()) {
+            const qsizetype number = lines++;
             const qsizetype end = dictionary.indexOf('\n', start);
             const QByteArrayView line = dictionary.sliced(start, (end < 0 ? dictionary.size() : end) - start);
             start = end + 1;
@@ -124,6 +129,7 @@ struct címszólista::belső {
                 groups[length] = group_of(read[length], static_cast<qsizetype>(length), dictionary);
             std::vector<Read>().swap(read[length]);
         }
+        return lines;
     }
 
     void add(QByteArrayView dictionary, QByteArrayView line, std::uint8_t frequency,

@@ -26,7 +26,8 @@ struct Side {
     }
 };
 
-/// The text without what surrounds it: quotation marks, brackets, the full stop of its sentence.
+/// The text without what surrounds it: quotation marks, brackets, the full stop of its sentence. The apostrophe of
+/// "parents'" is a part of the word.
 QString trimmed(const QString &text) {
     qsizetype first = 0;
     qsizetype behind = text.size();
@@ -34,6 +35,10 @@ QString trimmed(const QString &text) {
         ++first;
     while (behind > first && !text[behind - 1].isLetterOrNumber())
         --behind;
+    static constexpr QStringView apostrophes = u"'’";
+    const bool owned = first == 0 && behind > 0 && behind < text.size() && text[behind - 1].toLower() == u's';
+    if (owned && apostrophes.contains(text[behind]))
+        ++behind;
     return text.sliced(first, behind - first).simplified().normalized(QString::NormalizationForm_C);
 }
 
@@ -149,8 +154,20 @@ class Question final {
         }
     }
 
+    /// True when the text is a usual word and spelt as it should be, in a form that the analysis knows. What is made of
+    /// English forms by rules is no proof: "begining".
+    [[nodiscard]] bool is_spelt_right(const Side &side) const {
+        if (side.from_english || !side.forms)
+            return false;
+        const auto readings = side.forms->olvasatok(text_);
+        return !readings.empty() && readings.front().előtag.isEmpty() &&
+               side.headwords.gyakoriság(readings.front().alapalak) >= common;
+    }
+
   private:
     static constexpr int one_letter = 10;
+    /// How common a word that people use is at least.
+    static constexpr int common = 110;
 
     void ask_forms_too(const Side &side, Offers &offers) const {
         const bool known = !offers.empty();
@@ -175,9 +192,8 @@ class Question final {
 
     /// True when one of the offers is a word that people use.
     static bool is_likely(const Side &side, const Offers &offers) {
-        constexpr int usual = 110;
         return std::ranges::any_of(offers.all(), [&](const ajánlat &offer) {
-            return offer.angolról == side.from_english && side.headwords.gyakoriság(offer.címszó) >= usual;
+            return offer.angolról == side.from_english && side.headwords.gyakoriság(offer.címszó) >= common;
         });
     }
 
@@ -237,10 +253,25 @@ QVector<ajánlat> chosen(Offers &offers) {
 
 }  // namespace
 
+void ajánló::betölt(bool angolról) {
+    if (!betöltők_.empty())
+        return;
+    // The analysis of Hungarian takes as long as all the rest.
+    if (alakelemző *hungarian = források_.magyar_alakok)
+        betöltők_.emplace_back([hungarian] { static_cast<void>(hungarian->hiányok()); });
+    címszólista &other = angolról ? források_.magyar_címszavak : források_.angol_címszavak;
+    betöltők_.emplace_back([&other] { static_cast<void>(other.hiányok()); });
+    címszólista &own = angolról ? források_.angol_címszavak : források_.magyar_címszavak;
+    static_cast<void>(own.hiányok());
+    if (források_.kifejezések)
+        static_cast<void>(források_.kifejezések->hiányok());
+}
+
 ajánlás ajánló::ajánl(const ajánlókérdés &kérdés, const std::function<bool()> &elavult) {
     const QString text = trimmed(kérdés.szöveg);
     if (text.isEmpty() || text.size() > longest_text || elavult())
         return {};
+    betölt(kérdés.angolról);
     const Side english{true, források_.angol_címszavak, források_.angol_alakok};
     const Side hungarian{false, források_.magyar_címszavak, források_.magyar_alakok};
     const Side &own = kérdés.angolról ? english : hungarian;
@@ -254,7 +285,8 @@ ajánlás ajánló::ajánl(const ajánlókérdés &kérdés, const std::function
     const bool found = known || !offers.empty();
     if (!found)
         question.ask_other(other, offers);
-    if (!known) {
+    // Beside what is certain a slip only confuses: "to turn it on" for "turn it off".
+    if (!known && offers.count(ajánlatfajta::egység) == 0 && !question.is_spelt_right(own)) {
         const bool explained = offers.count(ajánlatfajta::alak) > 0;
         question.add_slips(own, legtöbb, explained || (!found && !offers.empty()), offers);
         if (offers.empty())

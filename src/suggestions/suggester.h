@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QVector>
 #include <functional>
+#include <thread>
+#include <vector>
 
 #include "forms/form_reader.h"
 #include "suggestions/headword_list.h"
@@ -51,7 +53,8 @@ struct ajánlókérdés {
 /// Finds out what was probably meant by a text that is no headword.
 ///
 /// Made on any thread, then used on one thread, which should not be the window's: the first question takes a fraction
-/// of a second, later ones some milliseconds. Nothing is loaded before the first question. munkaszál
+/// of a second, later ones some milliseconds. Nothing is loaded before the first question, which has everything loaded
+/// side by side and waits for what it needs itself; the destructor waits for the rest. munkaszál
 /// (suggestions/worker_thread.h) asks from a window.
 class ajánló final {
   public:
@@ -76,5 +79,8 @@ class ajánló final {
     [[nodiscard]] QStringList hiányok();
 
   private:
+    void betölt(bool angolról);
+
     források források_;
+    std::vector<std::jthread> betöltők_;
 };

@@ -60,6 +60,16 @@ TEST_F(EnglishForms, of_two_words_have_both_the_likelier_first) {
     EXPECT_TRUE(bases(u"leaves"_s).contains(u"to leave"_s));
 }
 
+TEST_F(EnglishForms, have_a_stem_in_front_of_a_foreign_plural) {
+    EXPECT_EQ(bases(u"a"_s), QStringList{u"a"_s});
+    EXPECT_TRUE(bases(u"bacteria"_s).contains(u"bacterium"_s));
+}
+
+TEST_F(EnglishForms, that_are_contracted_are_no_possessives) {
+    EXPECT_EQ(bases(u"let's"_s), (QStringList{u"to let"_s, u"let's"_s}));
+    EXPECT_EQ(line(u"parents'"_s), "parents' = parent (többes szám, birtokos eset: s')");
+}
+
 TEST_F(EnglishForms, that_only_look_inflected_are_themselves) {
     for (const QString &word : {u"evening"_s, u"number"_s, u"during"_s, u"his"_s, u"always"_s, u"bed"_s, u"news"_s})
         EXPECT_EQ(bases(word).value(0), word) << line(word);

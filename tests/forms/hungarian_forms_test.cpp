@@ -81,6 +81,26 @@ TEST_F(HungarianForms, of_derived_headwords_lead_to_these) {
     EXPECT_EQ(line(u"nyelvtanulóknak"_s), "nyelvtanulóknak = nyelv + tanuló + többes szám + -nak/-nek (kinek? minek?)");
 }
 
+TEST_F(HungarianForms, of_derived_headwords_are_not_taken_apart_any_further) {
+    EXPECT_EQ(bases(u"dolgoznak"_s), QStringList{u"dolgozik"_s});
+    EXPECT_EQ(bases(u"esőben"_s), QStringList{u"eső"_s});
+    EXPECT_EQ(bases(u"futó"_s), (QStringList{u"futó"_s, u"fut"_s}));
+    EXPECT_TRUE(bases(u"nevettetett"_s).contains(u"nevet"_s));
+    EXPECT_TRUE(bases(u"huszadikat"_s).contains(u"húsz"_s));
+}
+
+TEST_F(HungarianForms, of_words_with_another_stem_lead_to_the_word_that_learners_look_up) {
+    EXPECT_EQ(line(u"fia"_s), "fia = fiú + birtokos: ő");
+    EXPECT_EQ(line(u"fiaimmal"_s), "fiaimmal = fiú + többes szám + birtokos: én + -val/-vel (kivel? mivel?)");
+    EXPECT_EQ(line(u"emlékszem"_s), "emlékszem = emlékszik + jelen idő, én, alanyi ragozás");
+    EXPECT_EQ(line(u"emlékezem"_s), "emlékezem = emlékezik + jelen idő, én, alanyi vagy tárgyas ragozás");
+    EXPECT_EQ(line(u"lehetne"_s), "lehetne = lehet + feltételes mód, ő, alanyi ragozás");
+}
+
+TEST_F(HungarianForms, of_the_highest_degree_are_none_of_the_middle_one) {
+    EXPECT_EQ(bases(u"legjobbak"_s), QStringList{u"jó"_s});
+}
+
 TEST_F(HungarianForms, are_themselves_where_they_are_the_base) {
     EXPECT_EQ(line(u"látszik"_s), "látszik = látszik");
     EXPECT_EQ(line(u"ház"_s), "ház = ház");

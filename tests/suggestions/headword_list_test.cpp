@@ -54,6 +54,19 @@ TEST(HeadwordList, has_the_frequencies_of_the_lines) {
     EXPECT_TRUE(english.hiányok().isEmpty());
 }
 
+TEST(HeadwordList, says_that_frequencies_are_cut) {
+    const DictionaryFolder folder(small_dictionary({u"apple:alma÷"_s, u"pear:körte÷"_s}), small_dictionary({}));
+    címszólista english(folder.path(), címszólista::nyelv::angol);
+    folder.write_frequencies("\x05\x06", {});
+    EXPECT_EQ(english.hiányok(), QStringList());
+
+    címszólista cut(folder.path(), címszólista::nyelv::angol);
+    folder.write_frequencies("\x05", {});
+    ASSERT_EQ(cut.hiányok().size(), 1);
+    EXPECT_TRUE(cut.hiányok().front().contains(u"am.gyk"));
+    EXPECT_EQ(cut.gyakoriság(u"apple"), 5);
+}
+
 TEST(HeadwordList, does_without_frequencies_of_another_dictionary_and_says_so) {
     const DictionaryFolder folder = folder_of_words();
     folder.write("am.gyk", gyakoriságfájl::fájlja("another dictionary", "\x05\x05\x05\x05"));

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
+#include <semaphore>
 
 #include "support/dictionary_folder.h"
 #include "support/fake_form_reader.h"
@@ -76,10 +78,27 @@ TEST_F(Suggester, explains_forms_first_and_marks_the_base_as_the_link) {
     EXPECT_EQ(answer.ajánlatok[1].címszó, u"lying"_s);
 }
 
+TEST_F(Suggester, keeps_the_apostrophe_of_a_possessive_plural) {
+    english_forms_.add(u"apples'"_s, {.alapalak = u"apple"_s, .magyarázat = u"birtokos"_s});
+    english_forms_.add(u"apples’"_s, {.alapalak = u"apple"_s, .magyarázat = u"birtokos"_s});
+
+    EXPECT_EQ(headwords(u"apples'"_s).value(0), u"apple"_s);
+    EXPECT_EQ(headwords(u"apples’."_s).value(0), u"apple"_s);
+    EXPECT_EQ(headwords(u"'köszönömökös'"_s, false), headwords(u"köszönömökös"_s, false));
+}
+
 TEST_F(Suggester, explains_nothing_of_a_headword_that_is_only_itself) {
     english_forms_.add(u"apple"_s, {.alapalak = u"apple"_s, .magyarázat = QString()});
 
     EXPECT_EQ(headwords(u"apple"_s), QStringList{u"Apple"_s});
+}
+
+TEST_F(Suggester, tries_accents_for_words_of_twenty_letters_at_most) {
+    EXPECT_TRUE(headwords(u"almaimatokertsemmiben"_s, false).isEmpty());
+    EXPECT_LE(hungarian_forms_.asked, 2);
+
+    EXPECT_TRUE(headwords(u"almaimatokertsemmibe"_s, false).isEmpty());
+    EXPECT_GT(hungarian_forms_.asked, 10);
 }
 
 TEST_F(Suggester, finds_torn_units) {
@@ -119,6 +138,35 @@ TEST_F(Suggester, counts_the_phrases) {
     kifejezéskereső phrases(folder_.path(), {});
     ajánló suggester({.angol_címszavak = english_, .magyar_címszavak = hungarian_, .kifejezések = &phrases});
     EXPECT_EQ(suggester.ajánl({u"alma"_s, false}, never).kifejezések, 1);
+}
+
+/// Takes as long to load as it is let.
+class SlowFormReader final : public alakelemző {
+  public:
+    [[nodiscard]] std::vector<olvasat> olvasatok(const QString &) override { return {}; }
+    [[nodiscard]] QStringList hiányok() override {
+        ++loads;
+        loaded.acquire();
+        return {};
+    }
+    [[nodiscard]] QString sor(const QString &alak, const olvasat &) const override { return alak; }
+
+    std::atomic<int> loads = 0;
+    std::binary_semaphore loaded{0};
+};
+
+TEST_F(Suggester, has_loaded_by_its_first_question_what_that_does_not_wait_for) {
+    SlowFormReader slow;
+    {
+        ajánló suggester({.angol_címszavak = english_, .magyar_címszavak = hungarian_, .magyar_alakok = &slow});
+        EXPECT_TRUE(suggester.ajánl({u"?"_s, true}, never).ajánlatok.isEmpty());
+        EXPECT_EQ(slow.loads, 0);
+
+        EXPECT_EQ(suggester.ajánl({u"recieve"_s, true}, never).ajánlatok.size(), 1);
+        EXPECT_EQ(suggester.ajánl({u"monday"_s, true}, never).ajánlatok.size(), 1);
+        slow.loaded.release();
+    }
+    EXPECT_EQ(slow.loads, 1);
 }
 
 TEST_F(Suggester, says_all_that_is_missing) {

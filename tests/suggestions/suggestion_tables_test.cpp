@@ -41,9 +41,23 @@ class SuggestionTables : public testing::Test {
         return lines.join(u"; "_s);
     }
 
+    [[nodiscard]] qsizetype slips(const QString &text, bool from_english) {
+        return std::ranges::count(all_.suggester.ajánl({text, from_english}, [] { return false; }).ajánlatok,
+                                  ajánlatfajta::elírás, &ajánlat::fajta);
+    }
+
   private:
     RealSuggestions all_;
 };
+
+TEST_F(SuggestionTables, have_no_slips_beside_what_is_certain) {
+    for (const QString &text : {u"várok"_s, u"karja"_s, u"menj"_s, u"levelet"_s, u"hívta fel"_s, u"ment el"_s})
+        EXPECT_EQ(slips(text, false), 0) << text.toStdString();
+    for (const QString &text : {u"turn it off"_s, u"pick me up"_s})
+        EXPECT_EQ(slips(text, true), 0) << text.toStdString();
+    EXPECT_GT(slips(u"begining"_s, true), 0);
+    EXPECT_GT(slips(u"telfon"_s, false), 0);
+}
 
 TEST_F(SuggestionTables, have_the_right_english_word_for_95_of_100_misspelt_ones) {
     expect_table(u"english_slips.txt"_s, true, 0.95);
