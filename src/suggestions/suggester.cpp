@@ -112,6 +112,26 @@ ajánlat explained(const QString &form, const olvasat &reading, const Side &side
             .angolról = side.from_english};
 }
 
+/// The readings with those of one base in one: "mentek" is "megy", now of you or in the past of them. No more than two
+/// of a base, the likelier.
+std::vector<olvasat> one_for_each_base(const std::vector<olvasat> &readings) {
+    std::vector<olvasat> bases;
+    std::vector<int> counts;
+    for (const olvasat &reading : readings) {
+        const auto same = std::ranges::find_if(bases, [&](const olvasat &other) {
+            return other.alapalak == reading.alapalak && other.előtag == reading.előtag;
+        });
+        if (same == bases.end()) {
+            bases.push_back(reading);
+            counts.push_back(1);
+        } else if (!reading.magyarázat.isEmpty() && !same->magyarázat.isEmpty() &&
+                   counts[static_cast<size_t>(same - bases.begin())]++ < 2) {
+            same->magyarázat += u" vagy "_s + reading.magyarázat;
+        }
+    }
+    return bases;
+}
+
 /// One question.
 class Question final {
   public:
@@ -182,7 +202,7 @@ class Question final {
     void add_forms(const QString &text, const Side &side, Offers &offers) const {
         if (!side.forms)
             return;
-        const auto readings = side.forms->olvasatok(text);
+        const auto readings = one_for_each_base(side.forms->olvasatok(text));
         const bool itself_only = readings.size() == 1 && readings.front().alapalak == text;
         for (const olvasat &reading : readings) {
             if (!itself_only)

@@ -82,7 +82,8 @@ depends_on_owners_of_linked_libraries() {
         while read -r library; do
             [[ -z ${seen[$library]:-} ]] || continue
             seen[$library]=yes
-            path=$(realpath "$(awk -v name="$library" '$1 == name { print $3 }' "$temp/libraries")")
+            # The loader stands there by its path.
+            path=$(realpath "$(awk -v name="$library" '$1 == name { print $3 } $1 ~ "/" name "$" { print $1 }' "$temp/libraries")")
             owner=$(dpkg-query --search "*${path#/usr}" | sed -n '1s/:.*//p')
             depends_on "$owner" || fail "$file needs $library, but Depends lacks $owner."
         done < <(objdump -p "$file" | awk '$1 == "NEEDED" { print $2 }')

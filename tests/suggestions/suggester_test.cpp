@@ -169,6 +169,16 @@ TEST_F(Suggester, has_loaded_by_its_first_question_what_that_does_not_wait_for) 
     EXPECT_EQ(slow.loads, 1);
 }
 
+TEST_F(Suggester, tells_two_meanings_of_a_form_of_one_base_in_one_line) {
+    for (const QString &meaning : {u"jelen idő, ti"_s, u"múlt idő, ők"_s, u"harmadik"_s})
+        hungarian_forms_.add(u"mentek"_s, {.alapalak = u"alma"_s, .magyarázat = meaning});
+
+    const ajánlás answer = suggester_.ajánl({u"mentek"_s, false}, never);
+
+    ASSERT_EQ(answer.ajánlatok.size(), 1);
+    EXPECT_EQ(answer.ajánlatok[0].szöveg, u"mentek = alma + jelen idő, ti vagy múlt idő, ők"_s);
+}
+
 TEST_F(Suggester, says_all_that_is_missing) {
     hungarian_forms_.missing = {u"Hiányzik: hu_HU.aff."_s};
     const QString all = suggester_.hiányok().join(u'\n');
