@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QFileInfo>
 
 #include "forms/morphology.h"
 
@@ -8,9 +9,9 @@ extern "C" szóelemző *zimbora_make_morphology(const char *rules, const char *w
 
 namespace {
 
-/// Only a path in this form is read as UTF-8 by the library; others would lose their accents.
+/// Only a path in this form is read as UTF-8 by the library; others would lose their accents. It begins with its drive.
 QByteArray long_path(const QString &path) {
-    return (u"\\\\?\\"_s + QDir::toNativeSeparators(QDir::cleanPath(path))).toUtf8();
+    return (u"\\\\?\\"_s + QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(path).absoluteFilePath()))).toUtf8();
 }
 
 }  // namespace

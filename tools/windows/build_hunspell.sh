@@ -26,8 +26,12 @@ echo "Windowsos Hunspell építése (egyszer kell): $target" >&2
 "$here/fetch_source.sh" hunspell "$version" "$sum" "$work/src" >&2
 source=$work/src/hunspell/src/hunspell
 mkdir -p "$work/hunspell/include/hunspell" "$work/objects"
+# The library reads a path as UTF-8 for one compiler only, whose streams open wide names.
+sed -i -e 's/^#if defined(_WIN32) && defined(_MSC_VER)$/#if defined(_WIN32)/' \
+    -e 's/stream\.open(buff2, mode)/stream.open(std::filesystem::path(buff), mode)/' "$source/csutil.cxx"
+grep -q 'std::filesystem::path(buff)' "$source/csutil.cxx"
 for part in affentry affixmgr csutil filemgr hashmgr hunspell hunzip phonet replist suggestmgr; do
-    "$compiler" -std=c++17 -O2 -DHUNSPELL_STATIC -I"$source" -c "$source/$part.cxx" -o "$work/objects/$part.o"
+    "$compiler" -std=c++17 -include filesystem -O2 -DHUNSPELL_STATIC -I"$source" -c "$source/$part.cxx" -o "$work/objects/$part.o"
 done
 "$archiver" rcs "$work/hunspell/libhunspell.a" "$work"/objects/*.o
 cp "$source"/{atypes.hxx,hunspell.h,hunspell.hxx,hunvisapi.h,w_char.hxx} "$work/hunspell/include/hunspell/"
