@@ -90,7 +90,8 @@ void LinkList::show_lines() {
 void LinkList::put_in_the_middle() {
     QTextFrame &lines = *document()->rootFrame();
     QTextFrameFormat format = lines.frameFormat();
-    format.setTopMargin(std::max(height() - QFontMetrics(document()->defaultFont()).height(), 0) / 2);
+    const int room = height() - QFontMetrics(document()->defaultFont()).height();
+    format.setTopMargin(std::max(room, 0) / 2.0);
     lines.setFrameFormat(format);
 }
 

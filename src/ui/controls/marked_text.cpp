@@ -28,7 +28,7 @@ double lay_out(QTextLayout &layout) {
     layout.setTextOption(option);
     layout.beginLayout();
     QTextLine line = layout.createLine();
-    line.setLineWidth(std::numeric_limits<int>::max() / 256);
+    line.setLineWidth(std::numeric_limits<int>::max() / 256.0);
     layout.endLayout();
     return line.naturalTextWidth();
 }
