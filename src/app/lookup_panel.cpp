@@ -85,6 +85,7 @@ void keresőpanel::lst_ajánlatok_Click(int i) {
     irányt_vált(mit.angolról);
     v_.angolszó->setText(keresőkulcs(QStringView(mit.címszó)).toString());
     k_.kereső.kijelöl(mit.címszó);
+    v_.szólist->show_selected_in_middle();
     v_.szólist->setFocus();
 }
 
@@ -98,6 +99,7 @@ void keresőpanel::szótárat_vizsgál() {
 }
 
 void keresőpanel::nincs_szótár(const Failure &hiba) {
+    k_.ajánlatok.kiürít();
     v_.Label3->setText(u"nincs szótárfájl"_s);
     bool &szólt = hiány_szólt_[k_.kereső.angolról() ? 0 : 1];
     if (szólt)

@@ -44,7 +44,7 @@ szótár::szótár(szótárkörnyezet környezet)
                     .lista = lista_,
                     .ajánlatok = ajánlatok_,
                     .ismeret = [this] { return ismeret(); },
-                    .felvesz = [this](const szópár &pár) { szószedet_.felvesz(pár); },
+                    .felvesz = [this](const szópár &pár) { return szószedet_.felvesz(pár); },
                     .vége = [this] { return vége_; }}),
       kisablak_(k_, *this, *this, kereső_, ajánlatok_) {
     setWindowTitle(u"névtelen szószedet"_s);

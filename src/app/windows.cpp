@@ -143,7 +143,7 @@ kifejezéskörnyezet ablakok::kifejezéseknek() {
             .keresés = kifejezéskeresés(k_.állapot.programkönyvtár, mik_.ismeret()),
             .hozzáad =
                 [this](const QString &angol, const QString &magyar) {
-                    mik_.felvesz({angol, magyar});
+                    return mik_.felvesz({angol, magyar});
                 },
             .bezárva = [this] { kifejezések_.unload(); }};
 }

@@ -34,8 +34,8 @@ struct ablakokkörnyezet {
     ajánlatlista &ajánlatok;
     /// What is known of both languages; made by the first who asks.
     std::function<std::shared_ptr<nyelvismeret>()> ismeret;
-    /// Adds a pair to the word list, or tells why not.
-    std::function<void(const szópár &pár)> felvesz;
+    /// Adds a pair to the word list, with a beep, or tells why not; true when it is there.
+    std::function<bool(const szópár &pár)> felvesz;
     /// True once the program is to end.
     std::function<bool()> vége;
 };

@@ -35,14 +35,16 @@ void szószedetpanel::eseményeket_köt() {
 }
 
 bool szószedetpanel::hozzáad_Click() {
-    k_.üzenetek.beep();
     const auto mit = k_.kereső.választott();
-    if (!mit)
+    if (!mit) {
+        k_.üzenetek.beep();
         return false;
+    }
     return felvesz(k_.kereső.angolról() ? szópár{mit->címszó, mit->jelentés} : szópár{mit->jelentés, mit->címszó});
 }
 
 bool szószedetpanel::felvesz(const szópár &pár) {
+    k_.üzenetek.beep();
     if (!felvehető(pár))
         return false;
     v_.szószedet->select(-1);
@@ -65,9 +67,6 @@ void szószedetpanel::szószedet_Click() {
     v_.szómagylist->select(i);
     beír(*v_.szóangtext, k_.lista.pár(i).angol);
     beír(*v_.szómagytext, k_.lista.pár(i).magyar);
-    // A long text shows its beginning.
-    v_.szóangtext->home(false);
-    v_.szómagytext->home(false);
     // The texts may be those of the pair before.
     szövegmező_Change();
 }
@@ -80,6 +79,8 @@ void szószedetpanel::szövegmező_Change() {
 
 void szószedetpanel::beír(QLineEdit &mező, const QString &szöveg) {
     mező.setText(mutatott(szöveg));
+    // A long text shows its beginning.
+    mező.home(false);
     // What is not shown would be lost.
     mező.setReadOnly(!egészben_mutatott(szöveg));
 }

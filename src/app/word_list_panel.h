@@ -28,7 +28,7 @@ class szószedetpanel final {
     /// Adds the selected hit and meaning to the word list, with a beep. With nothing selected it only beeps; a word
     /// that a file would not give back is refused with a message. True when the list has them now.
     bool hozzáad_Click();
-    /// Adds a pair by the same rule, or tells why no file could hold it; true when it is in the list.
+    /// Adds a pair by the same rule, with a beep, or tells why no file could hold it; true when it is in the list.
     bool felvesz(const szópár &pár);
     void szövegmezőketürít();
     /// The keyboard has moved on from one control of the main window to another.

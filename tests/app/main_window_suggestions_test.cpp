@@ -31,6 +31,16 @@ TEST_F(MainWindowSuggestions, go_when_the_search_field_is_emptied) {
     EXPECT_FALSE(help()->isVisible());
 }
 
+TEST_F(MainWindowSuggestions, go_when_there_is_no_dictionary_any_more) {
+    type("aple");
+    ASSERT_TRUE(comes_true([&] { return help()->isVisible(); }));
+
+    QFile::remove(place("angol/am.txt"));
+    type("x");
+
+    EXPECT_FALSE(help()->isVisible());
+}
+
 TEST_F(MainWindowSuggestions, lead_to_the_headword_that_is_chosen) {
     type("aple");
     ASSERT_TRUE(comes_true([&] { return help_says("apple"); }));

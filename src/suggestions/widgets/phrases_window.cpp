@@ -118,7 +118,8 @@ void frm_kifejezések::cmd_kifejezést_ad_Click() {
     if (!melyik.isValid())
         return;
     const kifejezés &egyik = lista_.egyik(melyik.row());
-    k_.hozzáad(egyik.angol, egyik.magyar);
+    if (k_.hozzáad(egyik.angol, egyik.magyar))
+        Label_kifejezések_->setText(u"Szószedetben: %1 – %2"_s.arg(egyik.angol, egyik.magyar));
 }
 
 void frm_kifejezések::másol() {

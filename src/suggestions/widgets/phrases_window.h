@@ -15,8 +15,8 @@ struct kifejezéskörnyezet {
     ablakkörnyezet közös;
     /// Called on a thread of its own.
     kifejezéslista::keresés keresés;
-    /// Adds a pair to the word list, or tells why not.
-    std::function<void(const QString &angol, const QString &magyar)> hozzáad;
+    /// Adds a pair to the word list, with a beep, or tells why not; true when it is there.
+    std::function<bool(const QString &angol, const QString &magyar)> hozzáad;
     /// Called from the event loop after the user has closed the window, which may be destroyed then.
     std::function<void()> bezárva;
 };

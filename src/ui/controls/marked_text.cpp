@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <QTextCharFormat>
 #include <QTextLayout>
+#include <limits>
 
 namespace {
 

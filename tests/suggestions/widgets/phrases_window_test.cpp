@@ -42,10 +42,14 @@ class PhrasesWindow : public WindowTest {
 
     QStringList added_;
     bool closed_ = false;
+    bool taken_ = true;
     frm_kifejezések window_{{.közös = common(),
                              .keresés = search,
-                             .hozzáad = [this](const QString &english,
-                                               const QString &hungarian) { added_.append(english + u':' + hungarian); },
+                             .hozzáad =
+                                 [this](const QString &english, const QString &hungarian) {
+                                     added_.append(english + u':' + hungarian);
+                                     return taken_;
+                                 },
                              .bezárva = [this] { closed_ = true; }}};
 };
 
@@ -98,6 +102,17 @@ TEST_F(PhrasesWindow, adds_the_pair_that_is_double_clicked) {
     QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, second);
 
     EXPECT_EQ(added_, QStringList{u"to turn on:bekapcsol"_s});
+}
+
+TEST_F(PhrasesWindow, tells_what_was_added_and_not_what_was_refused) {
+    find_turn();
+    taken_ = false;
+    QTest::keyClick(box(), Qt::Key_Return);
+    EXPECT_EQ(count(), u"2 kifejezés"_s);
+
+    taken_ = true;
+    QTest::keyClick(box(), Qt::Key_Return);
+    EXPECT_EQ(count(), u"Szószedetben: to turn off – lekapcsol"_s);
 }
 
 TEST_F(PhrasesWindow, copies_both_sides_of_the_selected_pair) {
